@@ -1,0 +1,98 @@
+#include "common/file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include "common/fault.h"
+
+namespace common {
+
+namespace {
+
+constexpr off_t kLargestFile = 64LL << 20;
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int Number() const { return number_; }
+  /// Closes now, because a full disk may show only here.
+  int Close() { return close(std::exchange(number_, -1)); }
+
+ private:
+  int number_;
+};
+
+[[noreturn]] void RaiseFileFault(const std::string& path, int error) {
+  if (error == ENOENT || error == ENOTDIR) throw RuntimeFault(Fault::kFileNotFound);
+  const char* reason = "";
+  switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+      reason = "ディスクの空き容量が不足しています。";
+      break;
+    case EFBIG:
+      reason = "ファイルが大きすぎます。";
+      break;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      reason = "アクセスが許可されていません。";
+      break;
+    case EISDIR:
+      reason = "ファイルではなくフォルダです。";
+      break;
+    default:
+      reason = std::strerror(error);
+  }
+  throw RuntimeFault(Fault::kFileAccess,
+                     std::string(FaultText(Fault::kFileAccess)) + "\n" + path + "\n" + reason);
+}
+
+}  // namespace
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  if (!path.empty() && path.back() != '/') path += '/';
+  return path.append(name);
+}
+
+std::string ReadFile(const std::string& path) {
+  Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  struct stat status {};
+  if (file.Number() < 0 || fstat(file.Number(), &status) != 0) RaiseFileFault(path, errno);
+  if (S_ISDIR(status.st_mode)) RaiseFileFault(path, EISDIR);
+  std::string bytes;
+  char buffer[65536];
+  while (true) {
+    const ssize_t count = read(file.Number(), buffer, sizeof buffer);
+    if (count == 0) return bytes;
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseFileFault(path, errno);
+    bytes.append(buffer, static_cast<std::size_t>(count));
+    if (bytes.size() > static_cast<std::size_t>(kLargestFile)) RaiseFileFault(path, EFBIG);
+  }
+}
+
+void WriteFile(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (file.Number() < 0) RaiseFileFault(path, errno);
+  while (!bytes.empty()) {
+    const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseFileFault(path, errno);
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  if (file.Close() != 0) RaiseFileFault(path, errno);
+}
+
+}  // namespace common

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace common {
+
+/// Folder and file name joined by the platform's separator.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// All bytes of a file. Raises kFileNotFound when it or its folder does not exist, kFileAccess with
+/// the system's reason when it cannot be read, and refuses files beyond 64 MiB as no data of ours.
+std::string ReadFile(const std::string& path);
+
+/// Replaces a file's contents. Raises kFileAccess with the system's reason when that fails at any
+/// point; the file may then be cut short.
+void WriteFile(const std::string& path, std::string_view bytes);
+
+}  // namespace common
