@@ -1,0 +1,92 @@
+#include "shell/form_manager.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace shell {
+
+FormManager::~FormManager() = default;
+
+void FormManager::Provide(const std::string& name, Factory factory) {
+  factories_[name] = std::move(factory);
+}
+
+std::vector<std::string> FormManager::KnownNames() const {
+  std::vector<std::string> names;
+  for (const auto& [name, factory] : factories_) names.push_back(name);
+  return names;
+}
+
+forms::Form* FormManager::Find(const std::string& name) const {
+  const auto found = std::find_if(open_.begin(), open_.end(),
+                                  [&](const auto& form) { return form->Name() == name; });
+  return found == open_.end() ? nullptr : found->get();
+}
+
+forms::Form& FormManager::Show(const std::string& name) {
+  forms::Form* form = Find(name);
+  if (form == nullptr) {
+    const auto factory = factories_.find(name);
+    if (factory == factories_.end()) throw std::logic_error("no form " + name);
+    open_.push_back(factory->second());
+    form = open_.back().get();
+    form->SetPresenter(&presenter_);
+    form->RunEvent(nullptr, [&] { form->Load(); });
+    presenter_.ShowForm(*form);
+    form->RunEvent(nullptr, [&] { form->Activate(); });
+  } else {
+    MakeActive(*form);
+    presenter_.RaiseForm(*form);
+  }
+  return *form;
+}
+
+void FormManager::MakeActive(forms::Form& form) {
+  const auto found = std::find_if(open_.begin(), open_.end(),
+                                  [&](const auto& other) { return other.get() == &form; });
+  if (found == open_.end() || found + 1 == open_.end()) return;
+  std::rotate(found, found + 1, open_.end());
+  form.RunEvent(nullptr, [&] { form.Activate(); });
+}
+
+void FormManager::Unload(forms::Form& form) {
+  const auto found = std::find_if(open_.begin(), open_.end(),
+                                  [&](const auto& other) { return other.get() == &form; });
+  if (found == open_.end()) return;
+  form.RunEvent(nullptr, [&] { form.Unload(); });
+  const bool wasInFront = Active() == &form;
+  // Unload may have closed other forms, so the place is looked up again.
+  const auto place = std::find_if(open_.begin(), open_.end(),
+                                  [&](const auto& other) { return other.get() == &form; });
+  if (place == open_.end()) return;
+  closed_.push_back(std::move(*place));
+  open_.erase(place);
+  presenter_.CloseForm(form);
+  form.SetPresenter(nullptr);
+  if (wasInFront && !open_.empty()) {
+    forms::Form& next = *open_.back();
+    next.RunEvent(nullptr, [&] { next.Activate(); });
+    presenter_.RaiseForm(next);
+  }
+}
+
+void FormManager::UnloadAll() {
+  while (!open_.empty()) Unload(*open_.back());
+}
+
+forms::Form* FormManager::Active() const { return open_.empty() ? nullptr : open_.back().get(); }
+
+forms::Form* FormManager::ActiveSheet() const {
+  const auto found = std::find_if(open_.rbegin(), open_.rend(), [](const auto& form) {
+    return form->Role() == forms::FormRole::kSheet;
+  });
+  return found == open_.rend() ? nullptr : found->get();
+}
+
+std::vector<forms::Form*> FormManager::Open() const {
+  std::vector<forms::Form*> result;
+  for (auto form = open_.rbegin(); form != open_.rend(); ++form) result.push_back(form->get());
+  return result;
+}
+
+}  // namespace shell

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+
+namespace shell {
+
+/// Creates the forms by name, keeps the open ones and tells the presenter of their coming and
+/// going. A form that is unloaded during one of its own events is destroyed after it, by
+/// CollectClosed.
+class FormManager {
+ public:
+  using Factory = std::function<std::unique_ptr<forms::Form>()>;
+
+  explicit FormManager(forms::Presenter& presenter) : presenter_(presenter) {}
+  FormManager(const FormManager&) = delete;
+  FormManager& operator=(const FormManager&) = delete;
+  ~FormManager();
+
+  /// Makes a form known under its name.
+  void Provide(const std::string& name, Factory factory);
+  bool Knows(const std::string& name) const { return factories_.contains(name); }
+  std::vector<std::string> KnownNames() const;
+
+  /// Opens the form, or brings the open one to the front, and activates it. An unknown name is our
+  /// own mistake and throws.
+  forms::Form& Show(const std::string& name);
+  /// The form if it is open, or null.
+  forms::Form* Find(const std::string& name) const;
+  /// Closes an open form: its Unload runs, it disappears, and the form below comes to the front.
+  void Unload(forms::Form& form);
+  void UnloadAll();
+
+  /// The user or the program has brought this open form to the front.
+  void MakeActive(forms::Form& form);
+  /// The form in front, or null.
+  forms::Form* Active() const;
+  /// The sheet in front of the other sheets, or null.
+  forms::Form* ActiveSheet() const;
+  /// Open forms, the one in front first.
+  std::vector<forms::Form*> Open() const;
+
+  /// Destroys what has been unloaded. To be called between events.
+  void CollectClosed() { closed_.clear(); }
+
+  forms::Presenter& Shown() const { return presenter_; }
+
+ private:
+  forms::Presenter& presenter_;
+  std::map<std::string, Factory> factories_;
+  /// The last one is in front.
+  std::vector<std::unique_ptr<forms::Form>> open_;
+  std::vector<std::unique_ptr<forms::Form>> closed_;
+};
+
+}  // namespace shell
