@@ -63,11 +63,13 @@ void FormManager::Unload(forms::Form& form) {
   open_.erase(place);
   presenter_.CloseForm(form);
   form.SetPresenter(nullptr);
-  if (wasInFront && !open_.empty()) {
-    forms::Form& next = *open_.back();
-    next.RunEvent(nullptr, [&] { next.Activate(); });
-    presenter_.RaiseForm(next);
+  if (!wasInFront || open_.empty()) return;
+  // The sheet now on top takes the workspace over, even when a tool window stands before it.
+  forms::Form* const sheet = ActiveSheet();
+  if (form.Role() == forms::FormRole::kSheet && sheet != nullptr) {
+    sheet->RunEvent(nullptr, [&] { sheet->Activate(); });
   }
+  presenter_.RaiseForm(*open_.back());
 }
 
 void FormManager::UnloadAll() {

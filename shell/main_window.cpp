@@ -70,7 +70,9 @@ void MainWindow::SetCommandEnabled(const std::string& name, bool enabled) {
 }
 
 void MainWindow::SetChecked(const std::string& name, bool checked) {
-  Edit(name)->checked = checked;
+  Command& command = *Edit(name);
+  command.checkable = true;
+  command.checked = checked;
   TellChanged();
 }
 
@@ -88,19 +90,26 @@ void MainWindow::SetButtonToolTip(int number, const std::string& toolTip) {
   TellChanged();
 }
 
+void MainWindow::RunGuarded(const std::function<void()>& run) const {
+  const auto copy = run;  // the command may rebuild the menus
+  try {
+    copy();
+  } catch (const common::RuntimeFault& fault) {
+    if (onFault) onFault(fault);
+  }
+}
+
 bool MainWindow::Run(const std::string& name) {
   const Command* const command = Find(name);
   if (command == nullptr || !command->enabled || !command->run) return false;
-  const auto run = command->run;
-  run();
+  RunGuarded(command->run);
   return true;
 }
 
 bool MainWindow::Press(int number) {
   const ToolButton* const button = Button(number);
   if (button == nullptr || !button->enabled || !button->run) return false;
-  const auto run = button->run;
-  run();
+  RunGuarded(button->run);
   return true;
 }
 

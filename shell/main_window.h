@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "common/fault.h"
+
 namespace shell {
 
 /// A command of the main window, under the name of its menu item.
@@ -70,8 +72,11 @@ class MainWindow {
 
   /// Enabling, marks, tool tips or title changed.
   std::function<void()> onChange;
+  /// A command ended in a fault.
+  std::function<void(const common::RuntimeFault&)> onFault;
 
  private:
+  void RunGuarded(const std::function<void()>& run) const;
   Command* Edit(const std::string& name);
   void TellChanged() const;
 

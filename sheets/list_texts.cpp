@@ -1,0 +1,20 @@
+#include "sheets/list_texts.h"
+
+#include <algorithm>
+
+#include "data/pipe_table.h"
+
+namespace sheets {
+
+std::vector<std::string> NominalSizeTexts(const data::ConvertLists& lists) {
+  std::vector<std::string> texts = lists.nominalSizes;
+  for (std::string& text : texts) text += "in";
+  return texts;
+}
+
+std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists) {
+  const auto count = std::min<std::size_t>(lists.schedules.size(), data::PipeTable::kSchedules);
+  return {lists.schedules.begin(), lists.schedules.begin() + static_cast<std::ptrdiff_t>(count)};
+}
+
+}  // namespace sheets

@@ -1,0 +1,417 @@
+#include "sheets/process_sheet.h"
+
+#include <utility>
+
+#include "common/number.h"
+#include "data/steam.h"
+#include "data/units.h"
+#include "sheets/frm_fluid_names.h"
+
+namespace sheets {
+
+namespace {
+
+using common::NumberText;
+using common::Val;
+
+constexpr const char* kEstimateHint = "ダブルクリックで推算値を入力します。";
+
+/// Runs a conversion of an entry that may not be complete yet; a fault leaves 0.
+template <class Conversion>
+Real Quietly(Conversion conversion) {
+  try {
+    return conversion();
+  } catch (const common::RuntimeFault&) {
+    return 0;
+  }
+}
+
+}  // namespace
+
+HumidityFields::HumidityFields(Form& form)
+    : lbl相対湿度(form, "lbl相対湿度", "相対湿度"),
+      txt相対湿度(form, "txt相対湿度", forms::NumberKeys),
+      lbl相対湿度単位(form, "lbl相対湿度単位", "%", LabelStyle::kUnit),
+      lbl飽和水蒸気圧(form, "lbl飽和水蒸気圧", "飽和水蒸気圧"),
+      txt飽和水蒸気圧(form, "txt飽和水蒸気圧", forms::NumberKeys),
+      cbo飽和水蒸気圧単位(form, "cbo飽和水蒸気圧単位") {}
+
+BaseFields::BaseFields(Form& form)
+    : lbl計算基準(form, "lbl計算基準", "計算基準"),
+      optWetBase(form, "optWetBase", "湿り基準（Wet Base）", "base"),
+      optDryBase(form, "optDryBase", "乾燥基準（Dry Base）", "base") {}
+
+ProcessSheet::ProcessSheet(shell::Workspace& workspace, const std::string& kind,
+                           std::string caption)
+    : Sheet(workspace, kind, std::move(caption)) {
+  cbo流体.onClick = [this] { cbo流体_Click(); };
+  for (ComboBox* box : {&cbo流量単位L, &cbo流量単位G, &cbo流量単位S}) {
+    box->onClick = [this] { cbo流量単位_Click(); };
+  }
+  for (TextBox* box : {&txt圧力, &txt温度, &txt密度, &txt粘性係数}) Watch(*box);
+  for (ComboBox* box : {&cbo圧力単位, &cbo温度単位, &cbo密度単位L, &cbo密度単位G, &cbo密度単位S,
+                        &cbo粘性係数単位}) {
+    Watch(*box);
+  }
+  OfferEntry(lbl密度, txt密度, [this] { FillFromFluidOrSteam("密度"); });
+  OfferEntry(lbl粘性係数, txt粘性係数, [this] { FillFromFluidOrSteam("粘性係数"); });
+  txt温度.onDblClick = [this] { FillTemperature(); };
+  txt温度.SetToolTip("蒸気ではダブルクリックで飽和温度を入力します。");
+}
+
+void ProcessSheet::UseFields(const OptionalFields& fields) {
+  fields_ = fields;
+  if (fields_.humidity != nullptr) {
+    HumidityFields& humidity = *fields_.humidity;
+    humidity.txt相対湿度.onChange = [this] {
+      SwitchHumidity();
+      StoreEntries();
+      ClearResults();
+    };
+    Watch(humidity.txt飽和水蒸気圧);
+    Watch(humidity.cbo飽和水蒸気圧単位);
+    OfferEntry(humidity.lbl飽和水蒸気圧, humidity.txt飽和水蒸気圧,
+               [this] { FillSaturationPressure(); });
+  }
+  if (fields_.base != nullptr) {
+    for (OptionButton* option : {&fields_.base->optWetBase, &fields_.base->optDryBase}) {
+      option->onClick = [this] {
+        StoreEntries();
+        ClearResults();
+      };
+    }
+  }
+  if (fields_.deviation != nullptr) {
+    Watch(*fields_.deviation);
+    OfferEntry(*fields_.deviationLabel, *fields_.deviation,
+               [this] { FillFromFluidOrSteam("偏差係数"); });
+  }
+  if (fields_.kappa != nullptr) {
+    TextBox& kappa = *fields_.kappa;
+    Watch(kappa);
+    OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
+  }
+}
+
+void ProcessSheet::Watch(TextBox& box) {
+  box.onChange = [this, &box] {
+    box.SetForeColor(forms::kBlack);
+    StoreEntries();
+    ClearResults();
+  };
+}
+
+void ProcessSheet::Watch(ComboBox& box) {
+  box.onClick = [this] {
+    StoreEntries();
+    ClearResults();
+  };
+  box.onChange = box.onClick;
+}
+
+void ProcessSheet::OfferEntry(Label& label, TextBox& box, std::function<void()> fill) {
+  box.onDblClick = [&box, fill] {
+    if (box.Usable()) fill();
+  };
+  label.onClick = box.onDblClick;
+  box.SetToolTip(kEstimateHint);
+  label.SetToolTip("クリックで推算値を入力します。");
+}
+
+void ProcessSheet::FillList(ComboBox& box, const std::vector<std::string>& items) {
+  box.SetItems(items);
+  if (box.Count() > 0) box.SetIndex(0);
+}
+
+void ProcessSheet::Load() {
+  const Quiet quiet(*this);
+  const data::ConvertLists& lists = Tables().lists;
+  FillList(cbo流体, lists.fluids);
+  FillList(cbo流量単位L, lists.liquidFlowUnits);
+  FillList(cbo流量単位G, lists.gasFlowUnits);
+  FillList(cbo流量単位S, data::kSteamFlowUnits);
+  FillList(cbo圧力単位, lists.pressureUnits);
+  FillList(cbo温度単位, lists.temperatureUnits);
+  FillList(cbo密度単位L, data::kLiquidDensityUnits);
+  FillList(cbo密度単位G, lists.gasDensityUnits);
+  FillList(cbo密度単位S, data::kSteamDensityUnits);
+  FillList(cbo粘性係数単位, lists.viscosityUnits);
+  if (fields_.humidity != nullptr) {
+    FillList(fields_.humidity->cbo飽和水蒸気圧単位, lists.vapourPressureUnits);
+  }
+  if (fields_.base != nullptr) fields_.base->optWetBase.SetChecked(true);
+  ShowUnitsOfPhase();
+}
+
+void ProcessSheet::Activate() {
+  Sheet::Activate();
+  StoreEntries();
+}
+
+void ProcessSheet::Unload() {
+  Sheet::Unload();
+  if (Form* const names = Space().forms.Find(frm流体名表示::kName)) Space().forms.Unload(*names);
+}
+
+ComboBox& ProcessSheet::FlowUnitBox() {
+  return IsGas() ? cbo流量単位G : IsSteam() ? cbo流量単位S : cbo流量単位L;
+}
+
+ComboBox& ProcessSheet::DensityUnitBox() {
+  return IsGas() ? cbo密度単位G : IsSteam() ? cbo密度単位S : cbo密度単位L;
+}
+
+void ProcessSheet::SwitchField(TextBox& box, bool on) {
+  box.SetBackColor(on ? forms::kWhite : forms::kButtonFace);
+  box.SetEnabled(on);
+  if (!on) box.SetText("");
+}
+
+void ProcessSheet::ShowUnitsOfPhase() {
+  const auto show = [this](ComboBox& liquid, ComboBox& gas, ComboBox& steam) {
+    liquid.SetVisible(!IsGas() && !IsSteam());
+    gas.SetVisible(IsGas());
+    steam.SetVisible(IsSteam());
+  };
+  if (fields_.humidity != nullptr) {
+    SwitchField(fields_.humidity->txt相対湿度, IsGas());
+    SwitchHumidity();
+  }
+  if (fields_.deviation != nullptr) SwitchField(*fields_.deviation, IsGas());
+  if (fields_.kappa != nullptr) SwitchField(*fields_.kappa, IsGas() || IsSteam());
+  show(cbo流量単位L, cbo流量単位G, cbo流量単位S);
+  show(cbo密度単位L, cbo密度単位G, cbo密度単位S);
+  if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
+}
+
+void ProcessSheet::cbo流体_Click() {
+  Process().fluidPhase = Phase();
+  ShowUnitsOfPhase();
+  StoreEntries();
+  ClearResults();
+  SetFocus(cbo粘性係数単位);
+  UpdateFluidList();
+}
+
+void ProcessSheet::cbo流量単位_Click() {
+  if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
+  StoreEntries();
+  ClearResults();
+}
+
+/// The saturation pressure and the choice of base have a meaning for a humid gas alone.
+void ProcessSheet::SwitchHumidity() {
+  const Real humidity = Quietly([this] { return Val(fields_.humidity->txt相対湿度.Text()); });
+  const bool humid = IsGas() && humidity != 0;
+  SwitchField(fields_.humidity->txt飽和水蒸気圧, humid);
+  if (fields_.base == nullptr) return;
+  fields_.base->optWetBase.SetEnabled(humid);
+  fields_.base->optDryBase.SetEnabled(humid);
+}
+
+void ProcessSheet::UpdateFluidList() {
+  auto* const names = dynamic_cast<frm流体名表示*>(Space().forms.Find(frm流体名表示::kName));
+  if (names == nullptr) return;
+  if (IsSteam()) {
+    Space().forms.Unload(*names);
+  } else {
+    names->FillNames();
+  }
+}
+
+void ProcessSheet::ReadConditions() {
+  data::ProcessState& process = Process();
+  process.fluidPhase = Phase();
+  process.flowUnit = FlowUnitBox().Index();
+  process.pressureUnit = cbo圧力単位.Index();
+  process.pressureAbs = data::PressureToAbsolute(Val(txt圧力.Text()), process.pressureUnit);
+  process.temperatureUnit = cbo温度単位.Index();
+  process.temperatureC = data::TemperatureToCelsius(process, Val(txt温度.Text()));
+  process.temperatureK = process.temperatureC + 273.15;
+  process.densityUnit = DensityUnitBox().Index();
+  process.viscosityUnit = cbo粘性係数単位.Index();
+  process.flowBasis = data::kWetBase;
+  process.relativeHumidity = 0;
+  process.saturationPressure = 0;
+  process.compressibilityZ = 1;
+}
+
+bool ProcessSheet::ReadHumidity() {
+  if (!IsGas() || fields_.humidity == nullptr) return true;
+  data::ProcessState& process = Process();
+  const HumidityFields& fields = *fields_.humidity;
+  process.relativeHumidity = common::Single(Val(fields.txt相対湿度.Text()));
+  if (fields_.base != nullptr) {
+    process.flowBasis = fields_.base->optWetBase.Checked() ? data::kWetBase : data::kDryBase;
+  }
+  if (process.relativeHumidity == 0) return true;
+  process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
+  process.saturationPressure = data::VapourPressureToAbsolute(Val(fields.txt飽和水蒸気圧.Text()),
+                                                              process.saturationPressureUnit);
+  if (process.saturationPressure != 0) return true;
+  User().Show("飽和蒸気圧力が入力されていません");
+  return false;
+}
+
+void ProcessSheet::ReadDeviation(const std::string& name) {
+  if (!IsGas() || fields_.deviation == nullptr) return;
+  TextBox& box = *fields_.deviation;
+  if (Val(box.Text()) == 0) {
+    User().Show(name + "が入力されていないので\n1として計算します");
+    box.SetText("1");
+  }
+  Process().compressibilityZ = Val(box.Text());
+}
+
+void ProcessSheet::ReadKappa() {
+  if (IsLiquid() || fields_.kappa == nullptr) return;
+  if (Val(fields_.kappa->Text()) != 0) return;
+  User().Show("ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数が入力されていないので\n1.4として計算します");
+  fields_.kappa->SetText("1.4");
+}
+
+void ProcessSheet::ReadDensities() {
+  data::ProcessState& process = Process();
+  process.waterVapourDensity = data::SaturatedWaterVapourDensity(process);
+  process.densityBase = data::DensityToNormal(process, Val(txt密度.Text()));
+  process.densityFlow = data::NormalDensityAtFlowState(process);
+  process.viscosityCp = data::ViscosityToPoise(process, Val(txt粘性係数.Text()));
+}
+
+void ProcessSheet::StoreEntries() {
+  data::ProcessState& process = Process();
+  const auto value = [](const TextBox* box) {
+    return box == nullptr ? Real(0) : Quietly([&] { return Val(box->Text()); });
+  };
+  process.fluidPhase = Phase();
+  process.flowUnit = FlowUnitBox().Index();
+  process.pressureUnit = cbo圧力単位.Index();
+  process.temperatureUnit = cbo温度単位.Index();
+  process.densityUnit = DensityUnitBox().Index();
+  process.viscosityUnit = cbo粘性係数単位.Index();
+  process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
+  process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
+  process.temperatureK = process.temperatureC + 273.15;
+  process.compressibilityZ = IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : 1;
+  process.relativeHumidity = 0;
+  process.saturationPressure = 0;
+  process.flowBasis = data::kWetBase;
+  if (IsGas() && fields_.humidity != nullptr) {
+    const HumidityFields& fields = *fields_.humidity;
+    process.relativeHumidity = Quietly([&] { return common::Single(value(&fields.txt相対湿度)); });
+    process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
+    process.saturationPressure = data::VapourPressureToAbsolute(value(&fields.txt飽和水蒸気圧),
+                                                                process.saturationPressureUnit);
+    if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
+      process.flowBasis = data::kDryBase;
+    }
+  }
+  process.waterVapourDensity = Quietly([&] { return data::SaturatedWaterVapourDensity(process); });
+  process.densityBase = Quietly([&] { return data::DensityToNormal(process, value(&txt密度)); });
+  process.densityFlow = Quietly([&] { return data::NormalDensityAtFlowState(process); });
+  process.viscosityCp =
+      Quietly([&] { return data::ViscosityToPoise(process, value(&txt粘性係数)); });
+}
+
+TextBox* ProcessSheet::FieldOf(const std::string& word) {
+  if (word == "密度") return &txt密度;
+  if (word == "粘性係数") return &txt粘性係数;
+  if (word == "偏差係数") return fields_.deviation;
+  if (word == "比熱比") return fields_.kappa;
+  if (word == "飽和水蒸気圧" && fields_.humidity != nullptr) {
+    return &fields_.humidity->txt飽和水蒸気圧;
+  }
+  return nullptr;
+}
+
+Real ProcessSheet::EstimateDeviation(data::PropertyEstimator& estimator, int fluidIndex) {
+  return estimator.EstimateCompressibilityRatio(fluidIndex);
+}
+
+std::optional<Real> ProcessSheet::Estimate(const std::string& word, int fluidIndex) {
+  data::PropertyEstimator estimator(Tables().liquids, Tables().gases, Process(), User());
+  if (word == "密度") {
+    return IsLiquid() ? estimator.EstimateLiquidDensity(fluidIndex)
+                      : estimator.EstimateGasDensity(fluidIndex);
+  }
+  if (word == "粘性係数") {
+    return IsLiquid() ? estimator.EstimateLiquidViscosity(fluidIndex)
+                      : estimator.EstimateGasViscosity(fluidIndex);
+  }
+  if (word == "偏差係数") return EstimateDeviation(estimator, fluidIndex);
+  if (word == "比熱比") return estimator.EstimateIsentropicExponent(fluidIndex);
+  return std::nullopt;
+}
+
+/// A specific heat ratio that no gas can have is written all the same, in the caution colour.
+void ProcessSheet::WriteProperty(const std::string& word, std::optional<Real> value) {
+  TextBox* const box = FieldOf(word);
+  if (box == nullptr) return;
+  box->SetText(value ? NumberText(*value) : "");
+  if (word != "比熱比") return;
+  const bool doubtful = value && !data::IsPhysicalIsentropicExponent(*value);
+  box->SetForeColor(doubtful ? forms::kMagenta : forms::kBlack);
+  box->SetToolTip(doubtful ? "推算値は物理的な範囲（1.0～1.7）の外にあります。確認してください。"
+                           : kEstimateHint);
+}
+
+void ProcessSheet::FillProperty(const std::string& word, int fluidIndex) {
+  StoreEntries();
+  if (word == "飽和水蒸気圧") {
+    FillSaturationPressure();
+  } else {
+    WriteProperty(word, Estimate(word, fluidIndex));
+  }
+}
+
+void ProcessSheet::FillAllProperties(int fluidIndex) {
+  for (const std::string& word : PropertyOrder()) FillProperty(word, fluidIndex);
+}
+
+void ProcessSheet::FillSaturationPressure() {
+  if (fields_.humidity == nullptr) return;
+  StoreEntries();
+  HumidityFields& fields = *fields_.humidity;
+  if (Val(fields.txt相対湿度.Text()) == 0) {
+    fields.txt飽和水蒸気圧.SetText("");
+    return;
+  }
+  fields.txt飽和水蒸気圧.SetText(NumberText(data::SaturatedVapourPressure(Process(), User())));
+}
+
+void ProcessSheet::FillTemperature() {
+  if (!IsSteam()) return;
+  StoreEntries();
+  txt温度.SetText(NumberText(
+      data::TemperatureFromCelsius(cbo温度単位.Index(), data::SaturationTemperature(Process()))));
+}
+
+/// Steam equations hold from about saturation upwards; 270 instead of 273.15 leaves 3.15 K.
+bool ProcessSheet::IsSuperheated(const std::string& title) {
+  if (data::SaturationTemperature(Process()) + 270 <= Process().temperatureK) return true;
+  Beep();
+  User().Show("温度が低すぎます。", title);
+  return false;
+}
+
+std::optional<Real> ProcessSheet::EstimateSteam(const std::string& word) {
+  data::ProcessState& process = Process();
+  if (word == "比熱比") return data::SteamIsentropicExponent(process, User());
+  return word == "密度" ? data::SteamDensity(process)
+                        : data::SteamViscosity(Tables().steamViscosity, process);
+}
+
+void ProcessSheet::FillFromFluidOrSteam(const std::string& word) {
+  StoreEntries();
+  Space().propertyWord = word;
+  if (!IsSteam()) {
+    Space().forms.Show(frm流体名表示::kName);
+    return;
+  }
+  if (word == "偏差係数") return;
+  if (word == "密度" && !IsSuperheated("蒸気密度推算")) return;
+  if (word == "粘性係数" && !IsSuperheated("蒸気粘性係数推算")) return;
+  WriteProperty(word, EstimateSteam(word));
+}
+
+}  // namespace sheets

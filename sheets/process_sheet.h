@@ -1,0 +1,160 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "data/property_estimator.h"
+#include "forms/controls.h"
+#include "sheets/property_target.h"
+#include "shell/sheet.h"
+
+namespace sheets {
+
+using common::Real;
+using forms::Button;
+using forms::Cell;
+using forms::ComboBox;
+using forms::Form;
+using forms::Label;
+using forms::LabelStyle;
+using forms::OptionButton;
+using forms::ResultLabel;
+using forms::TextBox;
+
+/// Humidity of a gas and the saturation pressure that goes with it.
+struct HumidityFields {
+  explicit HumidityFields(Form& form);
+  Label lbl相対湿度;
+  TextBox txt相対湿度;
+  Label lbl相対湿度単位;
+  Label lbl飽和水蒸気圧;
+  TextBox txt飽和水蒸気圧;
+  ComboBox cbo飽和水蒸気圧単位;
+};
+
+/// Whether a humid gas flow counts its moisture.
+struct BaseFields {
+  explicit BaseFields(Form& form);
+  Label lbl計算基準;
+  OptionButton optWetBase;
+  OptionButton optDryBase;
+};
+
+/// A calculator sheet with the panel of process conditions. The panel's fields have the same names,
+/// units and reactions on all sheets; a sheet adds the fields of its own and hands the panel those
+/// that only some sheets have.
+class ProcessSheet : public shell::Sheet, public PropertyTarget {
+ public:
+  Label lblTagNo{*this, "lblTagNo", "Tag No."};
+  TextBox txtTagNo{*this, "txtTagNo", forms::AnyKey, kTagNumberBytes};
+  Label lbl用途{*this, "lbl用途", "用途"};
+  TextBox txt用途{*this, "txt用途"};
+  Label lbl流体{*this, "lbl流体", "流体"};
+  ComboBox cbo流体{*this, "cbo流体"};
+  ComboBox cbo流量単位L{*this, "cbo流量単位L"};
+  ComboBox cbo流量単位G{*this, "cbo流量単位G"};
+  ComboBox cbo流量単位S{*this, "cbo流量単位S"};
+  Label lbl圧力{*this, "lbl圧力", "圧力"};
+  TextBox txt圧力{*this, "txt圧力", forms::NumberKeys};
+  ComboBox cbo圧力単位{*this, "cbo圧力単位"};
+  Label lbl温度{*this, "lbl温度", "温度"};
+  TextBox txt温度{*this, "txt温度", forms::SignedNumberKeys};
+  ComboBox cbo温度単位{*this, "cbo温度単位"};
+  Label lbl密度{*this, "lbl密度", "密度"};
+  TextBox txt密度{*this, "txt密度", forms::NumberKeys};
+  ComboBox cbo密度単位L{*this, "cbo密度単位L"};
+  ComboBox cbo密度単位G{*this, "cbo密度単位G"};
+  ComboBox cbo密度単位S{*this, "cbo密度単位S"};
+  Label lbl粘性係数{*this, "lbl粘性係数", "粘性係数"};
+  TextBox txt粘性係数{*this, "txt粘性係数", forms::NumberKeys};
+  ComboBox cbo粘性係数単位{*this, "cbo粘性係数単位"};
+
+  ProcessSheet(shell::Workspace& workspace, const std::string& kind, std::string caption);
+
+  void Load() override;
+  void Activate() override;
+  void Unload() override;
+
+  void FillProperty(const std::string& word, int fluidIndex) override;
+  void FillAllProperties(int fluidIndex) override;
+
+ protected:
+  static constexpr int kTagNumberBytes = 26;
+
+  /// The panel's fields that not every sheet has; null where it lacks them.
+  struct OptionalFields {
+    HumidityFields* humidity = nullptr;
+    BaseFields* base = nullptr;
+    Label* deviationLabel = nullptr;
+    TextBox* deviation = nullptr;
+    Label* kappaLabel = nullptr;
+    TextBox* kappa = nullptr;
+    /// Shows the flow unit of the phase behind a second flow.
+    Label* secondFlowUnit = nullptr;
+  };
+  /// To be called once, in the constructor of the sheet.
+  void UseFields(const OptionalFields& fields);
+
+  /// Empties the sheet's results; every change of an entry calls it.
+  virtual void ClearResults() = 0;
+  /// The properties of a gas or liquid in the order in which "all properties" fills them.
+  virtual std::vector<std::string> PropertyOrder() const = 0;
+  /// Deviation factor of a gas as this sheet estimates it.
+  virtual Real EstimateDeviation(data::PropertyEstimator& estimator, int fluidIndex);
+
+  int Phase() const { return cbo流体.Index(); }
+  bool IsLiquid() const { return Phase() == data::kLiquid; }
+  bool IsGas() const { return Phase() == data::kGas; }
+  bool IsSteam() const { return Phase() == data::kSteam; }
+  /// The selector of the current phase.
+  ComboBox& FlowUnitBox();
+  ComboBox& DensityUnitBox();
+  data::ProcessState& Process() const { return Space().process; }
+  const shell::Tables& Tables() const { return Space().tables; }
+
+  /// Stores all entries of the panel in the workspace's process values, in internal units. An entry
+  /// that cannot be converted yet stores 0: nobody is disturbed while he types.
+  void StoreEntries();
+  /// Reads pressure, temperature and the unit selections into the process values.
+  void ReadConditions();
+  /// Reads the humidity and what depends on it, with its messages; false when it refuses.
+  bool ReadHumidity();
+  /// Deviation factor and specific heat ratio; an empty one becomes 1 or 1.4 with a message.
+  void ReadDeviation(const std::string& name);
+  void ReadKappa();
+  /// Densities and viscosity, once the conditions are read.
+  void ReadDensities();
+
+  /// Fills a field from the steam equations, the tables or the fluid list, as a double click asks.
+  void FillTemperature();
+  void FillFromFluidOrSteam(const std::string& word);
+  void FillSaturationPressure();
+
+  /// Entry that calls ClearResults and stores the panel when it changes.
+  void Watch(TextBox& box);
+  void Watch(ComboBox& box);
+  /// Makes a double click on the field and a click on its label run the same automatic entry.
+  void OfferEntry(Label& label, TextBox& box, std::function<void()> fill);
+
+  /// A field that is off shows so and loses its text.
+  static void SwitchField(TextBox& box, bool on);
+
+  /// Fills a list and selects its first entry, if it has one.
+  static void FillList(ComboBox& box, const std::vector<std::string>& items);
+
+ private:
+  void cbo流体_Click();
+  void cbo流量単位_Click();
+  void ShowUnitsOfPhase();
+  void SwitchHumidity();
+  void UpdateFluidList();
+  TextBox* FieldOf(const std::string& word);
+  std::optional<Real> Estimate(const std::string& word, int fluidIndex);
+  std::optional<Real> EstimateSteam(const std::string& word);
+  bool IsSuperheated(const std::string& title);
+  void WriteProperty(const std::string& word, std::optional<Real> value);
+
+  OptionalFields fields_;
+};
+
+}  // namespace sheets

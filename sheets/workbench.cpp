@@ -1,0 +1,38 @@
+#include "sheets/workbench.h"
+
+#include <memory>
+
+#include "sheets/frm_fluid_names.h"
+#include "sheets/frm_orifice.h"
+#include "sheets/frm_pipe_dia.h"
+#include "shell/main_menu.h"
+
+namespace sheets {
+
+Workbench::Workbench(forms::Presenter& presenter, std::string installDir) : workspace_(presenter) {
+  workspace_.installDir = std::move(installDir);
+  ProvideForms();
+  shell::BuildMainMenu(workspace_);
+}
+
+void Workbench::ProvideForms() {
+  shell::Workspace& space = workspace_;
+  const auto provide = [&space]<class FormType>(const char* name, std::type_identity<FormType>) {
+    space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
+  };
+  provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
+  provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
+}
+
+void Workbench::Start() {
+  workspace_.tables = shell::LoadTables(workspace_.installDir);
+  if (workspace_.tables.unread.empty()) return;
+  std::string names;
+  for (const std::string& name : workspace_.tables.unread) names += "\n　" + name;
+  workspace_.Shown().Show(
+      "次のデータファイルを読み込めませんでした。" + names + "\nこれらを使う計算はできません。", {},
+      common::Icon::kWarning);
+}
+
+}  // namespace sheets

@@ -1,0 +1,201 @@
+#include "shell/main_menu.h"
+
+#include <functional>
+#include <string>
+
+#include "shell/sheet_registry.h"
+#include "shell/workspace.h"
+
+namespace shell {
+
+namespace {
+
+/// Adds commands to one submenu after the other.
+class MenuBuilder {
+ public:
+  explicit MenuBuilder(Workspace& workspace) : workspace_(workspace), window_(workspace.window) {}
+
+  void Submenu(const std::string& parent, const std::string& name, const std::string& caption) {
+    window_.AddSubmenu(parent, name, caption);
+    parent_ = name;
+  }
+  void In(const std::string& name) { parent_ = name; }
+  void Separator() { window_.AddSeparator(parent_); }
+
+  void Add(const std::string& name, const std::string& caption, std::function<void()> run = {},
+           const std::string& shortcut = {}, const std::string& icon = {}) {
+    window_.AddCommand(parent_,
+                       {name, caption, shortcut, icon, std::move(run), true, false, false});
+  }
+
+  /// A command that opens a sheet, with the element kind to start from (-1: as it is).
+  void AddSheet(const std::string& name, const std::string& caption, const std::string& kind,
+                const std::string& icon, int elementKind = -1) {
+    Add(name, caption, Opener(kind, elementKind), {}, icon);
+  }
+
+  /// A command that shows a form that is no sheet.
+  void AddForm(const std::string& name, const std::string& caption, const std::string& form,
+               const std::string& icon = {}) {
+    Add(name, caption, FormOpener(form), {}, icon);
+  }
+
+  void Button(int number, const std::string& toolTip, const std::string& icon,
+              std::function<void()> run = {}) {
+    window_.AddButton({number, toolTip, icon, std::move(run), true, false});
+  }
+  void SeparatorButton(int number) { window_.AddButton({number, {}, {}, {}, false, true}); }
+
+  /// Opens a sheet; empty when the program has no form for it.
+  std::function<void()> Opener(const std::string& kind, int elementKind = -1) const {
+    if (!workspace_.forms.Knows(FindSheet(kind)->form)) return {};
+    Workspace& workspace = workspace_;
+    return [&workspace, kind, elementKind] {
+      if (elementKind >= 0) workspace.elementKind = elementKind;
+      OpenSheet(workspace, kind);
+    };
+  }
+
+  std::function<void()> FormOpener(const std::string& form) const {
+    if (!workspace_.forms.Knows(form)) return {};
+    Workspace& workspace = workspace_;
+    return [&workspace, form] { workspace.forms.Show(form); };
+  }
+
+  /// Sets the window mode and its two check marks.
+  std::function<void()> WindowMode(bool multi) const {
+    Workspace& workspace = workspace_;
+    return [&workspace, multi] {
+      workspace.multiWindowMode = multi;
+      workspace.window.SetChecked("mnuSingle", !multi);
+      workspace.window.SetChecked("mnuMulti", multi);
+      if (!multi) CloseOtherForms(workspace);
+    };
+  }
+
+ private:
+  Workspace& workspace_;
+  MainWindow& window_;
+  std::string parent_;
+};
+
+void AddFileMenu(MenuBuilder& menu) {
+  menu.Submenu("", "mnuFile", "ファイル(&F)");
+  menu.Add("mnuNewFileOpen", "新規ファイル作成(&N)", {}, "Ctrl+N", "new");
+  menu.Add("mnuOpen", "開く(&O)", {}, "Ctrl+O", "open");
+  menu.Add("mnuUpdate", "上書き保存(&S)", {}, "Ctrl+S", "save");
+  menu.Add("mnuSave", "名前を付けて保存(&S)");
+  menu.Separator();
+  menu.Add("mnuExcel", "EXCELデータ生成(&E)", {}, {}, "excel");
+  menu.Separator();
+  menu.Add("mnuPrint", "印刷(&P)", {}, "Ctrl+P", "print");
+  menu.Add("mnuHCopy", "画面ハードコピー");
+  menu.Separator();
+}
+
+void AddEditMenu(MenuBuilder& menu) {
+  menu.Submenu("", "mnuEdit", "編集(&E)");
+  menu.Add("mnuUndo", "入力を直前値に戻す(&U)", {}, {}, "undo");
+  menu.Separator();
+  menu.AddSheet("mnuCVcatalog", "調節弁カタログデータベース", "EditCV", "catalogue");
+  menu.AddSheet("mnuEditPropData", "物性推算用データベース", "EditProp", "fluid-data");
+  menu.AddSheet("mnuMaterial", "材料データベース", "Material", "material");
+  menu.Separator();
+  menu.AddForm("mnuCompany", "発行者名の編集", "frmRegCompany");
+  menu.AddForm("mnuUserProgram", "ユーザープログラム登録", "frmUserProgram");
+}
+
+void AddDisplayMenu(MenuBuilder& menu) {
+  menu.Submenu("", "mnuDisplay", "表示(&V)");
+  menu.Submenu("mnuDisplay", "mnuDataList", "データリスト");
+  menu.Add("mnuTagList", "Ｔａｇ　Ｌｉｓｔ", {}, {}, "taglist");
+  menu.Add("mnuDuct", "ケーブルダクトリスト");
+  menu.Submenu("mnuDisplay", "mnuDiaplay", "表示設定(&V)");
+  menu.Add("mnuInitialize", "表示サイズ・位置初期化(&I)");
+  menu.Add("mnuSingle", "シングルウィンドウ(&S)", menu.WindowMode(false));
+  menu.Add("mnuMulti", "マルチウインドウ(&M)", menu.WindowMode(true));
+  menu.In("mnuDisplay");
+  menu.Add("mnuPreview", "プレビュー", {}, {}, "preview");
+}
+
+void AddProgramMenu(MenuBuilder& menu) {
+  menu.Submenu("", "mnuProgram", "設計計算(&R)");
+  menu.Submenu("mnuProgram", "mnuDP", "差圧式流量計");
+  menu.AddSheet("mnuOrifice", "オリフィス　プレート", "⊿P Flow", "dp-flow", 0);
+  menu.AddSheet("mnuFlownozzle", "フローノズル", "⊿P Flow", {}, 5);
+  menu.AddSheet("mnuVenturi", "ベンチュリー管", "⊿P Flow", {}, 7);
+  menu.AddSheet("mnuIntegral", "インテグラルオリフィス", "Integral", "integral");
+  menu.In("mnuProgram");
+  menu.AddSheet("mnuVortex", "渦流量計", "Vortex", "vortex");
+  menu.AddSheet("mnuThermowell", "温度計保護管", "TW", "thermowell");
+  menu.AddSheet("mnuTC", "熱電対・測温抵抗体", "測温体", "sensor");
+  menu.AddSheet("mnuControlValve", "自動調節弁", "CV", "valve");
+  menu.AddSheet("mnuCableDuct", "ｹｰﾌﾞﾙﾀﾞｸﾄｻｲｼﾞﾝｸﾞ", "CableDuct", "duct");
+  menu.AddSheet("mnuPressLoss", "配管圧力損失", "圧力損失", "pressure-loss");
+  menu.AddSheet("mnuRO", "制限オリフィス", "制限ｵﾘﾌｨｽ", "restriction");
+  menu.AddSheet("mnuBussei", "簡易物性推算", "物性推算", "properties");
+  menu.Separator();
+  menu.Submenu("mnuProgram", "mnuAssist", "計算補助");
+  menu.AddForm("mnuUnit", "単位系変換", "frm単位換算", "units");
+  menu.AddForm("mnuPipeWeight", "配管重量", "frmPipeWeight", "pipe-weight");
+}
+
+void AddButtons(MenuBuilder& menu) {
+  menu.Button(1, "新規データシート作成", "new");
+  menu.Button(2, "既存データファイルを開く", "open");
+  menu.Button(3, "上書き保存", "save");
+  menu.Button(4, "印刷", "print");
+  menu.Button(5, "データリスト", "taglist");
+  menu.Button(6, "データシートをEXCELに変換", "excel");
+  menu.Button(7, "プレビュー", "preview");
+  menu.Button(8, "修正前の値に戻す", "undo");
+  menu.SeparatorButton(9);
+  menu.SeparatorButton(10);
+  menu.Button(11, "差圧式流量計", "dp-flow", menu.Opener("⊿P Flow"));
+  menu.Button(12, "インテグラルオリフィス", "integral", menu.Opener("Integral"));
+  menu.Button(13, "渦流量計", "vortex", menu.Opener("Vortex"));
+  menu.Button(14, "温度計保護管", "thermowell", menu.Opener("TW"));
+  menu.Button(15, "熱電対・測温抵抗体", "sensor", menu.Opener("測温体"));
+  menu.Button(16, "自動調節弁", "valve", menu.Opener("CV"));
+  menu.Button(17, "ｹｰﾌﾞﾙﾀﾞｸﾄｻｲｼﾞﾝｸﾞ", "duct", menu.Opener("CableDuct"));
+  menu.Button(18, "配管圧力損失", "pressure-loss", menu.Opener("圧力損失"));
+  menu.Button(19, "制限オリフィス", "restriction", menu.Opener("制限ｵﾘﾌｨｽ"));
+  menu.Button(20, "簡易物性推算", "properties", menu.Opener("物性推算"));
+  menu.SeparatorButton(21);
+  menu.Button(22, "単位系変換", "units", menu.FormOpener("frm単位換算"));
+  menu.SeparatorButton(23);
+  menu.Button(24, "調節弁カタログデータベース", "catalogue", menu.Opener("EditCV"));
+  menu.Button(25, "物性推算用データベース", "fluid-data", menu.Opener("EditProp"));
+  menu.Button(26, "材料データベース", "material", menu.Opener("Material"));
+}
+
+}  // namespace
+
+void BuildMainMenu(Workspace& workspace) {
+  MenuBuilder menu(workspace);
+  AddFileMenu(menu);
+  menu.Add("mnuExit", "終了(&X)", [&workspace] {
+    workspace.forms.UnloadAll();
+    if (workspace.onExit) workspace.onExit();
+  });
+  AddEditMenu(menu);
+  AddDisplayMenu(menu);
+  menu.Add("mnuToolBar", "ツールバーの表示(&T)", [&workspace] {
+    const bool visible = !workspace.window.ToolBarVisible();
+    workspace.window.SetToolBarVisible(visible);
+    workspace.window.SetChecked("mnuToolBar", visible);
+  });
+  AddProgramMenu(menu);
+  menu.Submenu("", "mnuWindow", "ウィンドウ(&W)");
+  menu.Submenu("", "mnuHelp", "ヘルプ(&H)");
+  menu.Add("mnuZEPHAHelp", "ヘルプ(&H)", {}, "F1");
+  menu.Submenu("mnuHelp", "mnuVersion", "バージョン情報");
+  menu.AddForm("mnuSystemVersion", "ｼｽﾃﾑのバージョン情報", "frmAbout");
+  menu.Add("mnuDataVersion", "ZEPHA Data File のバージョン");
+  AddButtons(menu);
+  workspace.window.SetTitle("ZEPHA");
+  workspace.window.SetChecked("mnuToolBar", true);
+  workspace.window.SetChecked("mnuSingle", true);
+}
+
+}  // namespace shell

@@ -1,0 +1,44 @@
+#include "shell/sheet.h"
+
+#include <stdexcept>
+
+namespace shell {
+
+namespace {
+
+const SheetEntry& Registered(const std::string& kind) {
+  const SheetEntry* const entry = FindSheet(kind);
+  if (entry == nullptr) throw std::logic_error("no sheet " + kind);
+  return *entry;
+}
+
+}  // namespace
+
+Sheet::Sheet(Workspace& workspace, const std::string& kind, std::string caption)
+    : Form(Registered(kind).form, std::move(caption), forms::FormRole::kSheet),
+      workspace_(workspace),
+      entry_(Registered(kind)) {}
+
+void Sheet::Activate() {
+  workspace_.lastFormName = Name();
+  workspace_.activeSheetKind = entry_.kind;
+  EnableCommandsFor(workspace_, entry_);
+}
+
+void Sheet::Unload() {
+  workspace_.activeSheetKind.clear();
+  EnableOpening(workspace_, entry_);
+}
+
+bool Sheet::HasData(const std::vector<std::string>& fileNames) const {
+  std::string missing;
+  for (const std::string& name : fileNames) {
+    if (!workspace_.tables.IsRead(name)) missing += "\n" + name;
+  }
+  if (missing.empty()) return true;
+  User().Show("次のデータファイルが読み込まれていないため、計算できません。" + missing, {},
+              common::Icon::kWarning);
+  return false;
+}
+
+}  // namespace shell

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "forms/form.h"
+#include "shell/sheet_registry.h"
+#include "shell/workspace.h"
+
+namespace shell {
+
+/// A form that is registered as a sheet: it takes and gives back its place on top of the workspace.
+class Sheet : public forms::Form {
+ public:
+  Sheet(Workspace& workspace, const std::string& kind, std::string caption);
+
+  const SheetEntry& Entry() const { return entry_; }
+
+  /// Makes this the sheet on top for the whole program.
+  void Activate() override;
+  void Unload() override;
+
+ protected:
+  Workspace& Space() const { return workspace_; }
+  forms::Presenter& User() const { return workspace_.Shown(); }
+  /// Whether the data files that a calculation needs have been read; tells the user otherwise.
+  bool HasData(const std::vector<std::string>& fileNames) const;
+
+ private:
+  Workspace& workspace_;
+  const SheetEntry& entry_;
+};
+
+}  // namespace shell

@@ -1,0 +1,74 @@
+#include "shell/sheet_registry.h"
+
+#include <algorithm>
+
+#include "shell/workspace.h"
+
+namespace shell {
+
+namespace {
+
+constexpr int kPrintButton = 4;
+constexpr int kPreviewButton = 7;
+
+}  // namespace
+
+const std::vector<SheetEntry>& SheetRegistry() {
+  static const std::vector<SheetEntry> kSheets = {
+      {"⊿P Flow", "frmOrifice", {"mnuOrifice", "mnuFlownozzle", "mnuVenturi"}, 11, true, false},
+      {"Integral", "frmIntegral", {"mnuIntegral"}, 12, true, false},
+      {"Vortex", "frmVortex", {"mnuVortex"}, 13, true, false},
+      {"TW", "frmTW", {"mnuThermowell"}, 14, true, false},
+      {"測温体", "frmTE", {"mnuTC"}, 15, true, false},
+      {"CV", "frmCV", {"mnuControlValve"}, 16, true, false},
+      {"CableDuct", "frmCable", {"mnuCableDuct"}, 17, false, false},
+      {"圧力損失", "frmPressLoss", {"mnuPressLoss"}, 18, true, false},
+      {"制限ｵﾘﾌｨｽ", "frmRO", {"mnuRO"}, 19, true, false},
+      {"物性推算", "frm物性", {"mnuBussei"}, 20, false, false},
+      {"EditCV", "frmEditCVspec", {"mnuCVcatalog"}, 24, false, true},
+      {"EditProp", "frmEditPropData", {"mnuEditPropData"}, 25, false, true},
+      {"Material", "frmMaterial", {"mnuMaterial"}, 26, false, true},
+  };
+  return kSheets;
+}
+
+const SheetEntry* FindSheet(const std::string& kind) {
+  const auto& sheets = SheetRegistry();
+  const auto found = std::find_if(sheets.begin(), sheets.end(),
+                                  [&](const SheetEntry& sheet) { return sheet.kind == kind; });
+  return found == sheets.end() ? nullptr : &*found;
+}
+
+void OpenSheet(Workspace& workspace, const std::string& kind) {
+  const SheetEntry* const sheet = FindSheet(kind);
+  if (sheet == nullptr || workspace.activeSheetKind == kind) return;
+  if (!workspace.forms.Knows(sheet->form)) return;
+  forms::Form* const active = workspace.forms.ActiveSheet();
+  if (!workspace.multiWindowMode && active != nullptr) workspace.forms.Unload(*active);
+  workspace.forms.Show(sheet->form);
+}
+
+void EnableCommandsFor(Workspace& workspace, const SheetEntry& sheet) {
+  MainWindow& window = workspace.window;
+  for (const std::string& item : sheet.menuItems) window.SetCommandEnabled(item, false);
+  window.SetButtonEnabled(sheet.button, false);
+  window.SetButtonEnabled(kPrintButton, !sheet.isEditor);
+  window.SetCommandEnabled("mnuPrint", !sheet.isEditor);
+  window.SetButtonEnabled(kPreviewButton, !sheet.isEditor);
+  window.SetCommandEnabled("mnuPreview", !sheet.isEditor);
+  window.SetCommandEnabled("mnuHCopy", sheet.isEditor);
+}
+
+void EnableOpening(Workspace& workspace, const SheetEntry& sheet) {
+  for (const std::string& item : sheet.menuItems) workspace.window.SetCommandEnabled(item, true);
+  workspace.window.SetButtonEnabled(sheet.button, true);
+}
+
+void CloseOtherForms(Workspace& workspace) {
+  const forms::Form* const active = workspace.forms.ActiveSheet();
+  for (forms::Form* form : workspace.forms.Open()) {
+    if (form->Role() == forms::FormRole::kSheet && form != active) workspace.forms.Unload(*form);
+  }
+}
+
+}  // namespace shell

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "data/process_state.h"
+#include "shell/form_manager.h"
+#include "shell/main_window.h"
+#include "shell/tables.h"
+
+namespace shell {
+
+/// What a calculation left to be told with its results.
+inline constexpr const char* kExtrapolated = "（外挿計算）";
+
+/// The state that all sheets of one run share. It is created once by the program, outlives all
+/// forms, and is handed to them by reference; everything runs on one thread.
+struct Workspace {
+  explicit Workspace(forms::Presenter& presenter) : forms(presenter) {
+    window.onFault = [&presenter](const common::RuntimeFault& fault) {
+      presenter.Show(fault.Text(), {}, common::Icon::kWarning);
+    };
+  }
+
+  /// Folder with the data files.
+  std::string installDir;
+  Tables tables;
+  data::ProcessState process;
+
+  /// Kind of the sheet on top ("⊿P Flow", "CV" ...), "" when there is none.
+  std::string activeSheetKind;
+  /// Form name of the sheet last activated.
+  std::string lastFormName;
+  /// Sheets stay open side by side; otherwise opening one closes the other.
+  bool multiWindowMode = false;
+  /// Element kind with which the differential-pressure sheet opens next.
+  int elementKind = 0;
+  /// The property that the fluid pick list shall fill, in the words of the sheets.
+  std::string propertyWord;
+
+  /// A check of the running calculation has failed.
+  bool calcFailed = false;
+  /// Results stand on the sheet.
+  bool calcDone = false;
+  /// "" or kExtrapolated.
+  std::string calcNote;
+
+  MainWindow window;
+  FormManager forms;
+  /// Ends the run, once all forms are unloaded.
+  std::function<void()> onExit;
+
+  forms::Presenter& Shown() const { return forms.Shown(); }
+};
+
+}  // namespace shell
