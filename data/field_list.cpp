@@ -1,0 +1,47 @@
+#include "data/field_list.h"
+
+#include "common/fields.h"
+#include "common/number.h"
+
+namespace data {
+
+bool IsText(std::string_view bytes) { return bytes.find('\0') == std::string_view::npos; }
+
+std::optional<std::vector<std::string>> ReadFields(std::string bytes, std::size_t count) {
+  if (!IsText(bytes)) return std::nullopt;
+  common::FieldReader reader(std::move(bytes));
+  std::vector<std::string> fields;
+  while (fields.size() < count) {
+    auto field = reader.Next();
+    if (!field) return std::nullopt;
+    fields.push_back(std::move(*field));
+  }
+  if (!reader.AtEnd()) return std::nullopt;
+  return fields;
+}
+
+std::optional<common::Real> NumberField(std::string_view field) {
+  const bool numeric = field.find_first_not_of("0123456789.+-eEdD") == std::string_view::npos;
+  if (!numeric || field.find_first_of("0123456789") == std::string_view::npos) return std::nullopt;
+  try {
+    return common::Val(field);
+  } catch (const common::RuntimeFault&) {
+    return std::nullopt;
+  }
+}
+
+std::optional<std::vector<float>> ReadSingles(std::string bytes, std::size_t count) {
+  const auto fields = ReadFields(std::move(bytes), count);
+  if (!fields) return std::nullopt;
+  std::vector<float> numbers;
+  for (const std::string& field : *fields) {
+    const auto number = NumberField(field);
+    if (!number) return std::nullopt;
+    const auto single = static_cast<float>(static_cast<double>(*number));
+    if (!__builtin_isfinite(single)) return std::nullopt;
+    numbers.push_back(single);
+  }
+  return numbers;
+}
+
+}  // namespace data
