@@ -292,7 +292,7 @@ void ProcessSheet::StoreEntries() {
   process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
   process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
   process.temperatureK = process.temperatureC + 273.15;
-  process.compressibilityZ = IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : 1;
+  process.compressibilityZ = IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
   process.relativeHumidity = 0;
   process.saturationPressure = 0;
   process.flowBasis = data::kWetBase;
