@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -102,7 +103,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   /// Deviation factor of a gas as this sheet estimates it.
   virtual Real EstimateDeviation(data::PropertyEstimator& estimator, int fluidIndex);
 
-  int Phase() const { return cbo流体.Index(); }
+  /// A list that could not be read counts as liquid.
+  int Phase() const { return std::max(cbo流体.Index(), 0); }
   bool IsLiquid() const { return Phase() == data::kLiquid; }
   bool IsGas() const { return Phase() == data::kGas; }
   bool IsSteam() const { return Phase() == data::kSteam; }

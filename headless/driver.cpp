@@ -1,0 +1,342 @@
+#include "headless/driver.h"
+
+#include <algorithm>
+#include <charconv>
+#include <exception>
+#include <utility>
+
+#include "common/text.h"
+#include "forms/controls.h"
+#include "headless/states.h"
+#include "shell/sheet_registry.h"
+
+namespace headless {
+
+namespace {
+
+/// Cuts the next word off a line; the rest keeps its blanks but the one behind the word.
+std::string TakeWord(std::string& line) {
+  const auto end = line.find(' ');
+  std::string word = line.substr(0, end);
+  line = end == std::string::npos ? "" : line.substr(end + 1);
+  return word;
+}
+
+std::optional<int> WholeNumber(const std::string& text) {
+  int value = 0;
+  const char* const end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, value);
+  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+  return value;
+}
+
+std::vector<std::string> ControlNames(const forms::Form& form) {
+  std::vector<std::string> names;
+  for (const forms::Control* control : form.Controls()) names.push_back(control->Name());
+  return names;
+}
+
+}  // namespace
+
+Driver::Driver(std::string installDir) : workbench_(presenter_, std::move(installDir)) {}
+
+const std::map<std::string, Driver::Action>& Driver::Actions() {
+  static const std::map<std::string, Action> kActions = {
+      {"open", &Driver::Open},
+      {"menu", &Driver::Menu},
+      {"button", &Driver::PressButton},
+      {"type", &Driver::Type},
+      {"keys", &Driver::Keys},
+      {"enter", &Driver::Enter},
+      {"pick", &Driver::Pick},
+      {"choose", &Driver::Choose},
+      {"click", &Driver::Click},
+      {"dblclick", &Driver::DblClick},
+      {"rclick", &Driver::RightClick},
+      {"answer", &Driver::QueueAnswer},
+      {"file", &Driver::QueueFile},
+      {"get", &Driver::Get},
+      {"dump", &Driver::Dump},
+      {"forms", &Driver::Forms},
+      {"workspace", &Driver::TellWorkspace},
+      {"close", &Driver::CloseForm},
+      {"quit", &Driver::Quit},
+      {"row", &Driver::NotThereYet},
+      {"ductrow", &Driver::NotThereYet},
+      {"register", &Driver::NotThereYet},
+      {"recall", &Driver::NotThereYet},
+      {"load", &Driver::NotThereYet},
+      {"save", &Driver::NotThereYet},
+      {"print", &Driver::NotThereYet},
+      {"printall", &Driver::NotThereYet},
+      {"export", &Driver::NotThereYet},
+      {"recalculate", &Driver::NotThereYet},
+  };
+  return kActions;
+}
+
+Json Driver::Start() {
+  Json answer = {{"do", "start"}, {"ok", true}};
+  workbench_.Start();
+  for (const auto& shown : presenter_.TakeShown()) answer["messages"].push_back(StateOf(shown));
+  return answer;
+}
+
+Json Driver::Execute(const std::string& line) {
+  Json answer = {{"do", line}, {"ok", true}};
+  const auto refuse = [&answer](const std::string& sentence) {
+    answer["ok"] = false;
+    answer["error"] = sentence;
+  };
+  try {
+    Run(line, answer);
+  } catch (const Refusal& refusal) {
+    refuse(refusal.sentence);
+  } catch (const common::RuntimeFault& fault) {
+    refuse(fault.Text());
+  } catch (const std::exception& failure) {
+    refuse(failure.what());
+  }
+  for (const auto& shown : presenter_.TakeShown()) answer["messages"].push_back(StateOf(shown));
+  presenter_.TakeBeeps();
+  workbench_.Forms().CollectClosed();
+  return answer;
+}
+
+void Driver::Run(const std::string& line, Json& answer) {
+  std::string rest = line;
+  const std::string verb = TakeWord(rest);
+  const auto action = Actions().find(verb);
+  if (action == Actions().end()) Misunderstand("There is no command \"" + verb + "\".");
+  const std::string object = TakeWord(rest);
+  (this->*action->second)(object, rest, answer);
+}
+
+void Driver::Misunderstand(std::string sentence) {
+  misunderstood_ = true;
+  throw Refusal{std::move(sentence)};
+}
+
+void Driver::Close() { workbench_.Forms().UnloadAll(); }
+
+forms::Form& Driver::ActiveForm() {
+  forms::Form* const form = workbench_.Forms().Active();
+  if (form == nullptr) Misunderstand("No form is open.");
+  return *form;
+}
+
+forms::Control& Driver::FindControl(const std::string& name) {
+  const auto mark = name.find('!');
+  forms::Form* form = nullptr;
+  if (mark == std::string::npos) {
+    form = &ActiveForm();
+  } else {
+    form = workbench_.Forms().Find(name.substr(0, mark));
+    if (form == nullptr) Misunderstand("No form " + name.substr(0, mark) + " is open.");
+  }
+  const std::string controlName = mark == std::string::npos ? name : name.substr(mark + 1);
+  forms::Control* const control = form->Find(controlName);
+  if (control == nullptr) {
+    Misunderstand(form->Name() + " has no control \"" + controlName + "\"; the nearest name is \"" +
+                  NearestName(controlName, ControlNames(*form)) + "\".");
+  }
+  return *control;
+}
+
+/// What cannot be reached with mouse or keys cannot be reached from a script either.
+forms::Control& Driver::UsableControl(const std::string& name) {
+  forms::Control& control = FindControl(name);
+  if (!control.Visible()) throw Refusal{control.Name() + " is not visible."};
+  if (!control.Enabled()) throw Refusal{control.Name() + " is disabled."};
+  return control;
+}
+
+template <class T>
+T& Driver::FindOf(const std::string& name, const char* what) {
+  forms::Control& control = FindControl(name);
+  auto* const typed = dynamic_cast<T*>(&control);
+  if (typed == nullptr) Misunderstand(control.Name() + " is not " + what + ".");
+  return *typed;
+}
+
+void Driver::Open(const std::string& object, const std::string& text, Json&) {
+  const std::string name = text.empty() ? object : object + " " + text;
+  shell::FormManager& forms = workbench_.Forms();
+  if (const shell::SheetEntry* const sheet = shell::FindSheet(name)) {
+    if (!forms.Knows(sheet->form)) Misunderstand("The sheet " + name + " is not there yet.");
+    shell::OpenSheet(workbench_.Space(), name);
+    return;
+  }
+  if (!forms.Knows(name)) {
+    std::vector<std::string> names = forms.KnownNames();
+    for (const auto& sheet : shell::SheetRegistry()) names.push_back(sheet.kind);
+    Misunderstand("There is no form \"" + name + "\"; the nearest name is \"" +
+                  NearestName(name, names) + "\".");
+  }
+  forms.Show(name);
+}
+
+void Driver::Menu(const std::string& object, const std::string&, Json&) {
+  const shell::Command* const command = workbench_.Window().Find(object);
+  if (command == nullptr) {
+    std::vector<std::string> names;
+    for (const auto& known : workbench_.Window().Commands()) names.push_back(known.name);
+    Misunderstand("There is no command " + object + "; the nearest name is " +
+                  NearestName(object, names) + ".");
+  }
+  if (!command->run) Misunderstand(object + " is not there yet.");
+  if (!workbench_.Window().Run(object)) throw Refusal{object + " is disabled."};
+}
+
+void Driver::PressButton(const std::string& object, const std::string&, Json&) {
+  const std::optional<int> number = WholeNumber(object);
+  const shell::ToolButton* const button = number ? workbench_.Window().Button(*number) : nullptr;
+  if (button == nullptr) Misunderstand("There is no tool bar button " + object + ".");
+  if (button->separator) return;
+  if (!button->run) Misunderstand("Button " + object + " is not there yet.");
+  if (!workbench_.Window().Press(*number)) throw Refusal{"Button " + object + " is disabled."};
+}
+
+void Driver::Type(const std::string& object, const std::string& text, Json&) {
+  forms::Control& control = FindControl(object);
+  if (auto* const combo = dynamic_cast<forms::ComboBox*>(&control);
+      combo != nullptr && combo->Editable()) {
+    combo->SetText(text);
+    return;
+  }
+  FindOf<forms::TextBox>(object, "a text box").Type(text);
+}
+
+void Driver::Keys(const std::string& object, const std::string& text, Json& answer) {
+  UsableControl(object);
+  auto& box = FindOf<forms::TextBox>(object, "a text box");
+  presenter_.TakeBeeps();
+  for (const char32_t key : common::CodePoints(text)) {
+    if (box.PressKey(key)) box.Type(box.Text() + common::Utf8(std::u32string_view(&key, 1)));
+  }
+  answer["beeps"] = presenter_.TakeBeeps();
+  answer["text"] = box.Text();
+}
+
+void Driver::Enter(const std::string& object, const std::string&, Json& answer) {
+  forms::Control& control = UsableControl(object);
+  forms::Form& form = control.Owner();
+  form.SetFocus(control);
+  if (auto* const box = dynamic_cast<forms::TextBox*>(&control)) {
+    box->PressKey(U'\r');
+  } else if (auto* const list = dynamic_cast<forms::ListControl*>(&control)) {
+    list->PressEnter();
+  } else if (dynamic_cast<forms::Button*>(&control) != nullptr) {
+    control.Click();
+  } else {
+    form.FocusNext(control);
+  }
+  answer["focus"] = form.Focused() == nullptr ? "" : form.Focused()->Name();
+}
+
+void Driver::Pick(const std::string& object, const std::string& text, Json&) {
+  forms::Control& control = FindControl(object);
+  auto* const list = dynamic_cast<forms::ListControl*>(&control);
+  if (list != nullptr && text.starts_with("=")) {
+    const int index = list->IndexOf(text.substr(1));
+    if (index < 0) {
+      Misunderstand(control.Name() + " has no entry \"" + text.substr(1) + "\"; the nearest is \"" +
+                    NearestName(text.substr(1), list->Items()) + "\".");
+    }
+    list->Pick(index);
+    return;
+  }
+  const std::optional<int> index = WholeNumber(text);
+  if (!index) Misunderstand("\"" + text + "\" is neither an entry's number nor =TEXT.");
+  if (list != nullptr) {
+    if (*index < -1 || *index >= list->Count()) {
+      Misunderstand(control.Name() + " has entries 0 to " + std::to_string(list->Count() - 1) +
+                    ".");
+    }
+    list->Pick(*index);
+  } else if (auto* const grid = dynamic_cast<forms::Grid*>(&control)) {
+    grid->Pick(*index);
+  } else if (auto* const bar = dynamic_cast<forms::ScrollBar*>(&control)) {
+    bar->SetValue(*index);
+  } else {
+    Misunderstand(control.Name() + " has no entries.");
+  }
+}
+
+void Driver::Choose(const std::string& object, const std::string&, Json&) {
+  UsableControl(object);
+  FindOf<forms::CheckControl>(object, "an option button or check box").Choose();
+}
+
+void Driver::Click(const std::string& object, const std::string&, Json&) {
+  forms::Control& control = UsableControl(object);
+  control.Owner().SetFocus(control);
+  if (auto* const check = dynamic_cast<forms::CheckControl*>(&control)) {
+    check->Choose();
+  } else {
+    control.Click();
+  }
+}
+
+void Driver::DblClick(const std::string& object, const std::string&, Json&) {
+  forms::Control& control = UsableControl(object);
+  control.Owner().SetFocus(control);
+  control.DblClick();
+}
+
+void Driver::RightClick(const std::string& object, const std::string&, Json&) {
+  UsableControl(object).RightClick();
+}
+
+void Driver::QueueAnswer(const std::string& object, const std::string&, Json&) {
+  const std::optional<common::Answer> answer = AnswerOf(object);
+  if (!answer) Misunderstand("\"" + object + "\" is none of yes, no, ok, cancel.");
+  presenter_.QueueAnswer(*answer);
+}
+
+void Driver::QueueFile(const std::string& object, const std::string& text, Json&) {
+  presenter_.QueueFile(text.empty() ? object : object + " " + text);
+}
+
+void Driver::Get(const std::string& object, const std::string&, Json& answer) {
+  answer.update(StateOf(FindControl(object)));
+}
+
+void Driver::Dump(const std::string&, const std::string&, Json& answer) {
+  const forms::Form& form = ActiveForm();
+  answer["form"] = form.Name();
+  answer["caption"] = form.Caption();
+  Json controls = Json::array();
+  for (const forms::Control* control : form.TabOrder()) controls.push_back(StateOf(*control));
+  for (const forms::Control* control : form.Controls()) {
+    const auto& shown = form.TabOrder();
+    if (std::find(shown.begin(), shown.end(), control) == shown.end()) {
+      controls.push_back(StateOf(*control));
+    }
+  }
+  answer["controls"] = std::move(controls);
+}
+
+void Driver::Forms(const std::string&, const std::string&, Json& answer) {
+  answer["forms"] = Json::array();
+  for (const forms::Form* form : workbench_.Forms().Open()) answer["forms"].push_back(form->Name());
+}
+
+void Driver::TellWorkspace(const std::string&, const std::string&, Json& answer) {
+  answer.update(StateOf(workbench_.Space()));
+}
+
+void Driver::CloseForm(const std::string&, const std::string&, Json&) {
+  workbench_.Forms().Unload(ActiveForm());
+}
+
+void Driver::Quit(const std::string&, const std::string&, Json&) {
+  Close();
+  ended_ = true;
+}
+
+void Driver::NotThereYet(const std::string&, const std::string&, Json&) {
+  Misunderstand("This command is not there yet.");
+}
+
+}  // namespace headless

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <map>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "headless/script_presenter.h"
+#include "sheets/workbench.h"
+
+namespace headless {
+
+using Json = nlohmann::ordered_json;
+
+/// Executes the commands of a script on the real sheets, one line at a time, and answers each with
+/// one JSON object. A fault in a command never ends the run.
+class Driver {
+ public:
+  explicit Driver(std::string installDir);
+
+  /// The program's own start.
+  Json Start();
+  /// One command line; blank lines and remarks are the caller's business.
+  Json Execute(const std::string& line);
+
+  /// Whether a command was not understood so far.
+  bool Misunderstood() const { return misunderstood_; }
+  /// Whether `quit` was met.
+  bool Ended() const { return ended_; }
+  /// Ends the run as closing the main window does.
+  void Close();
+
+  sheets::Workbench& Bench() { return workbench_; }
+
+ private:
+  /// A command that cannot be carried out; its sentence becomes the answer's error.
+  struct Refusal {
+    std::string sentence;
+  };
+  using Action = void (Driver::*)(const std::string& object, const std::string& text, Json& answer);
+  static const std::map<std::string, Action>& Actions();
+
+  void Run(const std::string& line, Json& answer);
+  [[noreturn]] void Misunderstand(std::string sentence);
+
+  forms::Form& ActiveForm();
+  forms::Control& FindControl(const std::string& name);
+  forms::Control& UsableControl(const std::string& name);
+  template <class T>
+  T& FindOf(const std::string& name, const char* what);
+
+  void Open(const std::string& object, const std::string& text, Json& answer);
+  void Menu(const std::string& object, const std::string& text, Json& answer);
+  void PressButton(const std::string& object, const std::string& text, Json& answer);
+  void Type(const std::string& object, const std::string& text, Json& answer);
+  void Keys(const std::string& object, const std::string& text, Json& answer);
+  void Enter(const std::string& object, const std::string& text, Json& answer);
+  void Pick(const std::string& object, const std::string& text, Json& answer);
+  void Choose(const std::string& object, const std::string& text, Json& answer);
+  void Click(const std::string& object, const std::string& text, Json& answer);
+  void DblClick(const std::string& object, const std::string& text, Json& answer);
+  void RightClick(const std::string& object, const std::string& text, Json& answer);
+  void QueueAnswer(const std::string& object, const std::string& text, Json& answer);
+  void QueueFile(const std::string& object, const std::string& text, Json& answer);
+  void Get(const std::string& object, const std::string& text, Json& answer);
+  void Dump(const std::string& object, const std::string& text, Json& answer);
+  void Forms(const std::string& object, const std::string& text, Json& answer);
+  void TellWorkspace(const std::string& object, const std::string& text, Json& answer);
+  void CloseForm(const std::string& object, const std::string& text, Json& answer);
+  void Quit(const std::string& object, const std::string& text, Json& answer);
+  void NotThereYet(const std::string& object, const std::string& text, Json& answer);
+
+  ScriptPresenter presenter_;
+  sheets::Workbench workbench_;
+  bool misunderstood_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace headless

@@ -1,0 +1,76 @@
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <optional>
+#include <string>
+
+#include "headless/driver.h"
+
+namespace {
+
+struct Arguments {
+  std::string installDir;
+  std::string settings;
+  std::string script;
+};
+
+constexpr const char* kUsage =
+    "usage: zepha-headless [--install-dir DIR] [--settings FILE] [SCRIPT]\n";
+
+std::optional<Arguments> Parse(int count, char** values) {
+  Arguments arguments;
+  for (int i = 1; i < count; ++i) {
+    const std::string word = values[i];
+    if (word == "--install-dir" || word == "--settings") {
+      if (++i == count) return std::nullopt;
+      (word == "--settings" ? arguments.settings : arguments.installDir) = values[i];
+    } else if (word.starts_with("--") || !arguments.script.empty()) {
+      return std::nullopt;
+    } else {
+      arguments.script = word;
+    }
+  }
+  return arguments;
+}
+
+std::string ProgramFolder() {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+void Tell(const headless::Json& answer) {
+  // Bytes that are no UTF-8 are told as U+FFFD instead of ending the run.
+  std::cout << answer.dump(-1, ' ', false, headless::Json::error_handler_t::replace) << std::endl;
+}
+
+void RunScript(headless::Driver& driver, std::istream& input) {
+  std::string line;
+  while (!driver.Ended() && std::getline(input, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.find_first_not_of(" \t") == std::string::npos || line.front() == '#') continue;
+    Tell(driver.Execute(line));
+  }
+  if (!driver.Ended()) driver.Close();
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+  const std::optional<Arguments> arguments = Parse(count, values);
+  if (!arguments) {
+    std::cerr << kUsage;
+    return 2;
+  }
+  std::ifstream script;
+  if (!arguments->script.empty()) {
+    script.open(arguments->script);
+    if (!script) {
+      std::cerr << "zepha-headless: cannot read " << arguments->script << '\n';
+      return 2;
+    }
+  }
+  headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir);
+  Tell(driver.Start());
+  RunScript(driver, arguments->script.empty() ? std::cin : script);
+  return driver.Misunderstood() ? 1 : 0;
+}

@@ -1,0 +1,59 @@
+#include "headless/script_presenter.h"
+
+#include <utility>
+
+namespace headless {
+
+namespace {
+
+using common::Answer;
+using common::Buttons;
+
+bool Offers(Buttons buttons, Answer answer) {
+  switch (buttons) {
+    case Buttons::kOk:
+      return answer == Answer::kOk;
+    case Buttons::kOkCancel:
+      return answer == Answer::kOk || answer == Answer::kCancel;
+    case Buttons::kYesNo:
+      return answer == Answer::kYes || answer == Answer::kNo;
+    case Buttons::kYesNoCancel:
+      return answer != Answer::kOk;
+  }
+  return false;
+}
+
+Answer DefaultOf(Buttons buttons) {
+  return buttons == Buttons::kOk || buttons == Buttons::kOkCancel ? Answer::kOk : Answer::kYes;
+}
+
+}  // namespace
+
+Answer ScriptPresenter::NextAnswer(Buttons buttons) {
+  if (buttons == Buttons::kOk || answers_.empty()) return DefaultOf(buttons);
+  const Answer answer = answers_.front();
+  answers_.pop_front();
+  return Offers(buttons, answer) ? answer : DefaultOf(buttons);
+}
+
+Answer ScriptPresenter::Present(const common::Message& message) {
+  const Answer answer = NextAnswer(message.buttons);
+  shown_.push_back({message, answer});
+  return answer;
+}
+
+std::vector<ScriptPresenter::Shown> ScriptPresenter::TakeShown() {
+  return std::exchange(shown_, {});
+}
+
+int ScriptPresenter::TakeBeeps() { return std::exchange(beeps_, 0); }
+
+std::optional<std::string> ScriptPresenter::AskFile(const forms::FileQuestion&) {
+  if (files_.empty()) return std::nullopt;
+  const std::string path = files_.front();
+  files_.pop_front();
+  if (path.empty()) return std::nullopt;
+  return path;
+}
+
+}  // namespace headless

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+#include "headless/script_presenter.h"
+#include "shell/workspace.h"
+
+namespace headless {
+
+using Json = nlohmann::ordered_json;
+
+/// What a script is told of a control.
+Json StateOf(const forms::Control& control);
+
+/// What a script is told of a message box.
+Json StateOf(const ScriptPresenter::Shown& shown);
+
+/// The workspace's values by name.
+Json StateOf(const shell::Workspace& workspace);
+
+/// Word of an answer, and the answer of a word; nothing for a word that is none.
+std::string WordOf(common::Answer answer);
+std::optional<common::Answer> AnswerOf(const std::string& word);
+
+/// The name that is most like a wrong one, to be suggested; "" when there is none.
+std::string NearestName(const std::string& wrong, const std::vector<std::string>& names);
+
+}  // namespace headless
