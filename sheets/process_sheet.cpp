@@ -204,6 +204,7 @@ void ProcessSheet::SwitchHumidity() {
   const Real humidity = Quietly([this] { return Val(fields_.humidity->txt相対湿度.Text()); });
   const bool humid = IsGas() && humidity != 0;
   SwitchField(fields_.humidity->txt飽和水蒸気圧, humid);
+  fields_.humidity->cbo飽和水蒸気圧単位.SetEnabled(humid);
   if (fields_.base == nullptr) return;
   fields_.base->optWetBase.SetEnabled(humid);
   fields_.base->optDryBase.SetEnabled(humid);
@@ -292,7 +293,8 @@ void ProcessSheet::StoreEntries() {
   process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
   process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
   process.temperatureK = process.temperatureC + 273.15;
-  process.compressibilityZ = IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
+  process.compressibilityZ =
+      IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
   process.relativeHumidity = 0;
   process.saturationPressure = 0;
   process.flowBasis = data::kWetBase;

@@ -27,6 +27,9 @@ class ScriptedMessages : public common::Messages {
     return yes ? common::Answer::kYes : common::Answer::kNo;
   }
 
+  /// One more answer at the end of the list.
+  void Queue(bool yes) { answers_.push_back(yes); }
+
   /// The texts shown so far, in order.
   std::vector<std::string> Texts() const {
     std::vector<std::string> texts;

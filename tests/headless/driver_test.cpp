@@ -1,0 +1,109 @@
+#include "headless/driver.h"
+
+#include <gtest/gtest.h>
+
+namespace headless {
+namespace {
+
+class DriverTest : public testing::Test {
+ protected:
+  DriverTest() { EXPECT_TRUE(driver.Start()["ok"]); }
+
+  Json Do(const std::string& line) {
+    Json answer = driver.Execute(line);
+    EXPECT_EQ(answer["do"], line);
+    return answer;
+  }
+
+  Driver driver{ZEPHA_BUILD_DIR};
+};
+
+TEST_F(DriverTest, SizesAnOrificeFromAScript) {
+  for (const char* line : {"open ⊿P Flow", "type txt目盛流量 20000", "type txt常用流量 15000",
+                           "type txt圧力 500", "type txt温度 20", "dblclick txt密度",
+                           "pick lst物性推算 = 水", "click cmd全物性", "pick cbo配管呼称径 =4in",
+                           "pick cboSchedule =Sch40", "type txt設計差圧 25", "click cmd計算"}) {
+    const Json answer = Do(line);
+    EXPECT_TRUE(answer["ok"]) << answer.dump();
+  }
+  const Json bore = Do("get lbl絞り径結果R");
+  EXPECT_EQ(bore["kind"], "label");
+  EXPECT_NEAR(std::stod(bore["text"].get<std::string>()), 40.5, 0.1);
+  EXPECT_EQ(Do("workspace")["CalcDone"], true);
+  EXPECT_FALSE(driver.Misunderstood());
+}
+
+TEST_F(DriverTest, NamesWhatItDoesNotKnow) {
+  const struct {
+    const char* line;
+    const char* named;
+  } rows[] = {
+      {"open frmOrifise", "frmOrifice"},  {"get txtTag", "No form"}, {"jump txtTagNo", "jump"},
+      {"menu mnuOrifices", "mnuOrifice"}, {"button 99", "99"},       {"open CV", "not there yet"},
+      {"answer maybe", "maybe"},          {"print", "not there yet"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.line);
+    const Json answer = Do(row.line);
+    EXPECT_EQ(answer["ok"], false);
+    EXPECT_NE(answer["error"].get<std::string>().find(row.named), std::string::npos);
+  }
+  EXPECT_TRUE(driver.Misunderstood());
+}
+
+TEST_F(DriverTest, RefusesWhatAUserCannotReach) {
+  Do("menu mnuOrifice");
+  EXPECT_EQ(Do("click txt飽和水蒸気圧")["error"], "txt飽和水蒸気圧 is disabled.");
+  EXPECT_EQ(Do("click cbo流量単位G")["error"], "cbo流量単位G is not visible.");
+  EXPECT_EQ(Do("menu mnuVenturi")["error"], "mnuVenturi is disabled.");
+  EXPECT_EQ(Do("pick cbo流体 3")["ok"], false);
+  EXPECT_EQ(Do("pick txt温度 0")["ok"], false);
+}
+
+TEST_F(DriverTest, PressesKeysAndWalksWithEnter) {
+  Do("button 11");
+  const Json keys = Do("keys txt圧力 1-2a3");
+  EXPECT_EQ(keys["beeps"], 2);
+  EXPECT_EQ(keys["text"], "123");
+  EXPECT_EQ(Do("enter txt圧力")["focus"], "cbo圧力単位");
+  Do("pick cbo流体 1");
+  EXPECT_EQ(Do("enter txt目盛流量")["focus"], "cbo流量単位G");
+  // Without humidity the saturation pressure and the choice of base are passed over.
+  EXPECT_EQ(Do("enter txt相対湿度")["focus"], "txt偏差係数");
+}
+
+TEST_F(DriverTest, AnswersQuestionsFromTheQueue) {
+  for (const char* line : {"open ⊿P Flow", "type txt目盛流量 5000", "type txt常用流量 5000",
+                           "type txt圧力 500", "type txt密度 998", "type txt粘性係数 1",
+                           "type txt配管内径 45", "type txt設計差圧 25", "answer no"}) {
+    EXPECT_TRUE(Do(line)["ok"]) << line;
+  }
+  const Json refused = Do("click cmd計算");
+  ASSERT_EQ(refused["messages"].size(), 1U);
+  EXPECT_EQ(refused["messages"][0]["answer"], "no");
+  EXPECT_EQ(refused["messages"][0]["buttons"], "yesno");
+  EXPECT_EQ(refused["messages"][0]["icon"], "critical");
+  EXPECT_EQ(Do("click cmd計算")["messages"][0]["answer"], "yes");
+  EXPECT_EQ(Do("get lbl外挿")["text"], "（外挿計算）");
+}
+
+TEST_F(DriverTest, DumpsTheActiveForm) {
+  Do("open ⊿P Flow");
+  const Json dump = Do("dump");
+  EXPECT_EQ(dump["form"], "frmOrifice");
+  std::vector<std::string> names;
+  for (const Json& control : dump["controls"]) names.push_back(control["control"]);
+  const auto at = [&](const char* name) {
+    return std::find(names.begin(), names.end(), name) - names.begin();
+  };
+  EXPECT_LT(at("txtTagNo"), at("cbo流体"));
+  EXPECT_LT(at("txt密度"), at("txt粘性係数"));
+  EXPECT_LT(at("lblタイトル(1)"), static_cast<std::ptrdiff_t>(names.size()));
+  EXPECT_EQ(Do("forms")["forms"], Json({"frmOrifice"}));
+  Do("close");
+  EXPECT_EQ(Do("forms")["forms"], Json::array());
+  Do("quit");
+  EXPECT_TRUE(driver.Ended());
+}
+
+}  // namespace
+}  // namespace headless
