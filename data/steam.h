@@ -27,7 +27,7 @@ bool ReadSteamViscosityTable(std::string bytes, SteamViscosityTable& table);
 /// Saturation pressure of water in kgf/cm2 absolute: a polynomial of the logarithm below 71 degC,
 /// which yields mmHg and takes its divisor from the caller, then two reduced equations about the
 /// critical point 647.31 K, 225.65 kgf/cm2. 0 from 374.15 degC. Against IAPWS-IF97 it holds within
-/// 0.1 % from 0 to 360 degC.
+/// 0.2 % from 0 to 360 degC.
 Real WaterSaturationPressure(Real temperatureC, Real temperatureK, Real mmHgPerKgfCm2);
 
 /// Saturation pressure at `temperatureC` in the unit of `saturationPressureUnit`. It is rounded in

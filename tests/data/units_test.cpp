@@ -99,9 +99,9 @@ TEST(DifferentialFromMmH2O, RoundsToFourRoughDigitsAlsoInItsOwnUnit) {
   const struct {
     int unit;
     double mmH2O, shown;
-  } rows[] = {{1, 9.97412, 9.974}, {1, 9.976, 9.98},  {1, 99.4837, 99.48},     {1, 99.53, 99.5},
-              {1, 1234.5, 1235},   {1, 12345, 12350}, {0, 2500, 24.52},        {5, 2500, 245.2},
-              {3, 2500, 183.9},    {2, 2500, 0.25},   {2, 5.55555, 0.00055556}};
+  } rows[] = {{1, 9.97412, 9.974}, {1, 9.976, 9.98},  {1, 99.4837, 99.48},    {1, 99.53, 99.5},
+              {1, 1234.5, 1235},   {1, 12345, 12350}, {0, 2500, 24.52},       {5, 2500, 245.2},
+              {3, 2500, 183.9},    {2, 2500, 0.25},   {2, 5.55555, 0.0005556}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.mmH2O);
     EXPECT_NEAR(DifferentialFromMmH2O(row.unit, row.mmH2O), row.shown, 1e-9);
