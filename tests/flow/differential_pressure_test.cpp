@@ -594,6 +594,43 @@ TEST(Sizing, AnIterationThatDoesNotSettleEndsInAFault) {
   venturi.qMax = 0.995 * 0.01252 * 40000 * std::sqrt(998.0 * 1000);
   venturi.qNor = venturi.qMax;
   EXPECT_EQ(FaultOf(venturi), Fault::kOverflow);
+  Context gas = Service(kLongRadiusNozzle, kGas);
+  gas.boreToDifferential = true;
+  gas.p = 6.03323;
+  gas.rho = 7.03;
+  gas.pipeBore20 = 100;
+  gas.pipeBore = 100;
+  gas.bore = 60;
+  gas.qMax = 2000;
+  gas.qNor = 0.02;
+  EXPECT_EQ(FaultOf(gas), Fault::kOverflow);
+}
+
+// Without a normal flow the Reynolds number is 0: a fault where the coefficient depends on it, and
+// for a gas also where the expansion factor has the pressure ratio as a divisor.
+TEST(Sizing, WithoutANormalFlowEndsAsTheEquationOfTheTypeDoes) {
+  for (int type = 0; type < kElementTypes; ++type) {
+    for (const int phase : kPhases) {
+      for (const bool boreToDifferential : {false, true}) {
+        SCOPED_TRACE(testing::Message() << type << " " << phase << " " << boreToDifferential);
+        Context context = Service(Type(type), phase);
+        context.boreToDifferential = boreToDifferential;
+        context.qNor = 0;
+        std::optional<Fault> expected;
+        if (type <= 3 || type == 5 || type == 6) {
+          expected = Fault::kDivisionByZero;
+        } else if (type >= 7 && phase != kLiquid) {
+          expected = Fault::kOverflow;
+        }
+        EXPECT_EQ(FaultOf(context), expected);
+        if (expected) continue;
+        ScriptedMessages messages;
+        EXPECT_EQ(Calculate(context, ShippedTable(), messages).has_value(), type == 4);
+        ASSERT_FALSE(messages.shown.empty());
+        EXPECT_TRUE(messages.shown[0].text.starts_with("常用流量でのレイノルズ数（ =0）が 小さ"));
+      }
+    }
+  }
 }
 
 TEST(Sizing, EmptyEntriesEndInFaultsAndNotInNumbers) {

@@ -1,31 +1,48 @@
 #pragma once
 
-#include <cstddef>
+#include <deque>
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 #include "common/messages.h"
 
 namespace tests {
 
-/// Answers message boxes from a list and keeps what was shown. A box with nothing but OK is
-/// answered with OK; a question with the next answer (true is Yes), and Yes when none is left.
+/// Answers messages from a list, yes or no, and records them all. Only questions use an answer up;
+/// with none left the answer is yes or OK.
 class ScriptedMessages : public common::Messages {
  public:
   ScriptedMessages(std::initializer_list<bool> answers = {}) : answers_(answers) {}
 
+  std::vector<common::Message> shown;
+
   common::Answer Present(const common::Message& message) override {
     shown.push_back(message);
     if (message.buttons == common::Buttons::kOk) return common::Answer::kOk;
-    const bool yes = next_ < answers_.size() ? answers_[next_++] : true;
+    const bool yes = NextAnswer();
+    if (message.buttons == common::Buttons::kOkCancel) {
+      return yes ? common::Answer::kOk : common::Answer::kCancel;
+    }
     return yes ? common::Answer::kYes : common::Answer::kNo;
   }
 
-  std::vector<common::Message> shown;
+  /// The texts shown so far, in order.
+  std::vector<std::string> Texts() const {
+    std::vector<std::string> texts;
+    for (const common::Message& message : shown) texts.push_back(message.text);
+    return texts;
+  }
 
  private:
-  std::vector<bool> answers_;
-  std::size_t next_ = 0;
+  bool NextAnswer() {
+    if (answers_.empty()) return true;
+    const bool answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+  }
+
+  std::deque<bool> answers_;
 };
 
 }  // namespace tests
