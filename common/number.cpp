@@ -1,7 +1,8 @@
 #include "common/number.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cstdlib>
+#include <utility>
 
 namespace common {
 
@@ -24,7 +25,9 @@ Decimal ToDecimal(double magnitude, int significantDigits) {
   for (const char c : text.substr(0, mark)) {
     if (c != '.') result.digits += c;
   }
-  result.exponent = std::atoi(buffer + mark + 1);
+  const char* exponent = buffer + mark + 1;
+  if (*exponent == '+') ++exponent;
+  std::from_chars(exponent, end.ptr, result.exponent);
   return result;
 }
 
