@@ -121,7 +121,7 @@ QWidget* LayoutBuilder::Build(const forms::Block& block) {
     case forms::Block::Kind::kRow:
       return BuildRow(block);
     case forms::Block::Kind::kColumn:
-      return BuildColumn(block);
+      return BuildColumn(block, Rest::kBelow);
     case forms::Block::Kind::kGroup:
     case forms::Block::Kind::kResults:
       return BuildGroup(block);
@@ -221,17 +221,25 @@ QWidget* LayoutBuilder::BuildRow(const forms::Block& block) {
   QWidget* const row = Box();
   auto* const layout = new QHBoxLayout(row);
   Space(*layout, 0, kBetweenBlocks);
-  for (const forms::Block& inner : block.blocks) layout->addWidget(Build(inner), inner.stretch);
+  for (const forms::Block& inner : block.blocks) {
+    const bool column = inner.kind == forms::Block::Kind::kColumn;
+    layout->addWidget(column ? BuildColumn(inner, Rest::kToLast) : Build(inner), inner.stretch);
+  }
   return row;
 }
 
-QWidget* LayoutBuilder::BuildColumn(const forms::Block& block) {
+QWidget* LayoutBuilder::BuildColumn(const forms::Block& block, Rest rest) {
   QWidget* const column = Box();
   auto* const layout = new QVBoxLayout(column);
   Space(*layout, 0, kBetweenBlocks);
   for (const forms::Block& inner : block.blocks) layout->addWidget(Build(inner), inner.stretch);
   const bool roomTaken = std::any_of(block.blocks.begin(), block.blocks.end(), TakesRoom);
-  if (!roomTaken) layout->addStretch(1);
+  if (roomTaken || block.blocks.empty()) return column;
+  if (rest == Rest::kBelow) {
+    layout->addStretch(1);
+  } else {
+    layout->setStretch(layout->count() - 1, 1);
+  }
   return column;
 }
 

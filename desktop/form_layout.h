@@ -28,10 +28,13 @@ class LayoutBuilder {
   std::vector<Resize> TakeResizes() { return std::move(resizes_); }
 
  private:
+  /// Where room goes that no block of a column asks for: columns side by side end on one line.
+  enum class Rest { kBelow, kToLast };
+
   QWidget* Build(const forms::Block& block);
   QWidget* BuildTable(const forms::Block& block);
   QWidget* BuildRow(const forms::Block& block);
-  QWidget* BuildColumn(const forms::Block& block);
+  QWidget* BuildColumn(const forms::Block& block, Rest rest);
   QWidget* BuildGroup(const forms::Block& block);
   QWidget* BuildButtons(const forms::Block& block);
 

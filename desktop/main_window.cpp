@@ -99,7 +99,8 @@ void MainWindow::AddToolBar() {
 
 void MainWindow::AddButton(const shell::ToolButton& button) {
   if (button.separator) {
-    toolBar_->addSeparator();
+    const QList<QAction*> shown = toolBar_->actions();
+    if (!shown.isEmpty() && !shown.back()->isSeparator()) toolBar_->addSeparator();
     return;
   }
   QAction* const action = toolBar_->addAction(IconNamed(button.icon), QString());

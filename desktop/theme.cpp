@@ -108,7 +108,11 @@ QColor PaperColor(forms::Color color) {
 }
 
 QColor Ink(forms::Color color, const Theme& theme, const QColor& ground) {
-  QColor ink = color == forms::kBlack || color < 0 ? theme.text : PaperColor(color);
+  if (color == forms::kBlack || color < 0) {
+    if (Contrast(theme.text, ground) >= kReadableContrast) return theme.text;
+    return (theme.dark ? Theme::Light() : Theme::Dark()).text;
+  }
+  QColor ink = PaperColor(color);
   const float step = Luminance(ground) < 0.18 ? 0.02F : -0.02F;
   while (Contrast(ink, ground) < kReadableContrast) {
     const QColor hsl = ink.toHsl();
@@ -149,9 +153,10 @@ QString FormStyle(const Theme& theme, int letterPixels) {
   static const QString sheet = ReadSheet(":/style/form.qss");
   QString text = sheet;
   const std::pair<const char*, double> sizes[] = {
-      {"@headingPx", 1.35},  {"@titlePx", 1.0},   {"@notePx", 0.92}, {"@letterPx", 1.0},
-      {"@padPx", 0.38},      {"@thinPadPx", 0.2}, {"@roundPx", 0.3}, {"@cardRoundPx", 0.5},
-      {"@buttonPadPx", 1.2}, {"@dropPx", 1.5},    {"@arrowPx", 0.8}, {"@markPx", 1.08}};
+      {"@headingPx", 1.35}, {"@linePx", 1.36}, {"@hairPx", 0.12},     {"@barPx", 0.9},
+      {"@titlePx", 1.0},    {"@notePx", 0.92}, {"@letterPx", 1.0},    {"@padPx", 0.38},
+      {"@thinPadPx", 0.2},  {"@roundPx", 0.3}, {"@cardRoundPx", 0.5}, {"@buttonPadPx", 1.2},
+      {"@dropPx", 1.5},     {"@arrowPx", 0.8}, {"@markPx", 1.08}};
   for (const auto& [mark, share] : sizes) {
     const int pixels = std::max(1, static_cast<int>(std::lround(letterPixels * share)));
     text.replace(QLatin1String(mark), QString::number(pixels) + QLatin1String("px"));
