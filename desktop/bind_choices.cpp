@@ -1,0 +1,249 @@
+#include <QAbstractItemView>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "common/text.h"
+#include "desktop/binding.h"
+#include "desktop/reporting.h"
+
+namespace desktop {
+
+namespace {
+
+class ComboField : public Reporting<QComboBox, forms::ComboBox> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void PressEnter() override { Shown().PressEnter(); }
+  /// The wheel scrolls the sheet; it must not change a unit in passing.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+class TabField : public Reporting<QTabBar, forms::TabStrip> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void PressEnter() override { Shown().PressEnter(); }
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+class ListField : public Reporting<QListWidget, forms::ListBox> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void PressEnter() override { Shown().PressEnter(); }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = currentRow();
+    Reporting::keyPressEvent(event);
+    if (currentRow() != before && currentRow() >= 0) Shown().Pick(currentRow());
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    Reporting::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && currentRow() >= 0) Shown().Pick(currentRow());
+  }
+};
+
+class OptionField : public Reporting<QRadioButton, forms::OptionButton> {
+ public:
+  using Reporting::Reporting;
+};
+
+class CheckField : public Reporting<QCheckBox, forms::CheckBox> {
+ public:
+  using Reporting::Reporting;
+};
+
+bool SameItems(const QComboBox& combo, const std::vector<std::string>& items) {
+  if (combo.count() != static_cast<int>(items.size())) return false;
+  int row = 0;
+  return std::all_of(items.begin(), items.end(), [&](const std::string& item) {
+    return combo.itemText(row++) == QString::fromStdString(item);
+  });
+}
+
+QStringList Texts(const std::vector<std::string>& items) {
+  QStringList texts;
+  for (const std::string& item : items) texts.append(QString::fromStdString(item));
+  return texts;
+}
+
+void ShowCombo(const forms::ComboBox& box, QComboBox& combo) {
+  const QSignalBlocker quiet(combo);
+  if (!SameItems(combo, box.Items())) {
+    combo.clear();
+    combo.addItems(Texts(box.Items()));
+  }
+  combo.setCurrentIndex(box.Index());
+  const QString text = QString::fromStdString(box.Text());
+  if (box.Editable() && combo.currentText() != text) combo.setEditText(text);
+  ShowCommon(box, combo, Theme::Current().field, forms::kWhite);
+}
+
+void MakeEditable(forms::ComboBox& box, QComboBox& combo) {
+  combo.setEditable(true);
+  combo.setInsertPolicy(QComboBox::NoInsert);
+  combo.setCompleter(nullptr);
+  QObject::connect(combo.lineEdit(), &QLineEdit::textEdited, &combo,
+                   [&box](const QString& typed) { box.SetText(typed.toStdString()); });
+}
+
+/// Columns of the longest entry.
+int LongestItem(const forms::ListControl& list) {
+  int longest = 0;
+  for (const std::string& item : list.Items()) {
+    longest = std::max(longest, common::Cp932Length(item));
+  }
+  return longest;
+}
+
+/// Unit selectors are of one width all over the form; longer lists take what they need.
+int ComboWidth(const forms::ComboBox& box) {
+  constexpr int kUnitWidth = 10;
+  constexpr int kLargestWidth = 36;
+  return std::clamp(LongestItem(box), kUnitWidth, kLargestWidth);
+}
+
+void ShowList(const forms::ListBox& box, QListWidget& list) {
+  const QSignalBlocker quiet(list);
+  const int count = box.Count();
+  while (list.count() > count) delete list.takeItem(list.count() - 1);
+  for (int row = 0; row < count; ++row) {
+    const QString text = QString::fromStdString(box.Items()[static_cast<std::size_t>(row)]);
+    if (row == list.count()) {
+      list.addItem(text);
+    } else if (list.item(row)->text() != text) {
+      list.item(row)->setText(text);
+    }
+  }
+  list.setCurrentRow(box.Index());
+  ShowCommon(box, list, Theme::Current().field, forms::kWhite);
+}
+
+void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
+  constexpr int kOwnWidth = 24;
+  if (box.FixedPitch()) {
+    QFont font(FixedFamily());
+    font.setPixelSize(scale.LetterPixels());
+    list.setFont(font);
+  }
+  list.setMinimumWidth(scale.Digits(characters > 0 ? characters : kOwnWidth) + scale.Em(2));
+  list.setMinimumHeight(scale.Em(1.35 * box.VisibleLines() + 0.6));
+}
+
+void ShowTabs(const forms::TabStrip& strip, QTabBar& tabs) {
+  const QSignalBlocker quiet(tabs);
+  while (tabs.count() > strip.Count()) tabs.removeTab(tabs.count() - 1);
+  int tab = 0;
+  for (const QString& text : Texts(strip.Items())) {
+    QString caption = text;
+    caption.replace(QLatin1Char('&'), QLatin1String("&&"));
+    if (tab == tabs.count()) tabs.addTab(caption);
+    tabs.setTabText(tab++, caption);
+  }
+  tabs.setCurrentIndex(strip.Index());
+  ShowCommon(strip, tabs, Theme::Current().window, forms::kWhite);
+}
+
+/// The widgets of an option group exclude each other, so that the arrow keys walk in it.
+void JoinGroup(const forms::OptionButton& option, QRadioButton& button, QWidget& form) {
+  const QString name = QLatin1String("options ") + QString::fromStdString(option.Group());
+  auto* group = form.findChild<QButtonGroup*>(name, Qt::FindDirectChildrenOnly);
+  if (group == nullptr) {
+    group = new QButtonGroup(&form);
+    group->setObjectName(name);
+  }
+  group->addButton(&button);
+}
+
+void ShowOption(const forms::OptionButton& option, QRadioButton& button) {
+  button.setText(QString::fromStdString(option.Text()));
+  QButtonGroup* const group = button.group();
+  // The form decides what excludes what; an exclusive group would refuse to be without a mark.
+  group->setExclusive(false);
+  button.setChecked(option.Checked());
+  group->setExclusive(true);
+  ShowCommon(option, button, Theme::Current().card, forms::kWhite);
+}
+
+void ShowCheck(const forms::CheckBox& check, QCheckBox& button) {
+  button.setText(QString::fromStdString(check.Text()));
+  button.setChecked(check.Checked());
+  ShowCommon(check, button, Theme::Current().card, forms::kWhite);
+}
+
+const auto kOwnSize = [](const Scale&, int) {};
+
+}  // namespace
+
+Bound Bind(forms::ComboBox& box, QWidget& parent) {
+  constexpr int kMostVisible = 18;
+  auto* const combo = new ComboField(box, parent);
+  combo->setMaxVisibleItems(kMostVisible);
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  if (box.Editable()) MakeEditable(box, *combo);
+  const auto show = [&box, combo] { ShowCombo(box, *combo); };
+  QObject::connect(combo, &QComboBox::activated, combo, [&box, show](int index) {
+    box.Pick(index);
+    show();
+  });
+  return {combo, show, [&box, combo](const Scale& scale, int characters) {
+            const int width = characters > 0 ? characters : ComboWidth(box);
+            combo->setMinimumWidth(scale.Digits(width) + scale.Em(2.2));
+            combo->view()->setMinimumWidth(scale.Digits(LongestItem(box)) + scale.Em(2.2));
+          }};
+}
+
+Bound Bind(forms::ListBox& list, QWidget& parent) {
+  auto* const field = new ListField(list, parent);
+  field->setUniformItemSizes(true);
+  return {field, [&list, field] { ShowList(list, *field); },
+          [&list, field](const Scale& scale, int characters) {
+            ResizeList(list, *field, scale, characters);
+          }};
+}
+
+Bound Bind(forms::TabStrip& strip, QWidget& parent) {
+  auto* const tabs = new TabField(strip, parent);
+  tabs->setDrawBase(false);
+  tabs->setExpanding(false);
+  QObject::connect(tabs, &QTabBar::currentChanged, tabs, [&strip](int index) {
+    if (index >= 0) strip.Pick(index);
+  });
+  return {tabs, [&strip, tabs] { ShowTabs(strip, *tabs); }, kOwnSize};
+}
+
+Bound Bind(forms::OptionButton& option, QWidget& parent) {
+  auto* const button = new OptionField(option, parent);
+  JoinGroup(option, *button, parent);
+  const auto show = [&option, button] { ShowOption(option, *button); };
+  QObject::connect(button, &QRadioButton::clicked, button, [&option, show] {
+    option.Choose();
+    show();
+  });
+  return {button, show, kOwnSize};
+}
+
+Bound Bind(forms::CheckBox& check, QWidget& parent) {
+  auto* const button = new CheckField(check, parent);
+  const auto show = [&check, button] { ShowCheck(check, *button); };
+  QObject::connect(button, &QCheckBox::clicked, button, [&check, show] {
+    check.Choose();
+    show();
+  });
+  return {button, show, kOwnSize};
+}
+
+}  // namespace desktop

@@ -1,0 +1,310 @@
+#include <QFrame>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "desktop/binding.h"
+#include "desktop/draw_surface.h"
+#include "desktop/reporting.h"
+
+namespace desktop {
+
+namespace {
+
+/// A widget without a click of its own that reports clicks.
+template <class Widget, class ControlKind>
+class Clickable : public Reporting<Widget, ControlKind> {
+ public:
+  using Reporting<Widget, ControlKind>::Reporting;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_ = event->button() == Qt::LeftButton;
+    event->accept();
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    event->accept();
+    const bool click = std::exchange(pressed_, false) && event->button() == Qt::LeftButton &&
+                       this->rect().contains(event->position().toPoint());
+    if (click) this->Shown().Click();
+  }
+
+ private:
+  bool pressed_ = false;
+};
+
+class LabelField : public Clickable<QLabel, forms::Label> {
+ public:
+  using Clickable::Clickable;
+};
+
+class ButtonField : public Reporting<QPushButton, forms::Button> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void PressEnter() override { click(); }
+};
+
+class PictureField : public Clickable<QWidget, forms::Picture> {
+ public:
+  using Clickable::Clickable;
+  QSize sizeHint() const override { return minimumSize(); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const forms::Picture& picture = Shown();
+    if (!picture.onPaint || picture.Width() <= 0 || picture.Height() <= 0) return;
+    QPainter painter(this);
+    const double unitsPerTwip = std::min(width() / picture.Width(), height() / picture.Height());
+    painter.translate((width() - picture.Width() * unitsPerTwip) / 2,
+                      (height() - picture.Height() * unitsPerTwip) / 2);
+    const Theme& theme = Theme::Current();
+    QtDrawSurface surface(painter, unitsPerTwip,
+                          [&theme](forms::Color color) { return Ink(color, theme, theme.card); });
+    try {
+      picture.onPaint(surface);
+    } catch (const common::RuntimeFault&) {
+      // A picture of values that cannot be drawn stays as far as it came; the calculation that
+      // led to them has told the user.
+    }
+  }
+};
+
+class ScrollField : public Reporting<QScrollBar, forms::ScrollBar> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) {
+      Reporting::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+};
+
+class GridField : public Reporting<QTableWidget, forms::Grid> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = currentRow();
+    Reporting::keyPressEvent(event);
+    if (currentRow() != before && currentRow() >= 0) Shown().Pick(currentRow());
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    Reporting::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && currentRow() >= 0) Shown().Pick(currentRow());
+  }
+};
+
+const char* LookOf(forms::LabelStyle style) {
+  switch (style) {
+    case forms::LabelStyle::kResult:
+      return "result";
+    case forms::LabelStyle::kUnit:
+      return "unit";
+    case forms::LabelStyle::kHeading:
+      return "heading";
+    case forms::LabelStyle::kNote:
+      return "note";
+    case forms::LabelStyle::kCaption:
+      break;
+  }
+  return "caption";
+}
+
+void ShowLabel(const forms::Label& label, QLabel& widget) {
+  const Theme& theme = Theme::Current();
+  const bool clickable = label.onClick || label.onDblClick;
+  widget.setText(QString::fromStdString(label.Text()));
+  widget.setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  widget.setProperty("clickable", clickable);
+  const bool result = label.Style() == forms::LabelStyle::kResult;
+  const bool plain = label.BackColor() == forms::kWhite || label.BackColor() == forms::kButtonFace;
+  ShowCommon(label, widget, result ? theme.result : theme.card,
+             plain ? label.BackColor() : forms::kWhite);
+}
+
+void ResizeLabel(const forms::Label& label, QLabel& widget, const Scale& scale, int characters) {
+  constexpr int kResultWidth = 12;
+  constexpr int kNoteWidth = 30;
+  int own = 0;
+  if (label.Style() == forms::LabelStyle::kResult) own = kResultWidth;
+  if (label.Style() == forms::LabelStyle::kNote && widget.wordWrap()) own = kNoteWidth;
+  widget.setMinimumWidth(scale.Digits(characters > 0 ? characters : own));
+}
+
+void ShowButton(const forms::Button& button, QPushButton& widget) {
+  widget.setText(QString::fromStdString(button.Text()));
+  ShowCommon(button, widget, Theme::Current().card, forms::kButtonFace);
+}
+
+void ShowFrame(const forms::Frame& frame, QFrame& widget) {
+  auto* const title = widget.findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+  if (title != nullptr) {
+    title->setText(QString::fromStdString(frame.Text()));
+    title->setHidden(frame.Text().empty());
+  }
+  widget.setEnabled(frame.Enabled());
+  widget.setHidden(!frame.Visible());
+}
+
+QTableWidgetItem* GridItem(const std::string& text, const forms::Grid::Column& column) {
+  auto* const item = new QTableWidgetItem(QString::fromStdString(text));
+  item->setTextAlignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft));
+  return item;
+}
+
+void FillGrid(const forms::Grid& grid, QTableWidget& table) {
+  table.setRowCount(static_cast<int>(grid.Rows().size()));
+  int row = 0;
+  for (const auto& cells : grid.Rows()) {
+    const std::size_t count = std::min(cells.size(), grid.Columns().size());
+    for (std::size_t column = 0; column < count; ++column) {
+      const QTableWidgetItem* const old = table.item(row, static_cast<int>(column));
+      if (old != nullptr && old->text() == QString::fromStdString(cells[column])) continue;
+      table.setItem(row, static_cast<int>(column), GridItem(cells[column], grid.Columns()[column]));
+    }
+    ++row;
+  }
+}
+
+void ShowGrid(const forms::Grid& grid, QTableWidget& table) {
+  const QSignalBlocker quiet(table);
+  FillGrid(grid, table);
+  if (grid.SelectedRow() < 0) {
+    table.setCurrentItem(nullptr);
+  } else if (grid.SelectedRow() != table.currentRow()) {
+    table.selectRow(grid.SelectedRow());
+  }
+  ShowCommon(grid, table, Theme::Current().field, forms::kWhite);
+}
+
+void ResizeGrid(const forms::Grid& grid, QTableWidget& table, const Scale& scale, int characters) {
+  constexpr double kRowEm = 1.7;
+  constexpr int kLeastRows = 5;
+  int total = 0;
+  int index = 0;
+  for (const forms::Grid::Column& column : grid.Columns()) {
+    const int width = scale.Twips(column.width);
+    table.setColumnWidth(index++, width);
+    total += width;
+  }
+  table.verticalHeader()->setDefaultSectionSize(scale.Em(kRowEm));
+  table.setMinimumHeight(scale.Em(kRowEm * (kLeastRows + 1)));
+  table.setMinimumWidth(characters > 0 ? scale.Digits(characters) : total + scale.Em(2));
+}
+
+void PrepareGrid(const forms::Grid& grid, QTableWidget& table) {
+  table.setColumnCount(static_cast<int>(grid.Columns().size()));
+  int index = 0;
+  for (const forms::Grid::Column& column : grid.Columns()) {
+    table.setHorizontalHeaderItem(index++,
+                                  new QTableWidgetItem(QString::fromStdString(column.title)));
+  }
+  table.verticalHeader()->hide();
+  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.verticalHeader()->setMinimumSectionSize(1);
+  table.horizontalHeader()->setHighlightSections(false);
+  table.horizontalHeader()->setStretchLastSection(!grid.Columns().empty() &&
+                                                  !grid.Columns().back().rightAligned);
+  table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setSelectionMode(QAbstractItemView::SingleSelection);
+  table.setTabKeyNavigation(false);
+}
+
+const auto kOwnSize = [](const Scale&, int) {};
+
+}  // namespace
+
+Bound Bind(forms::Label& label, QWidget& parent) {
+  auto* const widget = new LabelField(label, parent);
+  SetLook(*widget, LookOf(label.Style()));
+  widget->setTextFormat(Qt::PlainText);
+  widget->setAttribute(Qt::WA_Hover);
+  if (label.Style() == forms::LabelStyle::kResult) {
+    widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {widget, [&label, widget] { ShowLabel(label, *widget); },
+          [&label, widget](const Scale& scale, int characters) {
+            ResizeLabel(label, *widget, scale, characters);
+          }};
+}
+
+Bound Bind(forms::Button& button, QWidget& parent) {
+  auto* const widget = new ButtonField(button, parent);
+  if (button.Role() == forms::ButtonRole::kDefault) SetLook(*widget, "default");
+  widget->setAutoDefault(false);
+  QObject::connect(widget, &QPushButton::clicked, widget, [&button] { button.Click(); });
+  return {widget, [&button, widget] { ShowButton(button, *widget); }, [](const Scale&, int) {}};
+}
+
+Bound Bind(forms::Frame& frame, QWidget& parent) {
+  auto* const widget = new Reporting<QFrame, forms::Frame>(frame, parent);
+  return {widget, [&frame, widget] { ShowFrame(frame, *widget); }, kOwnSize};
+}
+
+Bound Bind(forms::Picture& picture, QWidget& parent) {
+  auto* const widget = new PictureField(picture, parent);
+  const auto show = [&picture, widget] {
+    widget->setEnabled(picture.Enabled());
+    widget->setHidden(!picture.Visible());
+    widget->setToolTip(QString::fromStdString(picture.ToolTip()));
+    widget->update();
+  };
+  return {widget, show, [&picture, widget](const Scale& scale, int) {
+            widget->setMinimumSize(scale.Twips(picture.Width()), scale.Twips(picture.Height()));
+          }};
+}
+
+Bound Bind(forms::ScrollBar& bar, QWidget& parent) {
+  auto* const widget = new ScrollField(bar, parent);
+  const bool upright = bar.Orientation() == forms::ScrollBar::Direction::kVertical;
+  widget->setOrientation(upright ? Qt::Vertical : Qt::Horizontal);
+  widget->setFocusPolicy(Qt::StrongFocus);
+  QObject::connect(widget, &QScrollBar::valueChanged, widget,
+                   [&bar](int value) { bar.SetValue(value); });
+  const auto show = [&bar, widget] {
+    const QSignalBlocker quiet(*widget);
+    widget->setRange(0, bar.Maximum());
+    widget->setPageStep(bar.LargeChange());
+    widget->setValue(bar.Value());
+    ShowCommon(bar, *widget, Theme::Current().card, forms::kWhite);
+  };
+  return {widget, show, kOwnSize};
+}
+
+Bound Bind(forms::Grid& grid, QWidget& parent) {
+  auto* const table = new GridField(grid, parent);
+  PrepareGrid(grid, *table);
+  return {table, [&grid, table] { ShowGrid(grid, *table); },
+          [&grid, table](const Scale& scale, int characters) {
+            ResizeGrid(grid, *table, scale, characters);
+          }};
+}
+
+Bound Bind(forms::ProgressBar& bar, QWidget& parent) {
+  auto* const widget = new Reporting<QProgressBar, forms::ProgressBar>(bar, parent);
+  const auto show = [&bar, widget] {
+    widget->setRange(0, bar.Maximum());
+    widget->setValue(bar.Value());
+    widget->setHidden(!bar.Visible());
+  };
+  return {widget, show, kOwnSize};
+}
+
+}  // namespace desktop

@@ -1,0 +1,69 @@
+#include "desktop/binding.h"
+
+#include <QStyle>
+#include <QVariant>
+#include <stdexcept>
+
+namespace desktop {
+
+namespace {
+
+template <class Kind>
+bool BindIf(forms::Control& control, QWidget& parent, Bound& bound) {
+  auto* const kind = dynamic_cast<Kind*>(&control);
+  if (kind == nullptr) return false;
+  bound = Bind(*kind, parent);
+  return true;
+}
+
+template <class... Kinds>
+Bound BindFirstOf(forms::Control& control, QWidget& parent) {
+  Bound bound;
+  if (!(BindIf<Kinds>(control, parent, bound) || ...)) {
+    throw std::logic_error("no widget shows a " + std::string(control.Kind()));
+  }
+  return bound;
+}
+
+/// Tool tips of ours are plain text, whatever they look like.
+QString PlainToolTip(const std::string& text) {
+  const QString tip = QString::fromStdString(text);
+  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+}
+
+QString ColorStyle(const forms::Control& control, const QColor& ground, forms::Color plain) {
+  const Theme& theme = Theme::Current();
+  QString style;
+  QColor behind = ground;
+  if (control.BackColor() != plain) {
+    behind = Ground(control.BackColor(), theme);
+    style += QStringLiteral("background-color: %1;").arg(behind.name());
+  }
+  if (control.ForeColor() != forms::kBlack || behind != ground) {
+    style += QStringLiteral("color: %1;").arg(Ink(control.ForeColor(), theme, behind).name());
+  }
+  return style;
+}
+
+}  // namespace
+
+Bound BindAny(forms::Control& control, QWidget& parent) {
+  using namespace forms;
+  Bound bound = BindFirstOf<TextBox, ComboBox, ListBox, TabStrip, OptionButton, CheckBox, Label,
+                            Button, Frame, Picture, ScrollBar, Grid, ProgressBar>(control, parent);
+  bound.widget->setObjectName(QString::fromStdString(control.Name()));
+  return bound;
+}
+
+void ShowCommon(const forms::Control& control, QWidget& widget, const QColor& ground,
+                forms::Color plain) {
+  widget.setEnabled(control.Enabled());
+  widget.setHidden(!control.Visible());
+  widget.setToolTip(PlainToolTip(control.ToolTip()));
+  const QString style = ColorStyle(control, ground, plain);
+  if (widget.styleSheet() != style) widget.setStyleSheet(style);
+}
+
+void SetLook(QWidget& widget, const char* look) { widget.setProperty("look", look); }
+
+}  // namespace desktop

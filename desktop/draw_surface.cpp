@@ -1,0 +1,114 @@
+#include "desktop/draw_surface.h"
+
+#include <QFontMetricsF>
+#include <QPolygonF>
+#include <cmath>
+
+#include "desktop/theme.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr double kTwipsPerPoint = 20;
+
+QPolygonF PolygonOf(const std::vector<std::pair<double, double>>& points) {
+  QPolygonF polygon;
+  for (const auto& [x, y] : points) polygon.append({x, y});
+  return polygon;
+}
+
+}  // namespace
+
+QtDrawSurface::QtDrawSurface(QPainter& painter, double unitsPerTwip, ColorRule rule)
+    : painter_(painter), rule_(rule ? std::move(rule) : ColorRule(PaperColor)) {
+  constexpr double kOwnSize = 9;
+  painter_.save();
+  painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  painter_.scale(unitsPerTwip, unitsPerTwip);
+  color_ = rule_(forms::kBlack);
+  SetFont(UiFamily().toStdString(), kOwnSize, false);
+}
+
+QtDrawSurface::~QtDrawSurface() { painter_.restore(); }
+
+void QtDrawSurface::SetFont(const std::string& name, double size, bool bold) {
+  QFont font;
+  font.setFamilies({QString::fromStdString(name), FixedFamily()});
+  // In twips, so that the metrics are the same at every resolution.
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(size * kTwipsPerPoint))));
+  font.setBold(bold);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  painter_.setFont(font);
+}
+
+void QtDrawSurface::SetColor(forms::Color color) { color_ = rule_(color); }
+
+void QtDrawSurface::SetLineWidth(double width) { lineWidthTwips_ = width * kTwipsPerPixel; }
+
+QPen QtDrawSurface::Pen() const {
+  return QPen(color_, lineWidthTwips_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+void QtDrawSurface::FillNothing() {
+  painter_.setPen(Pen());
+  painter_.setBrush(Qt::NoBrush);
+}
+
+void QtDrawSurface::FillWithColor() {
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(color_);
+}
+
+void QtDrawSurface::Line(double x1, double y1, double x2, double y2) {
+  FillNothing();
+  painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void QtDrawSurface::DashedLine(double x1, double y1, double x2, double y2) {
+  QPen pen = Pen();
+  pen.setStyle(Qt::DashLine);
+  pen.setCapStyle(Qt::FlatCap);
+  painter_.setPen(pen);
+  painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void QtDrawSurface::Polyline(const std::vector<std::pair<double, double>>& points) {
+  FillNothing();
+  painter_.drawPolyline(PolygonOf(points));
+}
+
+void QtDrawSurface::FilledPolygon(const std::vector<std::pair<double, double>>& points) {
+  FillWithColor();
+  painter_.drawPolygon(PolygonOf(points));
+}
+
+void QtDrawSurface::Rectangle(double x1, double y1, double x2, double y2) {
+  FillNothing();
+  painter_.drawRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized());
+}
+
+void QtDrawSurface::FilledRectangle(double x1, double y1, double x2, double y2) {
+  FillWithColor();
+  painter_.drawRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized());
+}
+
+void QtDrawSurface::Ellipse(double centreX, double centreY, double radiusX, double radiusY) {
+  FillNothing();
+  painter_.drawEllipse(QPointF(centreX, centreY), radiusX, radiusY);
+}
+
+void QtDrawSurface::Text(double x, double y, const std::string& text) {
+  painter_.setPen(color_);
+  const double ascent = QFontMetricsF(painter_.font()).ascent();
+  painter_.drawText(QPointF(x, y + ascent), QString::fromStdString(text));
+}
+
+double QtDrawSurface::TextWidth(const std::string& text) {
+  return QFontMetricsF(painter_.font()).horizontalAdvance(QString::fromStdString(text));
+}
+
+double QtDrawSurface::TextHeight() { return QFontMetricsF(painter_.font()).height(); }
+
+}  // namespace desktop

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <functional>
+
+#include "forms/draw_surface.h"
+
+namespace desktop {
+
+/// The drawing surface on a painter, on screen or on paper. The caller owns the painter; its state
+/// is restored when the surface goes.
+class QtDrawSurface : public forms::DrawSurface {
+ public:
+  using ColorRule = std::function<QColor(forms::Color)>;
+
+  /// unitsPerTwip: painter units of one twip, 1/15 for device-independent pixels, resolution/1440
+  /// for a printer. rule: how a colour number looks; PaperColor unless told.
+  QtDrawSurface(QPainter& painter, double unitsPerTwip, ColorRule rule = {});
+  ~QtDrawSurface() override;
+
+  void SetFont(const std::string& name, double size, bool bold) override;
+  void SetColor(forms::Color color) override;
+  void SetLineWidth(double width) override;
+  void Line(double x1, double y1, double x2, double y2) override;
+  void DashedLine(double x1, double y1, double x2, double y2) override;
+  void Polyline(const std::vector<std::pair<double, double>>& points) override;
+  void FilledPolygon(const std::vector<std::pair<double, double>>& points) override;
+  void Rectangle(double x1, double y1, double x2, double y2) override;
+  void FilledRectangle(double x1, double y1, double x2, double y2) override;
+  void Ellipse(double centreX, double centreY, double radiusX, double radiusY) override;
+  void Text(double x, double y, const std::string& text) override;
+  double TextWidth(const std::string& text) override;
+  double TextHeight() override;
+
+ private:
+  QPen Pen() const;
+  void FillNothing();
+  void FillWithColor();
+
+  QPainter& painter_;
+  ColorRule rule_;
+  QColor color_ = Qt::black;
+  double lineWidthTwips_ = 15;
+};
+
+}  // namespace desktop

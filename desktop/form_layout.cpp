@@ -1,0 +1,280 @@
+#include "desktop/form_layout.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/binding.h"
+#include "forms/controls.h"
+
+namespace desktop {
+
+namespace {
+
+// Distances in letter heights.
+constexpr double kBetweenColumns = 0.7;
+constexpr double kBetweenLines = 0.42;
+constexpr double kBetweenBlocks = 0.75;
+constexpr double kCardMargin = 0.85;
+constexpr double kFormMargin = 0.9;
+constexpr double kButtonWidth = 7;
+
+QWidget* Box() {
+  auto* const box = new QWidget;
+  SetLook(*box, "box");
+  return box;
+}
+
+template <class Kind>
+bool Is(const forms::Control* control) {
+  return dynamic_cast<const Kind*>(control) != nullptr;
+}
+
+bool IsResult(const forms::Control* control) {
+  const auto* const label = dynamic_cast<const forms::Label*>(control);
+  return label != nullptr && label->Style() == forms::LabelStyle::kResult;
+}
+
+bool IsCaption(const forms::Cell& cell) {
+  if (cell.What() == forms::Cell::Kind::kText || cell.Controls().empty()) return true;
+  return Is<forms::Label>(cell.Controls().front()) && !IsResult(cell.Controls().front());
+}
+
+/// Whether the cell gains from more height.
+bool IsTall(const forms::Cell& cell) {
+  return std::any_of(cell.Controls().begin(), cell.Controls().end(),
+                     [](const forms::Control* control) {
+                       return Is<forms::ListBox>(control) || Is<forms::Grid>(control) ||
+                              Is<forms::Picture>(control);
+                     });
+}
+
+/// Whether the cell gains from more width. A unit selector, which stands behind its value, does
+/// not; a selector behind a caption does.
+bool IsWide(const forms::Cell& cell, const forms::Cell* before) {
+  if (IsTall(cell)) return true;
+  return std::any_of(
+      cell.Controls().begin(), cell.Controls().end(), [&](const forms::Control* control) {
+        if (Is<forms::TextBox>(control) || IsResult(control)) return true;
+        return Is<forms::ComboBox>(control) && (before == nullptr || IsCaption(*before));
+      });
+}
+
+std::vector<bool> WideColumns(const std::vector<forms::Line>& lines) {
+  std::vector<bool> wide;
+  for (const forms::Line& line : lines) {
+    std::size_t column = 0;
+    const forms::Cell* before = nullptr;
+    for (const forms::Cell& cell : line) {
+      const auto behind = column + static_cast<std::size_t>(cell.Columns());
+      wide.resize(std::max(wide.size(), behind));
+      if (cell.Columns() == 1 && IsWide(cell, before)) wide[column] = true;
+      column = behind;
+      before = &cell;
+    }
+  }
+  return wide;
+}
+
+/// Spare room goes to the columns that can use it, or behind the last one.
+void StretchColumns(QGridLayout& grid, const std::vector<forms::Line>& lines) {
+  const std::vector<bool> wide = WideColumns(lines);
+  int column = 0;
+  for (const bool isWide : wide) grid.setColumnStretch(column++, isWide ? 1 : 0);
+  if (std::find(wide.begin(), wide.end(), true) == wide.end()) grid.setColumnStretch(column, 1);
+}
+
+void StretchRows(QGridLayout& grid, const std::vector<forms::Line>& lines) {
+  bool anyTall = false;
+  int row = 0;
+  for (const forms::Line& line : lines) {
+    const bool tall = std::any_of(line.begin(), line.end(), IsTall);
+    grid.setRowStretch(row++, tall ? 1 : 0);
+    anyTall = anyTall || tall;
+  }
+  if (!anyTall) grid.setRowStretch(row, 1);
+}
+
+bool TakesRoom(const forms::Block& block) {
+  return block.stretch > 0 || block.kind == forms::Block::Kind::kSpace;
+}
+
+}  // namespace
+
+QWidget* LayoutBuilder::BuildForm(const forms::Block& block) {
+  QWidget* const form = new QWidget;
+  form->setObjectName(QStringLiteral("formContent"));
+  auto* const layout = new QVBoxLayout(form);
+  Space(*layout, kFormMargin, kBetweenBlocks);
+  layout->addWidget(Build(block), 1);
+  return form;
+}
+
+QWidget* LayoutBuilder::Build(const forms::Block& block) {
+  switch (block.kind) {
+    case forms::Block::Kind::kTable:
+      return BuildTable(block);
+    case forms::Block::Kind::kRow:
+      return BuildRow(block);
+    case forms::Block::Kind::kColumn:
+      return BuildColumn(block, Rest::kBelow);
+    case forms::Block::Kind::kGroup:
+    case forms::Block::Kind::kResults:
+      return BuildGroup(block);
+    case forms::Block::Kind::kButtons:
+      return BuildButtons(block);
+    case forms::Block::Kind::kSpace:
+      break;
+  }
+  return Box();
+}
+
+void LayoutBuilder::Space(QBoxLayout& layout, double margin, double spacing) {
+  OnResize([&layout, margin, spacing](const Scale& scale) {
+    const int room = scale.Em(margin);
+    layout.setContentsMargins(room, room, room, room);
+    layout.setSpacing(scale.Em(spacing));
+  });
+}
+
+QWidget* LayoutBuilder::BuildTable(const forms::Block& block) {
+  QWidget* const table = Box();
+  auto* const grid = new QGridLayout(table);
+  grid->setContentsMargins(0, 0, 0, 0);
+  OnResize([grid](const Scale& scale) {
+    grid->setHorizontalSpacing(scale.Em(kBetweenColumns));
+    grid->setVerticalSpacing(scale.Em(kBetweenLines));
+  });
+  int row = 0;
+  for (const forms::Line& line : block.lines) AddLine(*grid, row++, line);
+  StretchColumns(*grid, block.lines);
+  StretchRows(*grid, block.lines);
+  return table;
+}
+
+void LayoutBuilder::AddLine(QGridLayout& grid, int row, const forms::Line& line) {
+  int column = 0;
+  for (const forms::Cell& cell : line) {
+    if (QWidget* const widget = BuildCell(cell)) {
+      grid.addWidget(widget, row, column, 1, cell.Columns());
+    }
+    column += cell.Columns();
+  }
+}
+
+QWidget* LayoutBuilder::BuildCell(const forms::Cell& cell) {
+  switch (cell.What()) {
+    case forms::Cell::Kind::kEmpty:
+      return nullptr;
+    case forms::Cell::Kind::kControl:
+      return PlaceControl(*cell.Controls().front(), cell.Characters());
+    case forms::Cell::Kind::kOneOf:
+      return BuildOneOf(cell);
+    case forms::Cell::Kind::kSide:
+      return BuildSide(cell);
+    case forms::Cell::Kind::kText:
+      break;
+  }
+  auto* const text = new QLabel(QString::fromStdString(cell.Text()));
+  text->setTextFormat(Qt::PlainText);
+  SetLook(*text, "caption");
+  return text;
+}
+
+QWidget* LayoutBuilder::PlaceControl(forms::Control& control, int characters) {
+  QWidget* const widget = place_(control, characters);
+  // A hidden control keeps its place, so that nothing jumps when it comes back.
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+  return widget;
+}
+
+QWidget* LayoutBuilder::BuildOneOf(const forms::Cell& cell) {
+  QWidget* const place = Box();
+  auto* const layout = new QGridLayout(place);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (forms::Control* control : cell.Controls()) {
+    layout->addWidget(PlaceControl(*control, cell.Characters()), 0, 0);
+  }
+  return place;
+}
+
+QWidget* LayoutBuilder::BuildSide(const forms::Cell& cell) {
+  QWidget* const side = Box();
+  auto* const layout = new QHBoxLayout(side);
+  Space(*layout, 0, kBetweenColumns);
+  for (forms::Control* control : cell.Controls()) {
+    const bool grows = Is<forms::TextBox>(control) || IsResult(control) ||
+                       Is<forms::ListBox>(control) || Is<forms::Grid>(control);
+    layout->addWidget(PlaceControl(*control, cell.Characters()), grows ? 1 : 0);
+  }
+  layout->addStretch(0);
+  return side;
+}
+
+QWidget* LayoutBuilder::BuildRow(const forms::Block& block) {
+  QWidget* const row = Box();
+  auto* const layout = new QHBoxLayout(row);
+  Space(*layout, 0, kBetweenBlocks);
+  for (const forms::Block& inner : block.blocks) {
+    const bool column = inner.kind == forms::Block::Kind::kColumn;
+    layout->addWidget(column ? BuildColumn(inner, Rest::kToLast) : Build(inner), inner.stretch);
+  }
+  return row;
+}
+
+QWidget* LayoutBuilder::BuildColumn(const forms::Block& block, Rest rest) {
+  QWidget* const column = Box();
+  auto* const layout = new QVBoxLayout(column);
+  Space(*layout, 0, kBetweenBlocks);
+  for (const forms::Block& inner : block.blocks) layout->addWidget(Build(inner), inner.stretch);
+  const bool roomTaken = std::any_of(block.blocks.begin(), block.blocks.end(), TakesRoom);
+  if (roomTaken || block.blocks.empty()) return column;
+  if (rest == Rest::kBelow) {
+    layout->addStretch(1);
+  } else {
+    layout->setStretch(layout->count() - 1, 1);
+  }
+  return column;
+}
+
+QWidget* LayoutBuilder::BuildGroup(const forms::Block& block) {
+  QWidget* const card = block.frame != nullptr ? place_(*block.frame, 0) : new QFrame;
+  SetLook(*card, block.kind == forms::Block::Kind::kResults ? "results" : "group");
+  auto* const layout = new QVBoxLayout(card);
+  Space(*layout, kCardMargin, kBetweenLines + 0.1);
+  auto* const title = new QLabel(QString::fromStdString(block.title));
+  title->setTextFormat(Qt::PlainText);
+  SetLook(*title, "title");
+  layout->addWidget(title);
+  title->setHidden(block.title.empty());
+  for (const forms::Block& inner : block.blocks) layout->addWidget(Build(inner), 1);
+  return card;
+}
+
+QWidget* LayoutBuilder::BuildButtons(const forms::Block& block) {
+  QWidget* const bar = Box();
+  auto* const layout = new QHBoxLayout(bar);
+  Space(*layout, 0, kBetweenColumns);
+  for (const forms::Line& line : block.lines) {
+    for (const forms::Cell& cell : line) {
+      QWidget* const widget = BuildCell(cell);
+      if (widget == nullptr) {
+        layout->addStretch(1);
+        continue;
+      }
+      layout->addWidget(widget);
+      if (auto* const button = qobject_cast<QPushButton*>(widget)) {
+        OnResize([button](const Scale& scale) { button->setMinimumWidth(scale.Em(kButtonWidth)); });
+      }
+    }
+  }
+  return bar;
+}
+
+}  // namespace desktop

@@ -1,0 +1,171 @@
+#include "desktop/form_view.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QLineEdit>
+#include <algorithm>
+
+namespace desktop {
+
+FormView::FormView(forms::Form& form, QWidget* parent) : QScrollArea(parent), form_(form) {
+  setObjectName(QStringLiteral("formView"));
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setFocusPolicy(Qt::NoFocus);
+  content_ = new QWidget(this);
+  content_->setObjectName(QStringLiteral("formSheet"));
+  LayoutBuilder builder([this](forms::Control& control, int characters) {
+    return PlaceControl(control, characters);
+  });
+  auto* const around = new QVBoxLayout(content_);
+  around->setContentsMargins(0, 0, 0, 0);
+  around->addWidget(builder.BuildForm(form_.Layout()));
+  const std::vector<LayoutBuilder::Resize> layouts = builder.TakeResizes();
+  resizes_.insert(resizes_.end(), layouts.begin(), layouts.end());
+  setWidget(content_);
+  CollectUnits(form_.Layout());
+  for (const auto& [control, bound] : bound_) Show(*control);
+  OrderTabs();
+  SetLetters(kBaseLetterPixels);
+  natural_ = content_->layout()->totalMinimumSize();
+  content_->installEventFilter(this);
+}
+
+QWidget* FormView::PlaceControl(forms::Control& control, int characters) {
+  const Bound bound = BindAny(control, *content_);
+  bound_[&control] = bound;
+  resizes_.push_back(
+      [resize = bound.resize, characters](const Scale& scale) { resize(scale, characters); });
+  return bound.widget;
+}
+
+QWidget* FormView::WidgetOf(const forms::Control& control) const {
+  const auto found = bound_.find(&control);
+  return found == bound_.end() ? nullptr : found->second.widget;
+}
+
+void FormView::Show(const forms::Control& control) {
+  const auto found = bound_.find(&control);
+  if (found == bound_.end()) return;
+  found->second.show();
+  ShowAccessibleName(control);
+  for (const Unit& unit : units_) {
+    const bool names =
+        std::find(unit.controls.begin(), unit.controls.end(), &control) != unit.controls.end();
+    if (names) ShowAccessibleName(*unit.field);
+  }
+}
+
+void FormView::ShowAccessibleName(const forms::Control& control) {
+  std::string name = control.AccessibleName();
+  if (name.empty()) return;
+  for (const Unit& unit : units_) {
+    if (unit.field != &control) continue;
+    if (!unit.text.empty()) name += " " + unit.text;
+    for (const forms::Control* source : unit.controls) {
+      if (source->Visible() && !source->Text().empty()) name += " " + source->Text();
+    }
+  }
+  WidgetOf(control)->setAccessibleName(QString::fromStdString(name));
+}
+
+void FormView::CollectUnits(const forms::Block& block) {
+  for (const forms::Line& line : block.lines) CollectUnits(line);
+  for (const forms::Block& inner : block.blocks) CollectUnits(inner);
+}
+
+void FormView::CollectUnits(const forms::Line& line) {
+  const forms::Control* field = nullptr;
+  for (const forms::Cell& cell : line) {
+    const auto isUnit = [](const forms::Control* control) {
+      const auto* const label = dynamic_cast<const forms::Label*>(control);
+      return label != nullptr ? label->Style() == forms::LabelStyle::kUnit
+                              : dynamic_cast<const forms::ComboBox*>(control) != nullptr;
+    };
+    const bool names = !cell.Controls().empty() &&
+                       std::all_of(cell.Controls().begin(), cell.Controls().end(), isUnit);
+    if (field != nullptr && (names || cell.What() == forms::Cell::Kind::kText)) {
+      units_.push_back({field, {cell.Controls().begin(), cell.Controls().end()}, cell.Text()});
+    }
+    const forms::Control* const last = cell.Controls().empty() ? nullptr : cell.Controls().back();
+    field = dynamic_cast<const forms::TextBox*>(last) != nullptr ? last : nullptr;
+  }
+}
+
+void FormView::OrderTabs() {
+  QWidget* before = nullptr;
+  for (const forms::Control* control : form_.TabOrder()) {
+    QWidget* const widget = control->TakesFocus() ? WidgetOf(*control) : nullptr;
+    if (widget == nullptr) continue;
+    if (before != nullptr) setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+void FormView::FocusOn(const forms::Control& control) {
+  QWidget* const widget = WidgetOf(control);
+  if (widget == nullptr || window()->focusWidget() == widget) return;
+  widget->setFocus(Qt::OtherFocusReason);
+  if (auto* const edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+  ensureWidgetVisible(widget);
+}
+
+void FormView::TakeFocus() {
+  if (form_.Focused() != nullptr) {
+    FocusOn(*form_.Focused());
+    return;
+  }
+  const auto& order = form_.TabOrder();
+  const auto first = std::find_if(order.begin(), order.end(), [](const forms::Control* control) {
+    return control->TakesFocus() && control->Usable();
+  });
+  if (first != order.end()) form_.SetFocus(**first);
+}
+
+void FormView::SetLetters(int pixels) {
+  if (pixels == letterPixels_) return;
+  letterPixels_ = pixels;
+  content_->setStyleSheet(FormStyle(Theme::Current(), pixels));
+  content_->setFont(UiFont(pixels));
+  const Scale scale(pixels);
+  for (const LayoutBuilder::Resize& resize : resizes_) resize(scale);
+  content_->layout()->activate();
+}
+
+bool FormView::Fits() const {
+  const QSize needed = content_->layout()->totalMinimumSize();
+  const QSize room = maximumViewportSize();
+  return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
+int FormView::LettersThatFit() const {
+  const QSize needed = content_->layout()->totalMinimumSize().expandedTo({1, 1});
+  const QSize room = maximumViewportSize();
+  const double share = std::min(static_cast<double>(room.width()) / needed.width(),
+                                static_cast<double>(room.height()) / needed.height());
+  return std::clamp(static_cast<int>(letterPixels_ * share), kLeastLetterPixels,
+                    kLargestLetterPixels);
+}
+
+void FormView::Grow() {
+  SetLetters(LettersThatFit());
+  Shrink();
+}
+
+void FormView::Shrink() {
+  while (!Fits() && letterPixels_ > kLeastLetterPixels) SetLetters(letterPixels_ - 1);
+}
+
+void FormView::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  Grow();
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+  // A longer text may need more room than there is; letters that have room left stay as they are,
+  // so that results do not make the sheet jump.
+  if (watched == content_ && event->type() == QEvent::LayoutRequest) Shrink();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+}  // namespace desktop

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QScrollArea>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "desktop/binding.h"
+#include "desktop/form_layout.h"
+#include "forms/form.h"
+
+namespace desktop {
+
+/// Shows a form from its declared layout. Letters and distances grow with the view; when it is too
+/// small for readable letters, it scrolls. The form outlives the view.
+class FormView : public QScrollArea {
+ public:
+  explicit FormView(forms::Form& form, QWidget* parent = nullptr);
+
+  forms::Form& Shown() const { return form_; }
+  /// A control looks different now. Controls that the layout does not show are passed over.
+  void Show(const forms::Control& control);
+  /// The form's focus is on this control.
+  void FocusOn(const forms::Control& control);
+  /// Gives the focus to the form's control, at first to the one where reading starts.
+  void TakeFocus();
+  /// The widget of a control, or null.
+  QWidget* WidgetOf(const forms::Control& control) const;
+
+  /// The room that the form takes with letters of the base height.
+  QSize NaturalSize() const { return natural_; }
+  int LetterPixels() const { return letterPixels_; }
+  QSize sizeHint() const override { return natural_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// Where the name of a field's unit comes from.
+  struct Unit {
+    const forms::Control* field;
+    std::vector<const forms::Control*> controls;
+    std::string text;
+  };
+
+  QWidget* PlaceControl(forms::Control& control, int characters);
+  void CollectUnits(const forms::Block& block);
+  void CollectUnits(const forms::Line& line);
+  void ShowAccessibleName(const forms::Control& control);
+  void OrderTabs();
+  void SetLetters(int pixels);
+  bool Fits() const;
+  int LettersThatFit() const;
+  void Grow();
+  void Shrink();
+
+  forms::Form& form_;
+  QWidget* content_ = nullptr;
+  std::map<const forms::Control*, Bound> bound_;
+  std::vector<LayoutBuilder::Resize> resizes_;
+  std::vector<Unit> units_;
+  QSize natural_;
+  int letterPixels_ = 0;
+};
+
+}  // namespace desktop

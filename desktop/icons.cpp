@@ -1,0 +1,54 @@
+#include "desktop/icons.h"
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+
+#include "desktop/theme.h"
+
+namespace desktop {
+
+namespace {
+
+QColor LineColor(QIcon::Mode mode) {
+  const Theme& theme = Theme::Current();
+  if (mode == QIcon::Selected) return theme.onAccent;
+  return mode == QIcon::Disabled ? theme.fieldBorder : theme.text;
+}
+
+/// Draws an SVG text whose lines are in "currentColor".
+class LineIcon : public QIconEngine {
+ public:
+  explicit LineIcon(QByteArray svg) : svg_(std::move(svg)) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    QByteArray colored = svg_;
+    colored.replace("currentColor", LineColor(mode).name().toLatin1());
+    QSvgRenderer(colored).render(painter, rect);
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+    return picture;
+  }
+
+  QIconEngine* clone() const override { return new LineIcon(*this); }
+
+ private:
+  QByteArray svg_;
+};
+
+}  // namespace
+
+QIcon IconNamed(const std::string& name) {
+  QFile file(QStringLiteral(":/icons/%1.svg").arg(QString::fromStdString(name)));
+  if (name.empty() || !file.open(QIODevice::ReadOnly)) return {};
+  return QIcon(new LineIcon(file.readAll()));
+}
+
+}  // namespace desktop

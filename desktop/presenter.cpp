@@ -1,0 +1,197 @@
+#include "desktop/presenter.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/form_view.h"
+#include "desktop/main_window.h"
+#include "desktop/questions.h"
+#include "desktop/windows.h"
+#include "forms/control.h"
+
+namespace desktop {
+
+namespace {
+
+class Counting {
+ public:
+  explicit Counting(int& count) : count_(count) { ++count_; }
+  ~Counting() { --count_; }
+  Counting(const Counting&) = delete;
+  Counting& operator=(const Counting&) = delete;
+
+ private:
+  int& count_;
+};
+
+bool AnySheet(const QMdiArea& area) {
+  const auto windows = area.subWindowList();
+  return std::any_of(windows.begin(), windows.end(),
+                     [](const QMdiSubWindow* window) { return window->isVisible(); });
+}
+
+}  // namespace
+
+QtPresenter::~QtPresenter() { CloseAll(); }
+
+void QtPresenter::Attach(MainWindow& window, shell::FormManager& forms) {
+  mainWindow_ = &window;
+  forms_ = &forms;
+  QObject::connect(&window.Area(), &QMdiArea::subWindowActivated, &context_,
+                   [this](QMdiSubWindow* sheet) { Activated(sheet); });
+}
+
+void QtPresenter::CloseAll() {
+  const Counting steering(steering_);
+  for (const auto& [form, shown] : shown_) closed_.push_back(shown.window);
+  shown_.clear();
+  for (QWidget* window : closed_) delete window;
+  closed_.clear();
+}
+
+FormView* QtPresenter::ViewOf(const forms::Form& form) const {
+  const auto found = shown_.find(&form);
+  return found == shown_.end() ? nullptr : found->second.view;
+}
+
+void QtPresenter::ShowForm(forms::Form& form) {
+  const Counting steering(steering_);
+  auto* const view = new FormView(form);
+  QWidget* const window =
+      form.Role() == forms::FormRole::kSheet ? ShowSheet(form, *view) : ShowOwnWindow(form, *view);
+  shown_[&form] = {window, view};
+  window->setObjectName(QString::fromStdString(form.Name()));
+  FormChanged(form);
+  view->TakeFocus();
+}
+
+QWidget* QtPresenter::ShowSheet(forms::Form& form, FormView& view) {
+  QMdiArea& area = mainWindow_->Area();
+  const QMdiSubWindow* const current = area.activeSubWindow();
+  const bool fills = !AnySheet(area) || (current != nullptr && current->isMaximized());
+  auto* const window = new SheetWindow(view);
+  window->onClose = [this, &form] { UserCloses(form); };
+  mainWindow_->MakeRoomFor(view.NaturalSize());
+  area.addSubWindow(window);
+  if (fills) {
+    window->showMaximized();
+  } else {
+    window->show();
+  }
+  area.setActiveSubWindow(window);
+  return window;
+}
+
+QWidget* QtPresenter::ShowOwnWindow(forms::Form& form, FormView& view) {
+  QWidget* const modal = QApplication::activeModalWidget();
+  auto* const window = new OwnWindow(view, modal != nullptr ? *modal : *mainWindow_);
+  window->onClose = [this, &form] { UserCloses(form); };
+  window->onActivate = [this, &form] { Activated(form); };
+  window->show();
+  window->activateWindow();
+  return window;
+}
+
+void QtPresenter::RaiseForm(forms::Form& form) {
+  const auto found = shown_.find(&form);
+  if (found == shown_.end()) return;
+  const Counting steering(steering_);
+  QWidget* const window = found->second.window;
+  if (auto* const sheet = qobject_cast<QMdiSubWindow*>(window)) {
+    mainWindow_->Area().setActiveSubWindow(sheet);
+    if (sheet->isMinimized()) sheet->showNormal();
+  } else {
+    window->show();
+    window->raise();
+    window->activateWindow();
+  }
+  found->second.view->TakeFocus();
+}
+
+void QtPresenter::CloseForm(forms::Form& form) {
+  const auto found = shown_.find(&form);
+  if (found == shown_.end()) return;
+  const Counting steering(steering_);
+  // An event of one of its widgets may be on the way, so the window goes later.
+  QWidget* const window = found->second.window;
+  shown_.erase(found);
+  closed_.push_back(window);
+  window->hide();
+  CollectLater();
+}
+
+void QtPresenter::FormChanged(forms::Form& form) {
+  const auto found = shown_.find(&form);
+  if (found == shown_.end()) return;
+  found->second.window->setWindowTitle(QString::fromStdString(form.Caption()));
+}
+
+void QtPresenter::ControlChanged(forms::Control& control) {
+  if (FormView* const view = ViewOf(control.Owner())) view->Show(control);
+}
+
+void QtPresenter::FocusMoved(forms::Control& control) {
+  if (FormView* const view = ViewOf(control.Owner())) view->FocusOn(control);
+}
+
+void QtPresenter::Beep() { QApplication::beep(); }
+
+void QtPresenter::Activated(QMdiSubWindow* window) {
+  for (const auto& [form, shown] : shown_) {
+    if (shown.window == window && window != nullptr) {
+      Activated(shown.view->Shown());
+      return;
+    }
+  }
+}
+
+void QtPresenter::Activated(forms::Form& form) {
+  if (steering_ == 0 && waiting_ == 0) forms_->MakeActive(form);
+}
+
+void QtPresenter::UserCloses(forms::Form& form) { forms_->Unload(form); }
+
+void QtPresenter::CollectLater() {
+  QTimer::singleShot(0, &context_, [this] { Collect(); });
+}
+
+void QtPresenter::Collect() {
+  // A handler may stand behind a box that waits; the box calls again.
+  if (waiting_ > 0) return;
+  for (QWidget* window : closed_) delete window;
+  closed_.clear();
+  forms_->CollectClosed();
+}
+
+int QtPresenter::Wait(QDialog& dialog) {
+  int result = 0;
+  {
+    const Counting waiting(waiting_);
+    result = dialog.exec();
+  }
+  CollectLater();
+  return result;
+}
+
+common::Answer QtPresenter::Present(const common::Message& message) {
+  MessageBox box(message, QApplication::activeWindow() != nullptr ? QApplication::activeWindow()
+                                                                  : mainWindow_);
+  Wait(box);
+  return box.Answer();
+}
+
+std::optional<std::string> QtPresenter::AskFile(const forms::FileQuestion& question) {
+  FileBox box(question, mainWindow_);
+  while (Wait(box) == QDialog::Accepted) {
+    const std::string path = box.Path();
+    const bool replaces = question.save && QFileInfo::exists(QString::fromStdString(path));
+    if (!replaces || Ask(box.ReplaceQuestion(), question.title, common::Icon::kWarning)) {
+      return path;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace desktop

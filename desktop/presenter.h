@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+#include <map>
+#include <vector>
+
+#include "forms/presenter.h"
+#include "shell/form_manager.h"
+
+class QDialog;
+class QMdiSubWindow;
+class QWidget;
+
+namespace desktop {
+
+class FormView;
+class MainWindow;
+
+/// Shows the forms in windows: sheets in the main window's area, tools and dialogues in windows of
+/// their own. Message boxes and file questions wait for their answer; forms never do.
+class QtPresenter : public forms::Presenter {
+ public:
+  QtPresenter() = default;
+  ~QtPresenter() override;
+
+  /// From now on the forms of this manager appear in this window.
+  void Attach(MainWindow& window, shell::FormManager& forms);
+  /// Takes all windows off the screen, before the forms go.
+  void CloseAll();
+  /// The view of an open form, or null.
+  FormView* ViewOf(const forms::Form& form) const;
+  /// Runs a dialogue of Qt's to its end. Nothing is destroyed while it waits, because handlers are
+  /// waiting behind it.
+  int Wait(QDialog& dialog);
+
+  common::Answer Present(const common::Message& message) override;
+  void ShowForm(forms::Form& form) override;
+  void RaiseForm(forms::Form& form) override;
+  void CloseForm(forms::Form& form) override;
+  void FormChanged(forms::Form& form) override;
+  void ControlChanged(forms::Control& control) override;
+  void FocusMoved(forms::Control& control) override;
+  void Beep() override;
+  std::optional<std::string> AskFile(const forms::FileQuestion& question) override;
+
+ private:
+  struct Shown {
+    QWidget* window = nullptr;
+    FormView* view = nullptr;
+  };
+
+  QWidget* ShowSheet(forms::Form& form, FormView& view);
+  QWidget* ShowOwnWindow(forms::Form& form, FormView& view);
+  void Activated(QMdiSubWindow* window);
+  void Activated(forms::Form& form);
+  void UserCloses(forms::Form& form);
+  void CollectLater();
+  void Collect();
+
+  QObject context_;
+  MainWindow* mainWindow_ = nullptr;
+  shell::FormManager* forms_ = nullptr;
+  std::map<const forms::Form*, Shown> shown_;
+  std::vector<QWidget*> closed_;
+  /// Dialogues that wait.
+  int waiting_ = 0;
+  /// The program moves windows itself; what Qt says about activation is no act of the user.
+  int steering_ = 0;
+};
+
+}  // namespace desktop

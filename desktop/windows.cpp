@@ -1,0 +1,85 @@
+#include "desktop/windows.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "desktop/icons.h"
+#include "desktop/main_window.h"
+#include "forms/controls.h"
+
+namespace desktop {
+
+namespace {
+
+Qt::WindowFlags FlagsOf(forms::FormRole role) {
+  constexpr Qt::WindowFlags kFrame = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                     Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  return kFrame | (role == forms::FormRole::kTool ? Qt::Tool : Qt::Dialog);
+}
+
+/// Tools stand at the right of their owner, dialogues in its middle.
+QRect PlaceOf(forms::FormRole role, const QSize& size, const QRect& owner) {
+  constexpr int kFromTop = 90;
+  QRect place(QPoint(0, 0), size);
+  if (role == forms::FormRole::kTool) {
+    place.moveTopRight({owner.right() - 24, owner.top() + kFromTop});
+  } else {
+    place.moveCenter(owner.center());
+  }
+  return OnScreen(place);
+}
+
+}  // namespace
+
+SheetWindow::SheetWindow(FormView& view) {
+  setWidget(&view);
+  setWindowIcon(IconNamed("app"));
+  setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+void SheetWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (onClose) onClose();
+}
+
+OwnWindow::OwnWindow(FormView& view, QWidget& owner)
+    : QWidget(&owner, FlagsOf(view.Shown().Role())), view_(view) {
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&view);
+  setWindowIcon(IconNamed("app"));
+  if (view.Shown().Role() == forms::FormRole::kDialog) setWindowModality(Qt::WindowModal);
+  setGeometry(PlaceOf(view.Shown().Role(), view.NaturalSize(), owner.geometry()));
+}
+
+void OwnWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (onClose) onClose();
+}
+
+void OwnWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && onActivate) onActivate();
+}
+
+void OwnWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    Escape();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void OwnWindow::Escape() {
+  for (forms::Control* control : view_.Shown().Controls()) {
+    auto* const button = dynamic_cast<forms::Button*>(control);
+    if (button != nullptr && button->Role() == forms::ButtonRole::kCancel && button->Usable()) {
+      button->Click();
+      return;
+    }
+  }
+  close();
+}
+
+}  // namespace desktop

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMdiSubWindow>
+#include <QWidget>
+#include <functional>
+
+#include "desktop/form_view.h"
+
+namespace desktop {
+
+/// The window of a sheet inside the main window.
+class SheetWindow : public QMdiSubWindow {
+ public:
+  explicit SheetWindow(FormView& view);
+  std::function<void()> onClose;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+};
+
+/// The window of a tool or a dialogue.
+class OwnWindow : public QWidget {
+ public:
+  OwnWindow(FormView& view, QWidget& owner);
+  std::function<void()> onClose;
+  std::function<void()> onActivate;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Escape();
+
+  FormView& view_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,136 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QWheelEvent>
+
+#include "desk.h"
+
+namespace desktop {
+namespace {
+
+class Choices : public Desk {};
+
+void Wheel(QWidget& widget) {
+  const QPointF middle = widget.rect().center();
+  QWheelEvent event(middle, widget.mapToGlobal(middle), {0, 0}, {0, -120}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &event);
+}
+
+TEST_F(Choices, ComboPicksByKeyAndNotByWheel) {
+  DemoSheet& sheet = ShowSheet();
+  auto& combo = Find<QComboBox>(sheet, "cbo圧力単位");
+  int clicks = 0;
+  sheet.cbo圧力単位.onClick = [&] { ++clicks; };
+  combo.setFocus();
+  QTest::keyClick(&combo, Qt::Key_Down);
+  EXPECT_EQ(sheet.cbo圧力単位.Index(), 1);
+  Wheel(combo);
+  EXPECT_EQ(combo.currentIndex(), 1);
+  EXPECT_EQ(clicks, 1);
+  sheet.cbo圧力単位.SetIndex(3);
+  EXPECT_EQ(combo.currentText(), QStringLiteral("kgf/cm2abs"));
+  sheet.cbo圧力単位.SetItems({"bar"});
+  EXPECT_EQ(combo.count(), 1);
+  EXPECT_EQ(combo.currentIndex(), -1);
+}
+
+TEST_F(Choices, ComboReportsAPickOfTheSelectedEntryOnce) {
+  DemoSheet& sheet = ShowSheet();
+  auto& combo = Find<QComboBox>(sheet, "cbo温度単位");
+  int clicks = 0;
+  sheet.cbo温度単位.onClick = [&] { ++clicks; };
+  emit combo.activated(0);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Choices, EditableComboTakesTexts) {
+  DemoDialog& dialog = ShowDialog();
+  auto& combo = Find<QComboBox>(dialog, "cbo名称");
+  QTest::keyClicks(combo.lineEdit(), QStringLiteral("abc"));
+  EXPECT_EQ(dialog.cbo名称.Text(), "abc");
+  EXPECT_EQ(dialog.cbo名称.Index(), -1);
+  dialog.cbo名称.SetText("空気");
+  EXPECT_EQ(combo.currentText(), QStringLiteral("空気"));
+  EXPECT_EQ(dialog.cbo名称.Index(), 1);
+}
+
+TEST_F(Choices, OneOfShowsTheVisibleControlInTheSamePlace) {
+  DemoSheet& sheet = ShowSheet();
+  auto& liquid = Find<QComboBox>(sheet, "cbo流量単位L");
+  auto& gas = Find<QComboBox>(sheet, "cbo流量単位G");
+  EXPECT_TRUE(liquid.isVisible());
+  EXPECT_FALSE(gas.isVisible());
+  const QRect place = liquid.geometry();
+  auto& fluid = Find<QComboBox>(sheet, "cbo流体");
+  fluid.setFocus();
+  QTest::keyClick(&fluid, Qt::Key_Down);
+  QApplication::processEvents();
+  EXPECT_FALSE(liquid.isVisible());
+  EXPECT_TRUE(gas.isVisible());
+  EXPECT_EQ(gas.geometry(), place);
+}
+
+TEST_F(Choices, OptionsExcludeEachOtherByMouseKeyAndCode) {
+  DemoSheet& sheet = ShowSheet();
+  auto& toBore = Find<QRadioButton>(sheet, "opt差圧→絞り径");
+  auto& toDifferential = Find<QRadioButton>(sheet, "opt絞り径→差圧");
+  int clicks = 0;
+  sheet.opt絞り径_差圧.onClick = [&] { ++clicks; };
+  QTest::mouseClick(&toDifferential, Qt::LeftButton, {}, {8, toDifferential.height() / 2});
+  EXPECT_TRUE(sheet.opt絞り径_差圧.Checked());
+  EXPECT_FALSE(sheet.opt差圧_絞り径.Checked());
+  EXPECT_FALSE(toBore.isChecked());
+  EXPECT_EQ(clicks, 1);
+  QTest::keyClick(&toDifferential, Qt::Key_Left);
+  EXPECT_TRUE(sheet.opt差圧_絞り径.Checked());
+  sheet.opt差圧_絞り径.SetChecked(false);
+  EXPECT_FALSE(toBore.isChecked());
+  EXPECT_FALSE(toDifferential.isChecked());
+}
+
+TEST_F(Choices, CheckBoxFollowsBothWays) {
+  DemoSheet& sheet = ShowSheet();
+  auto& check = Find<QCheckBox>(sheet, "chkドレン");
+  QTest::keyClick(&check, Qt::Key_Space);
+  EXPECT_TRUE(sheet.chkドレン.Checked());
+  sheet.chkドレン.SetChecked(false);
+  EXPECT_FALSE(check.isChecked());
+}
+
+TEST_F(Choices, ListPicksByKeyAndMouse) {
+  DemoDialog& dialog = ShowDialog();
+  auto& list = Find<QListWidget>(dialog, "lst流体");
+  int clicks = 0;
+  int doubles = 0;
+  dialog.lst流体.onClick = [&] { ++clicks; };
+  dialog.lst流体.onDblClick = [&] { ++doubles; };
+  const QPoint second = list.visualItemRect(list.item(1)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(dialog.lst流体.Text(), " メタノール");
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(dialog.lst流体.Index(), 2);
+  EXPECT_EQ(clicks, 2);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(doubles, 1);
+  dialog.lst流体.SetItems({"a", "b"});
+  EXPECT_EQ(list.count(), 2);
+  EXPECT_EQ(list.currentRow(), -1);
+}
+
+TEST_F(Choices, TabsFollowBothWaysAndKeepAmpersands) {
+  DemoDialog& dialog = ShowDialog();
+  auto& tabs = Find<QTabBar>(dialog, "tab種類");
+  EXPECT_EQ(tabs.tabText(1), QStringLiteral("気体 && 蒸気"));
+  QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+  EXPECT_EQ(dialog.tab種類.Index(), 1);
+  Wheel(tabs);
+  dialog.tab種類.SetIndex(0);
+  EXPECT_EQ(tabs.currentIndex(), 0);
+}
+
+}  // namespace
+}  // namespace desktop

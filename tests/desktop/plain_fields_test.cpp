@@ -1,0 +1,141 @@
+#include <QFrame>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
+
+#include "desk.h"
+#include "desktop/draw_surface.h"
+#include "desktop/theme.h"
+
+namespace desktop {
+namespace {
+
+class PlainFields : public Desk {};
+
+TEST_F(PlainFields, LabelShowsColourAndTakesClicks) {
+  DemoSheet& sheet = ShowSheet();
+  auto& label = Find<QLabel>(sheet, "lbl密度");
+  int clicks = 0;
+  sheet.lbl密度.onClick = [&] { ++clicks; };
+  sheet.lbl密度.SetText("密度 <i>&");
+  EXPECT_EQ(label.text(), QStringLiteral("密度 <i>&"));
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+  EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+  QTest::mouseClick(&label, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+
+  auto& verdict = Find<QLabel>(sheet, "lbl判定");
+  sheet.lbl判定.SetForeColor(forms::kRed);
+  const QColor red = verdict.palette().color(QPalette::WindowText);
+  EXPECT_GT(red.red(), red.green() + 80);
+  sheet.lbl判定.SetForeColor(forms::kBlack);
+  EXPECT_EQ(verdict.palette().color(QPalette::WindowText), Theme::Current().text);
+}
+
+TEST_F(PlainFields, ButtonClicksByMouseSpaceAndEnter) {
+  DemoSheet& sheet = ShowSheet();
+  auto& button = Find<QPushButton>(sheet, "cmd計算");
+  int clicks = 0;
+  sheet.cmd計算.onClick = [&] { ++clicks; };
+  QTest::mouseClick(&button, Qt::LeftButton);
+  QTest::keyClick(&button, Qt::Key_Space);
+  QTest::keyClick(&button, Qt::Key_Return);
+  EXPECT_EQ(clicks, 3);
+  EXPECT_EQ(sheet.Focused(), &sheet.cmd計算);
+  sheet.cmd計算.SetEnabled(false);
+  QTest::mouseClick(&button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(PlainFields, FrameDisablesAndHidesItsContents) {
+  DemoDialog& dialog = ShowDialog();
+  auto& frame = Find<QFrame>(dialog, "fra条件");
+  auto& list = Find<QWidget>(dialog, "lst流体");
+  dialog.fra条件.SetEnabled(false);
+  EXPECT_FALSE(list.isEnabled());
+  dialog.fra条件.SetVisible(false);
+  EXPECT_FALSE(list.isVisible());
+  EXPECT_TRUE(frame.isHidden());
+}
+
+TEST_F(PlainFields, ScrollBarKeepsItsRangeAndReportsMoves) {
+  DemoDialog& dialog = ShowDialog();
+  auto& bar = Find<QScrollBar>(dialog, "hsb倍率");
+  int changes = 0;
+  dialog.hsb倍率.onChange = [&] { ++changes; };
+  QTest::keyClick(&bar, Qt::Key_Right);
+  EXPECT_EQ(dialog.hsb倍率.Value(), 1);
+  dialog.hsb倍率.SetValue(500);
+  EXPECT_EQ(bar.value(), 100);
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(PlainFields, GridPicksRows) {
+  DemoDialog& dialog = ShowDialog();
+  auto& table = Find<QTableWidget>(dialog, "grd一覧");
+  int clicks = 0;
+  dialog.grd一覧.onClick = [&] { ++clicks; };
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                    table.visualItemRect(table.item(1, 0)).center());
+  EXPECT_EQ(dialog.grd一覧.SelectedRow(), 1);
+  QTest::keyClick(&table, Qt::Key_Down);
+  EXPECT_EQ(dialog.grd一覧.SelectedRow(), 2);
+  EXPECT_EQ(clicks, 2);
+  dialog.grd一覧.SetRows({{"80", "2.1", ""}});
+  EXPECT_EQ(table.rowCount(), 1);
+  EXPECT_EQ(table.item(0, 1)->text(), QStringLiteral("2.1"));
+}
+
+TEST_F(PlainFields, ProgressFollows) {
+  DemoDialog& dialog = ShowDialog();
+  auto& bar = Find<QProgressBar>(dialog, "prg進行");
+  dialog.prg進行.SetMaximum(300);
+  dialog.prg進行.SetValue(150);
+  EXPECT_EQ(bar.maximum(), 300);
+  EXPECT_EQ(bar.value(), 150);
+}
+
+TEST_F(PlainFields, PictureIsPaintedInTwips) {
+  QImage image(100, 100, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  {
+    QtDrawSurface surface(painter, 1.0 / 15);
+    surface.SetColor(forms::kRed);
+    surface.FilledRectangle(300, 300, 750, 600);  // pixels 20 to 50 and 20 to 40
+    surface.SetFont("IPAGothic", 11, false);
+    // A fixed-pitch letter of 11 points is 110 twips wide, a full-width one 220.
+    EXPECT_NEAR(surface.TextWidth("Ａ"), 2 * surface.TextWidth("A"), 1);
+    EXPECT_NEAR(surface.TextWidth("A"), 110, 1);
+  }
+  painter.end();
+  EXPECT_EQ(image.pixelColor(35, 30), QColor(255, 0, 0));
+  EXPECT_EQ(image.pixelColor(18, 30), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(52, 30), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(35, 42), QColor(Qt::white));
+}
+
+// WCAG 2.1, success criterion 1.4.3: 4.5 to 1; its definition gives 21 for black on white.
+TEST(Colours, StayReadableOnEveryGroundOfBothThemes) {
+  EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21, 1e-6);
+  for (const Theme* theme : {&Theme::Light(), &Theme::Dark()}) {
+    for (const QColor& ground : {theme->window, theme->card, theme->field, theme->fieldOff,
+                                 theme->result, Ground(forms::kUnsaved, *theme)}) {
+      for (const forms::Color color : {forms::kBlack, forms::kRed, forms::kMagenta, forms::kBlue,
+                                       forms::kWhite, 0x00FF00, 0x808080}) {
+        SCOPED_TRACE(ground.name().toStdString() + " " + std::to_string(color));
+        EXPECT_GE(Contrast(Ink(color, *theme, ground), ground), 4.5);
+      }
+    }
+    for (const QColor& ground : {theme->window, theme->card, theme->result}) {
+      EXPECT_GE(Contrast(theme->caption, ground), 4.5);
+      EXPECT_GE(Contrast(theme->faint, ground), 4.5);
+    }
+    EXPECT_GE(Contrast(theme->onAccent, theme->accent), 4.5);
+  }
+}
+
+}  // namespace
+}  // namespace desktop

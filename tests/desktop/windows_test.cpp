@@ -1,0 +1,208 @@
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QToolBar>
+
+#include "desk.h"
+#include "desktop/icons.h"
+#include "desktop/questions.h"
+
+namespace desktop {
+namespace {
+
+class Windows : public Desk {};
+
+/// A form that notes when it goes, and whether its window was still there.
+class Watched : public DemoDialog {
+ public:
+  explicit Watched(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {}
+  ~Watched() override { onEnd_(); }
+
+ private:
+  std::function<void()> onEnd_;
+};
+
+TEST_F(Windows, ButtonThatClosesItsDialogLosesItsWidgetsBeforeTheForm) {
+  QPointer<FormView> view;
+  bool gone = false;
+  bool viewOutlivedForm = false;
+  forms_.Provide("frmDemoDialog", [&] {
+    return std::make_unique<Watched>([&] {
+      gone = true;
+      viewOutlivedForm = !view.isNull();
+    });
+  });
+  DemoDialog& dialog = ShowDialog();
+  view = presenter_.ViewOf(dialog);
+  dialog.cmdOK.onClick = [&] { forms_.Unload(dialog); };
+  QTest::mouseClick(&Find<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
+  EXPECT_FALSE(gone);  // the click may still be on the way
+  QTest::qWait(1);
+  EXPECT_TRUE(gone);
+  EXPECT_FALSE(viewOutlivedForm);
+  EXPECT_EQ(forms_.Find("frmDemoDialog"), nullptr);
+}
+
+TEST_F(Windows, DialogLocksTheMainWindowAndEscapeCancels) {
+  ShowSheet();
+  DemoDialog& dialog = ShowDialog();
+  QWidget* const window = presenter_.ViewOf(dialog)->window();
+  EXPECT_EQ(window->windowModality(), Qt::WindowModal);
+  EXPECT_EQ(QApplication::activeModalWidget(), window);
+  bool cancelled = false;
+  dialog.cmdCancel.onClick = [&] {
+    cancelled = true;
+    forms_.Unload(dialog);
+  };
+  QTest::keyClick(window, Qt::Key_Escape);
+  QTest::qWait(1);
+  EXPECT_TRUE(cancelled);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Windows, NothingIsDestroyedWhileABoxWaits) {
+  bool gone = false;
+  forms_.Provide("frmDemoDialog", [&] { return std::make_unique<Watched>([&] { gone = true; }); });
+  DemoDialog& dialog = ShowDialog();
+  bool goneWhileWaiting = true;
+  dialog.cmdOK.onClick = [&] {
+    forms_.Unload(dialog);
+    QMessageBox box(window_.get());
+    QTimer::singleShot(30, &box, [&] {
+      goneWhileWaiting = gone;
+      box.accept();
+    });
+    presenter_.Wait(box);
+  };
+  QTest::mouseClick(&Find<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
+  EXPECT_FALSE(goneWhileWaiting);
+  QTest::qWait(1);
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(Windows, SheetsFillTheAreaAndFollowTheUser) {
+  class Second : public forms::Form {
+   public:
+    Second() : Form("frmSecond", "Second & more", forms::FormRole::kSheet) {
+      SetLayout(forms::Table({{button}}));
+    }
+    void Activate() override { ++activations; }
+    forms::Button button{*this, "cmd", "cmd"};
+    int activations = 0;
+  };
+  forms_.Provide("frmSecond", [] { return std::make_unique<Second>(); });
+  DemoSheet& first = ShowSheet();
+  auto* const area = window_->findChild<QMdiArea*>();
+  EXPECT_TRUE(area->activeSubWindow()->isMaximized());
+  auto& second = dynamic_cast<Second&>(forms_.Show("frmSecond"));
+  EXPECT_EQ(second.activations, 1);
+  EXPECT_EQ(area->subWindowList().size(), 2);
+
+  auto& list = *window_->findChild<QMenu*>(QStringLiteral("mnuWindow"));
+  emit list.aboutToShow();
+  EXPECT_EQ(list.actions().at(1)->text(), QStringLiteral("Second && more"));
+  list.actions().front()->trigger();
+  EXPECT_EQ(forms_.Active(), &first);
+  list.actions().at(1)->trigger();
+  EXPECT_EQ(second.activations, 2);
+
+  area->activeSubWindow()->close();
+  QTest::qWait(1);
+  EXPECT_EQ(forms_.Find("frmSecond"), nullptr);
+  EXPECT_EQ(forms_.Active(), &first);
+  EXPECT_EQ(area->subWindowList().size(), 1);
+}
+
+TEST_F(Windows, LettersGrowWithTheWindowAndStayReadable) {
+  DemoSheet& sheet = ShowSheet();
+  FormView* const view = presenter_.ViewOf(sheet);
+  int before = 0;
+  for (const QSize size : {QSize(300, 200), QSize(1000, 760), QSize(2000, 1500)}) {
+    SCOPED_TRACE(size.width());
+    window_->resize(size);
+    QApplication::processEvents();
+    EXPECT_GE(view->LetterPixels(), kLeastLetterPixels);
+    EXPECT_GT(view->LetterPixels(), before);
+    before = view->LetterPixels();
+  }
+}
+
+TEST_F(Windows, MainWindowShowsTheCommandsAndStaysOnTheScreen) {
+  auto& missing = *window_->findChild<QAction*>(QStringLiteral("mnuHCopy"));
+  EXPECT_FALSE(missing.isEnabled());
+  auto& print = *window_->findChild<QAction*>(QStringLiteral("Toolbar1.4"));
+  EXPECT_FALSE(print.isEnabled());
+  commands_.SetButtonEnabled(4, true);
+  commands_.SetButtonToolTip(4, "印刷 <A4>");
+  EXPECT_TRUE(print.isEnabled());
+  EXPECT_EQ(print.toolTip(), QStringLiteral("印刷 &lt;A4&gt;"));
+  print.trigger();
+  EXPECT_EQ(window_->windowTitle(), QStringLiteral("button 4"));
+  auto& mark = *window_->findChild<QAction*>(QStringLiteral("mnuToolBar"));
+  mark.trigger();
+  EXPECT_FALSE(mark.isChecked());
+  EXPECT_TRUE(window_->findChild<QToolBar*>()->isHidden());
+
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const QRect& wish :
+       {QRect(-500, -40, 800, 573), QRect(99999, 99999, 300, 200), QRect(10, 10, 99999, 99999)}) {
+    EXPECT_TRUE(screen.contains(OnScreen(wish)));
+  }
+}
+
+TEST(Questions, ShowPlainTextsButtonsAndDefaults) {
+  const struct {
+    common::Buttons buttons;
+    QMessageBox::StandardButton accept;
+    common::Answer accepted, escaped;
+  } rows[] = {
+      {common::Buttons::kOk, QMessageBox::Ok, common::Answer::kOk, common::Answer::kOk},
+      {common::Buttons::kYesNo, QMessageBox::Yes, common::Answer::kYes, common::Answer::kNo},
+      {common::Buttons::kYesNoCancel, QMessageBox::Yes, common::Answer::kYes,
+       common::Answer::kCancel},
+      {common::Buttons::kOkCancel, QMessageBox::Ok, common::Answer::kOk, common::Answer::kCancel}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(static_cast<int>(row.buttons));
+    MessageBox box({"a <b>\r\nc\rd", "t", common::Icon::kQuestion, row.buttons}, nullptr);
+    EXPECT_EQ(box.text(), QStringLiteral("a <b>\nc\nd"));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.defaultButton(), box.button(row.accept));
+    box.show();
+    box.button(row.accept)->click();
+    EXPECT_EQ(box.Answer(), row.accepted);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_EQ(box.Answer(), row.escaped);
+  }
+  EXPECT_EQ(NameFilters("ZEPHAデータ(*.zph)|*.zph"),
+            QStringList{QStringLiteral("ZEPHAデータ (*.zph *.ZPH)")});
+}
+
+TEST(Icons, AreDrawnInTheTextColourAtEverySize) {
+  const QStringList names = QDir(QStringLiteral(":/icons")).entryList();
+  EXPECT_GE(names.size(), 25);
+  for (const QString& name : names) {
+    for (const int size : {16, 48}) {
+      SCOPED_TRACE(name.toStdString());
+      const QImage image =
+          IconNamed(QFileInfo(name).baseName().toStdString()).pixmap(size).toImage();
+      int inked = 0;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) inked += image.pixelColor(x, y).alpha() > 128;
+      }
+      EXPECT_GT(inked, size);
+    }
+  }
+  EXPECT_TRUE(IconNamed("no such picture").isNull());
+}
+
+}  // namespace
+}  // namespace desktop
