@@ -109,7 +109,7 @@ void ProcessSheet::Watch(ComboBox& box) {
   box.onChange = box.onClick;
 }
 
-void ProcessSheet::OfferEntry(Label& label, TextBox& box, std::function<void()> fill) {
+void ProcessSheet::OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill) {
   box.onDblClick = [&box, fill] {
     if (box.Usable()) fill();
   };

@@ -136,7 +136,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void Watch(TextBox& box);
   void Watch(ComboBox& box);
   /// Makes a double click on the field and a click on its label run the same automatic entry.
-  void OfferEntry(Label& label, TextBox& box, std::function<void()> fill);
+  void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
 
   /// A field that is off shows so and loses its text.
   static void SwitchField(TextBox& box, bool on);
