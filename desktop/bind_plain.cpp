@@ -91,6 +91,20 @@ class ScrollField : public Reporting<QScrollBar, forms::ScrollBar> {
       event->ignore();
     }
   }
+
+  /// Right and down go forwards in both directions of the bar, which Qt's own does not.
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Right:
+      case Qt::Key_Down:
+        return triggerAction(SliderSingleStepAdd);
+      case Qt::Key_Left:
+      case Qt::Key_Up:
+        return triggerAction(SliderSingleStepSub);
+      default:
+        Reporting::keyPressEvent(event);
+    }
+  }
 };
 
 class GridField : public Reporting<QTableWidget, forms::Grid> {

@@ -125,7 +125,7 @@ void FormView::TakeFocus() {
 void FormView::SetLetters(int pixels) {
   if (pixels == letterPixels_) return;
   letterPixels_ = pixels;
-  content_->setStyleSheet(FormStyle(Theme::Current(), pixels));
+  setStyleSheet(FormStyle(Theme::Current(), pixels));
   content_->setFont(UiFont(pixels));
   const Scale scale(pixels);
   for (const LayoutBuilder::Resize& resize : resizes_) resize(scale);
