@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -143,6 +144,14 @@ TEST_F(Windows, LettersGrowWithTheWindowAndStayReadable) {
     EXPECT_GE(view->LetterPixels(), kLeastLetterPixels);
     EXPECT_GT(view->LetterPixels(), before);
     before = view->LetterPixels();
+    // As large as the room allows: one step more would not fit.
+    const QSize needed = view->widget()->layout()->totalMinimumSize();
+    const double share =
+        std::min(1.0 * view->width() / needed.width(), 1.0 * view->height() / needed.height());
+    if (before > kLeastLetterPixels) {
+      EXPECT_GE(share, 1);
+      EXPECT_LT(share, 1.15);
+    }
   }
 }
 
