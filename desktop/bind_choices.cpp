@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QWheelEvent>
 #include <algorithm>
@@ -192,6 +193,8 @@ Bound Bind(forms::ComboBox& box, QWidget& parent) {
   constexpr int kMostVisible = 18;
   auto* const combo = new ComboField(box, parent);
   combo->setMaxVisibleItems(kMostVisible);
+  // The combo box's own delegate does not know the style sheet's line height.
+  combo->setItemDelegate(new QStyledItemDelegate(combo));
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   if (box.Editable()) MakeEditable(box, *combo);
   const auto show = [&box, combo] { ShowCombo(box, *combo); };

@@ -41,9 +41,21 @@ class Clickable : public Reporting<Widget, ControlKind> {
   bool pressed_ = false;
 };
 
+/// A label with a least width, which a longer text exceeds: a cut number would be a wrong one.
 class LabelField : public Clickable<QLabel, forms::Label> {
  public:
   using Clickable::Clickable;
+  QSize minimumSizeHint() const override {
+    return QLabel::minimumSizeHint().expandedTo({leastWidth_, 0});
+  }
+  QSize sizeHint() const override { return QLabel::sizeHint().expandedTo({leastWidth_, 0}); }
+  void SetLeastWidth(int width) {
+    leastWidth_ = width;
+    updateGeometry();
+  }
+
+ private:
+  int leastWidth_ = 0;
 };
 
 class ButtonField : public Reporting<QPushButton, forms::Button> {
@@ -89,6 +101,20 @@ class ScrollField : public Reporting<QScrollBar, forms::ScrollBar> {
       Reporting::wheelEvent(event);
     } else {
       event->ignore();
+    }
+  }
+
+  /// Right and down go forwards in both directions of the bar, which Qt's own does not.
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Right:
+      case Qt::Key_Down:
+        return triggerAction(SliderSingleStepAdd);
+      case Qt::Key_Left:
+      case Qt::Key_Up:
+        return triggerAction(SliderSingleStepSub);
+      default:
+        Reporting::keyPressEvent(event);
     }
   }
 };
@@ -138,13 +164,11 @@ void ShowLabel(const forms::Label& label, QLabel& widget) {
              plain ? label.BackColor() : forms::kWhite);
 }
 
-void ResizeLabel(const forms::Label& label, QLabel& widget, const Scale& scale, int characters) {
+void ResizeLabel(const forms::Label& label, LabelField& widget, const Scale& scale,
+                 int characters) {
   constexpr int kResultWidth = 12;
-  constexpr int kNoteWidth = 30;
-  int own = 0;
-  if (label.Style() == forms::LabelStyle::kResult) own = kResultWidth;
-  if (label.Style() == forms::LabelStyle::kNote && widget.wordWrap()) own = kNoteWidth;
-  widget.setMinimumWidth(scale.Digits(characters > 0 ? characters : own));
+  const int own = label.Style() == forms::LabelStyle::kResult ? kResultWidth : 0;
+  widget.SetLeastWidth(scale.Digits(characters > 0 ? characters : own));
 }
 
 void ShowButton(const forms::Button& button, QPushButton& widget) {

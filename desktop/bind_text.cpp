@@ -55,6 +55,13 @@ class FieldEdit : public Reporting<QLineEdit, forms::TextBox> {
     return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
   }
 
+  /// Control keys are no characters; Control with Alt is the key for the third level.
+  static bool IsShortcut(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers();
+    return held.testFlag(Qt::MetaModifier) ||
+           (held.testFlag(Qt::ControlModifier) && !held.testFlag(Qt::AltModifier));
+  }
+
   /// Whether the form takes the key for itself or refuses it.
   bool UsedByForm(const QKeyEvent& event) {
     if (event.key() == Qt::Key_F4 && Shown().onDblClick) {
@@ -62,7 +69,8 @@ class FieldEdit : public Reporting<QLineEdit, forms::TextBox> {
       return true;
     }
     if (const auto arrow = ArrowOf(event.key())) return Shown().PressArrow(*arrow);
-    if (event.text().isEmpty() || !event.text().front().isPrint()) return false;
+    if (event.text().isEmpty() || !event.text().front().isPrint() || IsShortcut(event))
+      return false;
     bool taken = true;
     for (const char32_t key : event.text().toStdU32String()) {
       taken = taken && Shown().PressKey(key);

@@ -42,7 +42,8 @@ QString ColorStyle(const forms::Control& control, const QColor& ground, forms::C
   if (control.ForeColor() != forms::kBlack || behind != ground) {
     style += QStringLiteral("color: %1;").arg(Ink(control.ForeColor(), theme, behind).name());
   }
-  return style;
+  // Only the widget itself: a bare rule would colour its tool tip, too.
+  return style.isEmpty() ? style : QStringLiteral("*[look], *[look] QLineEdit { %1 }").arg(style);
 }
 
 }  // namespace
@@ -51,7 +52,7 @@ Bound BindAny(forms::Control& control, QWidget& parent) {
   using namespace forms;
   Bound bound = BindFirstOf<TextBox, ComboBox, ListBox, TabStrip, OptionButton, CheckBox, Label,
                             Button, Frame, Picture, ScrollBar, Grid, ProgressBar>(control, parent);
-  bound.widget->setObjectName(QString::fromStdString(control.Name()));
+  if (!bound.widget->property("look").isValid()) SetLook(*bound.widget, "field");
   return bound;
 }
 

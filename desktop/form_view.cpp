@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLayout>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace desktop {
@@ -12,6 +13,8 @@ FormView::FormView(forms::Form& form, QWidget* parent) : QScrollArea(parent), fo
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
   setFocusPolicy(Qt::NoFocus);
+  const QString barStyle = FormStyle(Theme::Current(), kBaseLetterPixels);
+  for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) bar->setStyleSheet(barStyle);
   content_ = new QWidget(this);
   content_->setObjectName(QStringLiteral("formSheet"));
   LayoutBuilder builder([this](forms::Control& control, int characters) {
@@ -148,12 +151,19 @@ int FormView::LettersThatFit() const {
 }
 
 void FormView::Grow() {
+  if (fitting_) return;
+  fitting_ = true;
   SetLetters(LettersThatFit());
+  fitting_ = false;
   Shrink();
 }
 
 void FormView::Shrink() {
+  // New letters change sizes themselves; what that reports is no reason to begin again.
+  if (fitting_) return;
+  fitting_ = true;
   while (!Fits() && letterPixels_ > kLeastLetterPixels) SetLetters(letterPixels_ - 1);
+  fitting_ = false;
 }
 
 void FormView::resizeEvent(QResizeEvent* event) {

@@ -63,6 +63,7 @@ class FormView : public QScrollArea {
   std::vector<Unit> units_;
   QSize natural_;
   int letterPixels_ = 0;
+  bool fitting_ = false;
 };
 
 }  // namespace desktop

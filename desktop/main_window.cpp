@@ -154,7 +154,18 @@ void MainWindow::ShowState() {
     action->setToolTip(tip.toHtmlEscaped());
     action->setStatusTip(tip);
   }
-  toolBar_->setVisible(commands_.ToolBarVisible());
+  ShowToolBar(commands_.ToolBarVisible());
+}
+
+/// The window grows and shrinks by the height of the tool bar, so that the sheet keeps its size.
+void MainWindow::ShowToolBar(bool visible) {
+  constexpr int kHeightShown = 8600 / 15;
+  constexpr int kHeightHidden = 8180 / 15;
+  if (toolBar_->isHidden() != visible) return;
+  toolBar_->setVisible(visible);
+  const bool normal = isVisible() && !isMaximized() && !isFullScreen();
+  const int change = kHeightShown - kHeightHidden;
+  if (normal) resize(width(), height() + (visible ? change : -change));
 }
 
 void MainWindow::MakeRoomFor(const QSize& sheet) {

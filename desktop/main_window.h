@@ -34,6 +34,7 @@ class MainWindow : public QMainWindow {
   void RunCommand(const std::string& name);
   /// Brings menus, tool bar and title to the state of the commands.
   void ShowState();
+  void ShowToolBar(bool visible);
 
   shell::MainWindow& commands_;
   QMdiArea* area_;

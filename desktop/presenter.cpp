@@ -118,6 +118,9 @@ void QtPresenter::CloseForm(forms::Form& form) {
   QWidget* const window = found->second.window;
   shown_.erase(found);
   closed_.push_back(window);
+  // Hiding the focus would hand it on to the next field, as if the user had gone there.
+  QWidget* const focus = QApplication::focusWidget();
+  if (focus != nullptr && window->isAncestorOf(focus)) focus->clearFocus();
   window->hide();
   CollectLater();
 }

@@ -153,10 +153,10 @@ QString FormStyle(const Theme& theme, int letterPixels) {
   static const QString sheet = ReadSheet(":/style/form.qss");
   QString text = sheet;
   const std::pair<const char*, double> sizes[] = {
-      {"@headingPx", 1.35}, {"@linePx", 1.36}, {"@hairPx", 0.12},     {"@barPx", 0.9},
-      {"@titlePx", 1.0},    {"@notePx", 0.92}, {"@letterPx", 1.0},    {"@padPx", 0.38},
-      {"@thinPadPx", 0.2},  {"@roundPx", 0.3}, {"@cardRoundPx", 0.5}, {"@buttonPadPx", 1.2},
-      {"@dropPx", 1.5},     {"@arrowPx", 0.8}, {"@markPx", 1.08}};
+      {"@headingPx", 1.35},  {"@linePx", 1.36},   {"@hairPx", 0.12}, {"@rowPx", 1.7},
+      {"@barPx", 0.9},       {"@titlePx", 1.0},   {"@notePx", 0.92}, {"@letterPx", 1.0},
+      {"@padPx", 0.38},      {"@thinPadPx", 0.2}, {"@roundPx", 0.3}, {"@cardRoundPx", 0.5},
+      {"@buttonPadPx", 1.2}, {"@dropPx", 1.5},    {"@arrowPx", 0.8}, {"@markPx", 1.08}};
   for (const auto& [mark, share] : sizes) {
     const int pixels = std::max(1, static_cast<int>(std::lround(letterPixels * share)));
     text.replace(QLatin1String(mark), QString::number(pixels) + QLatin1String("px"));

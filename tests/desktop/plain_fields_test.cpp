@@ -34,6 +34,15 @@ TEST_F(PlainFields, LabelShowsColourAndTakesClicks) {
   EXPECT_EQ(verdict.palette().color(QPalette::WindowText), Theme::Current().text);
 }
 
+TEST_F(PlainFields, LongResultIsNeverCut) {
+  DemoSheet& sheet = ShowSheet();
+  auto& label = Find<QLabel>(sheet, "lblMaxReynolds");
+  sheet.lblMaxReynolds.SetText("123,456,789,012,345,678,901,234");
+  QApplication::processEvents();
+  const int textWidth = label.fontMetrics().horizontalAdvance(label.text());
+  EXPECT_GE(label.width(), textWidth);
+}
+
 TEST_F(PlainFields, ButtonClicksByMouseSpaceAndEnter) {
   DemoSheet& sheet = ShowSheet();
   auto& button = Find<QPushButton>(sheet, "cmd計算");

@@ -39,6 +39,7 @@ TEST_F(TextField, TakesTheKeysOfItsFilterAndBeepsAtOthers) {
 TEST_F(TextField, FiresOneChangeForEachKeyAndForTextsFromCode) {
   int changes = 0;
   sheet_.txt目盛流量.onChange = [&] { ++changes; };
+  flow_.setFocus();
   QTest::keyClicks(&flow_, QStringLiteral("120"));
   EXPECT_EQ(changes, 3);
   sheet_.txt目盛流量.SetText("85");

@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -49,6 +50,17 @@ TEST_F(Windows, ButtonThatClosesItsDialogLosesItsWidgetsBeforeTheForm) {
   EXPECT_TRUE(gone);
   EXPECT_FALSE(viewOutlivedForm);
   EXPECT_EQ(forms_.Find("frmDemoDialog"), nullptr);
+}
+
+TEST_F(Windows, ClosingASheetMovesNoFocusInIt) {
+  DemoSheet& sheet = ShowSheet();
+  int arrivals = 0;
+  for (forms::Control* control : sheet.Controls()) {
+    if (control != sheet.Focused()) control->onGotFocus = [&] { ++arrivals; };
+  }
+  forms_.Unload(sheet);
+  EXPECT_EQ(arrivals, 0);
+  QTest::qWait(1);
 }
 
 TEST_F(Windows, DialogLocksTheMainWindowAndEscapeCancels) {
@@ -132,6 +144,14 @@ TEST_F(Windows, LettersGrowWithTheWindowAndStayReadable) {
     EXPECT_GE(view->LetterPixels(), kLeastLetterPixels);
     EXPECT_GT(view->LetterPixels(), before);
     before = view->LetterPixels();
+    // As large as the room allows: one step more would not fit.
+    const QSize needed = view->widget()->layout()->totalMinimumSize();
+    const double share =
+        std::min(1.0 * view->width() / needed.width(), 1.0 * view->height() / needed.height());
+    if (before > kLeastLetterPixels) {
+      EXPECT_GE(share, 1);
+      EXPECT_LT(share, 1.15);
+    }
   }
 }
 
@@ -147,8 +167,10 @@ TEST_F(Windows, MainWindowShowsTheCommandsAndStaysOnTheScreen) {
   print.trigger();
   EXPECT_EQ(window_->windowTitle(), QStringLiteral("button 4"));
   auto& mark = *window_->findChild<QAction*>(QStringLiteral("mnuToolBar"));
+  const int height = window_->height();
   mark.trigger();
   EXPECT_FALSE(mark.isChecked());
+  EXPECT_EQ(window_->height(), height - 28);  // 8600 - 8180 twips
   EXPECT_TRUE(window_->findChild<QToolBar*>()->isHidden());
 
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
@@ -198,7 +220,7 @@ TEST(Icons, AreDrawnInTheTextColourAtEverySize) {
       for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) inked += image.pixelColor(x, y).alpha() > 128;
       }
-      EXPECT_GT(inked, size);
+      EXPECT_GE(inked, size / 3);
     }
   }
   EXPECT_TRUE(IconNamed("no such picture").isNull());
