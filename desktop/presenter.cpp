@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QMdiArea>
-#include <QTimer>
 #include <algorithm>
 
 #include "desktop/form_view.h"
@@ -157,7 +156,8 @@ void QtPresenter::Activated(forms::Form& form) {
 void QtPresenter::UserCloses(forms::Form& form) { forms_->Unload(form); }
 
 void QtPresenter::CollectLater() {
-  QTimer::singleShot(0, &context_, [this] { Collect(); });
+  QMetaObject::invokeMethod(
+      &context_, [this] { Collect(); }, Qt::QueuedConnection);
 }
 
 void QtPresenter::Collect() {
