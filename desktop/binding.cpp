@@ -1,6 +1,6 @@
 #include "desktop/binding.h"
 
-#include <QStyle>
+#include <QTextDocument>
 #include <QVariant>
 #include <stdexcept>
 

@@ -28,7 +28,7 @@ QtDrawSurface::QtDrawSurface(QPainter& painter, double unitsPerTwip, ColorRule r
   painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter_.scale(unitsPerTwip, unitsPerTwip);
   color_ = rule_(forms::kBlack);
-  SetFont(UiFamily().toStdString(), kOwnSize, false);
+  QtDrawSurface::SetFont(UiFamily().toStdString(), kOwnSize, false);
 }
 
 QtDrawSurface::~QtDrawSurface() { painter_.restore(); }

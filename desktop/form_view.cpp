@@ -37,7 +37,7 @@ FormView::FormView(forms::Form& form, QWidget* parent) : QScrollArea(parent), fo
 QWidget* FormView::PlaceControl(forms::Control& control, int characters) {
   const Bound bound = BindAny(control, *content_);
   bound_[&control] = bound;
-  resizes_.push_back(
+  resizes_.emplace_back(
       [resize = bound.resize, characters](const Scale& scale) { resize(scale, characters); });
   return bound.widget;
 }

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QMdiArea>
-#include <QTimer>
 #include <algorithm>
 
 #include "desktop/form_view.h"
@@ -39,6 +38,8 @@ QtPresenter::~QtPresenter() { CloseAll(); }
 void QtPresenter::Attach(MainWindow& window, shell::FormManager& forms) {
   mainWindow_ = &window;
   forms_ = &forms;
+  collector_.setSingleShot(true);
+  QObject::connect(&collector_, &QTimer::timeout, &context_, [this] { Collect(); });
   QObject::connect(&window.Area(), &QMdiArea::subWindowActivated, &context_,
                    [this](QMdiSubWindow* sheet) { Activated(sheet); });
 }
@@ -156,9 +157,7 @@ void QtPresenter::Activated(forms::Form& form) {
 
 void QtPresenter::UserCloses(forms::Form& form) { forms_->Unload(form); }
 
-void QtPresenter::CollectLater() {
-  QTimer::singleShot(0, &context_, [this] { Collect(); });
-}
+void QtPresenter::CollectLater() { collector_.start(); }
 
 void QtPresenter::Collect() {
   // A handler may stand behind a box that waits; the box calls again.

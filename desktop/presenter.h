@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <map>
 #include <vector>
 
@@ -58,6 +59,8 @@ class QtPresenter : public forms::Presenter {
   void Collect();
 
   QObject context_;
+  /// Runs out as soon as the events on the way are done.
+  QTimer collector_;
   MainWindow* mainWindow_ = nullptr;
   shell::FormManager* forms_ = nullptr;
   std::map<const forms::Form*, Shown> shown_;
