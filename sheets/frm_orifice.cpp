@@ -312,10 +312,11 @@ void frmOrifice::DeclareLayout() {
       forms::Table({{lblタイトル[0]}}),
       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
       forms::Stretched(forms::Row({
-          ProcessBlock(),
-          forms::Column({ElementBlock(), ModeBlock(), forms::Space()}),
-          forms::Column(
-              {ResultBlock(), forms::Space(), forms::Buttons({{}, cmdデータ消去, cmd計算})}),
+          forms::Stretched(ProcessBlock(), 7),
+          forms::Stretched(forms::Column({ElementBlock(), ModeBlock(), forms::Space()}), 7),
+          forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
+                                          forms::Buttons({{}, cmdデータ消去, cmd計算})}),
+                           5),
       })),
   }));
 }

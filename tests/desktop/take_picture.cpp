@@ -88,7 +88,7 @@ int main(int count, char** arguments) {
       }
     }
     if (!target->grab().save(words.value(1))) std::cerr << "the picture was not saved\n";
-    QApplication::quit();
+    QApplication::exit(0);
   });
   const int result = QApplication::exec();
   presenter.CloseAll();
