@@ -54,7 +54,7 @@ OwnWindow::OwnWindow(FormView& view, QWidget& owner)
 }
 
 void OwnWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();
+  event->accept();
   if (onClose) onClose();
 }
 
