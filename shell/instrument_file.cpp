@@ -65,21 +65,24 @@ std::string OwnerName(const TagStore& store, int row) {
   return row == 0 ? "ファイルの見出し" : "Tag No.「" + store.Text(row, kTagNumberColumn) + "」";
 }
 
-void AppendRecord(std::string& text, const TagRow& record, const char* version) {
-  bool first = true;
-  for (const std::string& field : record) {
-    text += first ? "\"" : ",\"";
-    text += first && version != nullptr ? version : field;
-    text += '"';
-    first = false;
-  }
-  text += "\r\n";
-}
-
 /// Whether the quote that ends the field on reading has a separator behind it.
 bool ShiftsFields(const std::string& text) {
   const auto quote = text.find('"');
   return quote != std::string::npos && text.find_first_of(",\r\n", quote) != std::string::npos;
+}
+
+/// Appends a text as a field in CP932.
+void AppendField(std::string& bytes, const std::string& text, const std::string& owner) {
+  bytes += bytes.empty() || bytes.back() == '\n' ? "\"" : ",\"";
+  const bool ascii = std::all_of(text.begin(), text.end(),
+                                 [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (ascii && text.find('"') == std::string::npos) {
+    bytes += text;  // nine in ten fields: numbers
+  } else {
+    CheckStorable(owner, text);
+    bytes += common::ToCp932(text);
+  }
+  bytes += '"';
 }
 
 void WriteStore(const TagStore& store) {
@@ -112,26 +115,18 @@ void CheckStorable(const std::string& owner, const std::string& text) {
 }
 
 std::string EncodeInstrumentFile(const TagStore& store) {
-  std::string text;
-  bool shifts = false;
-  const int last = std::max(store.TagCount(), 0);
-  for (int row = 0; row <= last; ++row) {
-    TagRow header;
+  std::string bytes;
+  for (int row = 0; row <= std::max(store.TagCount(), 0); ++row) {
+    TagRow record = store.Row(row);
     if (row == 0) {
-      header = store.Row(0);
-      Column(header, kKindColumn).clear();
+      Column(record, kTagNumberColumn) = kProgramVersion;
+      Column(record, kKindColumn).clear();
     }
-    const TagRow& record = row == 0 ? header : store.Row(row);
-    AppendRecord(text, record, row == 0 ? kProgramVersion : nullptr);
-    shifts = shifts || std::any_of(record.begin(), record.end(), ShiftsFields);
+    const std::string owner = OwnerName(store, row);
+    for (const std::string& text : record) AppendField(bytes, text, owner);
+    bytes += "\r\n";
   }
-  // The whole text at once, because field by field takes several times as long.
-  if (shifts || common::FirstOutsideCp932(text)) {
-    for (int row = 0; row <= last; ++row) {
-      for (const std::string& field : store.Row(row)) CheckStorable(OwnerName(store, row), field);
-    }
-  }
-  return common::ToCp932(text);
+  return bytes;
 }
 
 void ConvertOldRecord(TagRow& record, const std::string& fileVersion, const data::PipeTable& pipes,
