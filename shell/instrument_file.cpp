@@ -166,20 +166,19 @@ std::vector<TagRow> ParseInstrumentFile(std::string bytes, const data::PipeTable
 
 bool OpenInstrumentFile(TagStore& store, const std::string& path, const data::PipeTable& pipes,
                         const data::ConvertLists& lists, common::Messages& messages) {
-  const std::string name = path;  // the caller may pass the store's own file name
   store.PrepareForReading();
   try {
-    store.TakeRows(ParseInstrumentFile(common::ReadFile(name), pipes, lists));
-    store.zephaFileName = name;
+    store.TakeRows(ParseInstrumentFile(common::ReadFile(path), pipes, lists));
+    store.zephaFileName = path;
     store.ShowTagsRead();
     return true;
   } catch (const RuntimeFault& fault) {
-    // Without this, the next save would replace the file that could not be read.
-    store.zephaFileName.clear();
     const bool missing = fault.Number() == Fault::kFileNotFound;
-    messages.Show(
-        missing ? "ＺＥＰＨＡのデータファイル\n" + name + "\nが見つかりません。" : fault.Text(), {},
-        common::Icon::kWarning);
+    const std::string text =
+        missing ? "ＺＥＰＨＡのデータファイル\n" + path + "\nが見つかりません。" : fault.Text();
+    // Else the next save would replace the file that could not be read. `path` may be this name.
+    store.zephaFileName.clear();
+    messages.Show(text, {}, common::Icon::kWarning);
     return false;
   }
 }
