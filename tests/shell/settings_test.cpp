@@ -74,6 +74,8 @@ TEST(Settings, ADamagedFileLosesOnlyWhatCannotBeRead) {
       {"cut", good.substr(0, good.find("105") + 1), "A", "1", ""},
       {"line without value", "[User]\nCompany\n[ExeScrn]\nWinTop=105\n", "", "105", ""},
       {"damaged heading", "[User\nCompany=A\n[ExeScrn]\nWinTop=105\n", "", "105", ""},
+      {"damaged second heading", "[ExeScrn]\nWinTop=105\n[User\nCompany=A\nWinTop=7\n", "", "105",
+       ""},
       {"no heading", "Company=A\n[ExeScrn]\nWinTop=105\n", "", "105", ""},
       {"twice", "[User]\nCompany=B\n[user]\ncompany=A\n", "A", "", ""},
       {"binary in between",

@@ -208,6 +208,7 @@ TEST(TagStore, RegistersAfterAReplacementInAStoreThatWasEmptied) {
   store.Delete(messages);
   EXPECT_EQ(store.TagCount(), 0);
   EXPECT_EQ(Add(store, "2"), 1);
+  EXPECT_FALSE(store.ReplaceTag());
   EXPECT_EQ(Numbers(store), Texts{"2"});
   EXPECT_EQ(store.Lines().size(), 1U);
 }
