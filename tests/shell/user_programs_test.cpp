@@ -1,0 +1,81 @@
+#include "shell/user_programs.h"
+
+#include <gtest/gtest.h>
+
+#include "common/fault.h"
+#include "common/file.h"
+#include "common/text.h"
+#include "tests/shell/temporary_folder.h"
+
+namespace shell {
+namespace {
+
+TEST(UserPrograms, StripsOneQuoteAtEachEnd) {
+  const struct {
+    const char *text, *stripped;
+  } rows[] = {{"", ""},          {"\"", ""},       {"\"\"", ""},
+              {"\"\"\"", "\""},  {"a b", "a b"},   {"\"a b\"", "a b"},
+              {"\"a b", "a b"},  {"a b\"", "a b"}, {"\"\"a\"\"", "\"a\""},
+              {" \"a\"", " \"a"}};
+  for (const auto& row : rows) EXPECT_EQ(WithoutOuterQuotes(row.text), row.stripped) << row.text;
+}
+
+TEST(UserPrograms, ReadsWhatIsThere) {
+  const std::string one = "\"電卓\",\"/opt/my tools/calc\"\r\n";
+  const struct {
+    const char* name;
+    std::string text;
+    int records;
+  } rows[] = {
+      {"empty", "", 0},
+      {"one", one, 1},
+      {"one and a half", one + "\"電卓\"", 1},
+      {"three", one + one + one, 3},
+      {"four", one + one + one + one, 3},
+      {"no line ends", "\"電卓\",\"/opt/my tools/calc\",\"電卓\",\"/opt/my tools/calc\"", 2},
+  };
+  const tests::TemporaryFolder folder;
+  EXPECT_EQ(ReadUserPrograms(folder.Path())[0].caption, "") << "no file";
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    common::WriteFile(folder / "UserProgram.dat", common::ToCp932(row.text));
+    const UserPrograms programs = ReadUserPrograms(folder.Path());
+    for (int i = 0; i < 3; ++i) {
+      const UserProgram& program = programs[static_cast<std::size_t>(i)];
+      EXPECT_EQ(program.caption, i < row.records ? "電卓" : "");
+      EXPECT_EQ(program.command, i < row.records ? "/opt/my tools/calc" : "");
+    }
+  }
+}
+
+TEST(UserPrograms, WritesCp932AndStripsCommandsAlone) {
+  const tests::TemporaryFolder folder;
+  UserPrograms programs = {{{"表", "\"C:\\my tools\\表.exe\""}, {"", ""}, {"b, c", "/bin/b -c"}}};
+  WriteUserPrograms(folder.Path(), programs);
+  EXPECT_EQ(programs[0].command, "C:\\my tools\\表.exe");
+  // 表 is 95 5C in CP932; its second byte is no backslash.
+  EXPECT_EQ(
+      common::ReadFile(folder / "UserProgram.dat"),
+      "\"\x95\x5C\",\"C:\\my tools\\\x95\x5C.exe\"\r\n\"\",\"\"\r\n\"b, c\",\"/bin/b -c\"\r\n");
+  const UserPrograms read = ReadUserPrograms(folder.Path());
+  for (std::size_t i = 0; i < read.size(); ++i) {
+    EXPECT_EQ(read[i].caption, programs[i].caption);
+    EXPECT_EQ(read[i].command, programs[i].command);
+  }
+}
+
+TEST(UserPrograms, RefusesWhatTheFileCannotHoldAndKeepsIt) {
+  const tests::TemporaryFolder folder;
+  UserPrograms good = {{{"a", "b"}, {}, {}}};
+  WriteUserPrograms(folder.Path(), good);
+  const std::string before = common::ReadFile(folder / "UserProgram.dat");
+  for (const char* const text : {"é", "\"a\", b"}) {
+    UserPrograms programs = {{{"x", "y"}, {text, ""}, {}}};
+    EXPECT_THROW(WriteUserPrograms(folder.Path(), programs), common::RuntimeFault);
+    EXPECT_EQ(common::ReadFile(folder / "UserProgram.dat"), before);
+  }
+  EXPECT_THROW(WriteUserPrograms(folder / "none", good), common::RuntimeFault);
+}
+
+}  // namespace
+}  // namespace shell
