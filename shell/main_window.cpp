@@ -90,6 +90,25 @@ void MainWindow::SetButtonToolTip(int number, const std::string& toolTip) {
   TellChanged();
 }
 
+void MainWindow::SetEntries(const std::string& submenu, std::vector<Command> commands) {
+  std::vector<MenuEntry>& entries = EntriesOf(menus_, submenu);
+  for (const MenuEntry& entry : entries) {
+    std::erase_if(commands_, [&](const Command& command) { return command.name == entry.name; });
+  }
+  entries.clear();
+  for (Command& command : commands) AddCommand(submenu, std::move(command));
+  if (onEntries) onEntries(submenu);
+}
+
+void MainWindow::Place(const WindowPlacement& placement) {
+  placement_ = placement;
+  if (onPlace) onPlace(placement);
+}
+
+void MainWindow::DropFile(const std::string& path) const {
+  if (onFileDropped) RunGuarded([&] { onFileDropped(path); });
+}
+
 void MainWindow::RunGuarded(const std::function<void()>& run) const {
   const auto copy = run;  // the command may rebuild the menus
   try {

@@ -39,6 +39,16 @@ struct ToolButton {
   bool separator = false;
 };
 
+/// Place of the main window on the screen, in twips, and whether it is maximised or minimised.
+struct WindowPlacement {
+  enum State { kNormal = 0, kMinimised = 1, kMaximised = 2 };
+  int top = 105;
+  int left = 105;
+  int width = 12000;
+  int height = 8600;
+  int state = kNormal;
+};
+
 /// The main window as the system knows it: menus, commands and tool bar with their state, without a
 /// toolkit. The desktop shows it, the driver runs its commands.
 class MainWindow {
@@ -61,10 +71,18 @@ class MainWindow {
   void SetButtonEnabled(int number, bool enabled);
   void SetButtonToolTip(int number, const std::string& toolTip);
 
+  /// Replaces the entries of a submenu that changes while the program runs.
+  void SetEntries(const std::string& submenu, std::vector<Command> commands);
+
   /// Runs a command or presses a button; false if it is unknown, disabled or empty.
   bool Run(const std::string& name);
   bool Press(int number);
 
+  /// Where the window stands; whoever shows it keeps this up to date.
+  const WindowPlacement& Placement() const { return placement_; }
+  void Moved(const WindowPlacement& placement) { placement_ = placement; }
+  /// Moves the window; onPlace tells whoever shows it.
+  void Place(const WindowPlacement& placement);
   const std::string& Title() const { return title_; }
   void SetTitle(std::string title);
   bool ToolBarVisible() const { return toolBarVisible_; }
@@ -72,8 +90,16 @@ class MainWindow {
 
   /// Enabling, marks, tool tips or title changed.
   std::function<void()> onChange;
+  /// The entries of this submenu were replaced.
+  std::function<void(const std::string& submenu)> onEntries;
+  std::function<void(const WindowPlacement&)> onPlace;
+  /// A file was dropped on the window.
+  std::function<void(const std::string& path)> onFileDropped;
   /// A command ended in a fault.
   std::function<void(const common::RuntimeFault&)> onFault;
+
+  /// The user has dropped a file on the window.
+  void DropFile(const std::string& path) const;
 
  private:
   void RunGuarded(const std::function<void()>& run) const;
@@ -84,6 +110,7 @@ class MainWindow {
   std::vector<Command> commands_;
   std::vector<ToolButton> buttons_;
   std::string title_;
+  WindowPlacement placement_;
   bool toolBarVisible_ = true;
 };
 
