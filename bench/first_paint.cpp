@@ -40,7 +40,8 @@ int ShowEmpty(QApplication& application, EndAtFirstPaint& end) {
 int ShowWorkbench(QApplication& application, EndAtFirstPaint& end) {
   desktop::PrepareApplication(application);
   desktop::QtPresenter presenter;
-  sheets::Workbench workbench(presenter, ZEPHA_BUILD_DIR);
+  shell::MemorySettings settings;
+  sheets::Workbench workbench(presenter, ZEPHA_BUILD_DIR, settings);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   window.installEventFilter(&end);

@@ -9,7 +9,9 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   desktop::PrepareApplication(application);
   desktop::QtPresenter presenter;
-  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString());
+  shell::FileSettings settings(shell::DefaultSettingsPath());
+  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(),
+                              settings);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   window.show();

@@ -8,7 +8,9 @@
 #include "common/text.h"
 #include "forms/controls.h"
 #include "headless/states.h"
+#include "shell/lifecycle.h"
 #include "shell/sheet_registry.h"
+#include "shell/tag_commands.h"
 
 namespace headless {
 
@@ -20,6 +22,11 @@ std::string TakeWord(std::string& line) {
   std::string word = line.substr(0, end);
   line = end == std::string::npos ? "" : line.substr(end + 1);
   return word;
+}
+
+/// The rest of a line as one text, blanks and all.
+std::string WholeLine(const std::string& object, const std::string& text) {
+  return text.empty() ? object : object + " " + text;
 }
 
 std::optional<int> WholeNumber(const std::string& text) {
@@ -38,7 +45,8 @@ std::vector<std::string> ControlNames(const forms::Form& form) {
 
 }  // namespace
 
-Driver::Driver(std::string installDir) : workbench_(presenter_, std::move(installDir)) {}
+Driver::Driver(std::string installDir, shell::SettingsStore& settings)
+    : workbench_(presenter_, std::move(installDir), settings) {}
 
 const std::map<std::string, Driver::Action>& Driver::Actions() {
   static const std::map<std::string, Action> kActions = {
@@ -61,12 +69,12 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"workspace", &Driver::TellWorkspace},
       {"close", &Driver::CloseForm},
       {"quit", &Driver::Quit},
-      {"row", &Driver::NotThereYet},
+      {"row", &Driver::Row},
       {"ductrow", &Driver::NotThereYet},
-      {"register", &Driver::NotThereYet},
-      {"recall", &Driver::NotThereYet},
-      {"load", &Driver::NotThereYet},
-      {"save", &Driver::NotThereYet},
+      {"register", &Driver::Register},
+      {"recall", &Driver::Recall},
+      {"load", &Driver::LoadFile},
+      {"save", &Driver::SaveFile},
       {"print", &Driver::NotThereYet},
       {"printall", &Driver::NotThereYet},
       {"export", &Driver::NotThereYet},
@@ -117,7 +125,7 @@ void Driver::Misunderstand(std::string sentence) {
   throw Refusal{std::move(sentence)};
 }
 
-void Driver::Close() { workbench_.Forms().UnloadAll(); }
+void Driver::Close() { shell::WorkspaceEnd(workbench_.Space()); }
 
 forms::Form& Driver::ActiveForm() {
   forms::Form* const form = workbench_.Forms().Active();
@@ -160,7 +168,7 @@ T& Driver::FindOf(const std::string& name, const char* what) {
 }
 
 void Driver::Open(const std::string& object, const std::string& text, Json&) {
-  const std::string name = text.empty() ? object : object + " " + text;
+  const std::string name = WholeLine(object, text);
   shell::FormManager& forms = workbench_.Forms();
   if (const shell::SheetEntry* const sheet = shell::FindSheet(name)) {
     if (!forms.Knows(sheet->form)) Misunderstand("The sheet " + name + " is not there yet.");
@@ -295,7 +303,7 @@ void Driver::QueueAnswer(const std::string& object, const std::string&, Json&) {
 }
 
 void Driver::QueueFile(const std::string& object, const std::string& text, Json&) {
-  presenter_.QueueFile(text.empty() ? object : object + " " + text);
+  presenter_.QueueFile(WholeLine(object, text));
 }
 
 void Driver::Get(const std::string& object, const std::string&, Json& answer) {
@@ -324,6 +332,56 @@ void Driver::Forms(const std::string&, const std::string&, Json& answer) {
 
 void Driver::TellWorkspace(const std::string&, const std::string&, Json& answer) {
   answer.update(StateOf(workbench_.Space()));
+}
+
+void Driver::RunGuarded(const std::function<void()>& command) {
+  try {
+    command();
+  } catch (const common::RuntimeFault& fault) {
+    presenter_.Show(fault.Text(), {}, common::Icon::kWarning);
+  }
+}
+
+void Driver::Row(const std::string& object, const std::string&, Json& answer) {
+  const std::optional<int> row = WholeNumber(object);
+  if (!row || *row < 0 || *row > shell::kMaxTags) Misunderstand("There is no row " + object + ".");
+  answer["row"] = workbench_.Space().tags.Row(*row);
+}
+
+void Driver::Register(const std::string&, const std::string&, Json& answer) {
+  RunGuarded([this] { shell::RegisterTag(workbench_.Space()); });
+  answer["TagCount"] = workbench_.Space().tags.TagCount();
+  answer["CurrentTag"] = workbench_.Space().tags.currentTag;
+}
+
+void Driver::Recall(const std::string& object, const std::string&, Json&) {
+  shell::Workspace& space = workbench_.Space();
+  const std::optional<int> row = WholeNumber(object);
+  if (!row || *row < 1 || *row > space.tags.TagCount()) {
+    Misunderstand("There is no tag " + object + ".");
+  }
+  RunGuarded([&] {
+    space.tags.SelectLine(*row - 1);
+    shell::RecallSelectedTag(space);
+  });
+}
+
+void Driver::LoadFile(const std::string& object, const std::string& text, Json& answer) {
+  RunGuarded([&] { shell::OpenFileNamed(workbench_.Space(), WholeLine(object, text)); });
+  answer["TagCount"] = workbench_.Space().tags.TagCount();
+}
+
+/// Without a path it saves under the present name.
+void Driver::SaveFile(const std::string& object, const std::string& text, Json& answer) {
+  const std::string path = WholeLine(object, text);
+  RunGuarded([&] {
+    if (path.empty()) {
+      shell::SaveFile(workbench_.Space());
+    } else {
+      shell::SaveFileNamed(workbench_.Space(), path);
+    }
+  });
+  answer["TagModified"] = workbench_.Space().tags.tagModified;
 }
 
 void Driver::CloseForm(const std::string&, const std::string&, Json&) {

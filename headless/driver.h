@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -15,7 +16,9 @@ using Json = nlohmann::ordered_json;
 /// one JSON object. A fault in a command never ends the run.
 class Driver {
  public:
-  explicit Driver(std::string installDir);
+  /// installDir: folder of the data files. settings: where runs leave their state; it must outlive
+  /// the driver.
+  Driver(std::string installDir, shell::SettingsStore& settings);
 
   /// The program's own start.
   Json Start();
@@ -40,6 +43,8 @@ class Driver {
   static const std::map<std::string, Action>& Actions();
 
   void Run(const std::string& line, Json& answer);
+  /// Runs a command of the workspace; a fault becomes a message, as in the window.
+  void RunGuarded(const std::function<void()>& command);
   [[noreturn]] void Misunderstand(std::string sentence);
 
   forms::Form& ActiveForm();
@@ -65,6 +70,11 @@ class Driver {
   void Dump(const std::string& object, const std::string& text, Json& answer);
   void Forms(const std::string& object, const std::string& text, Json& answer);
   void TellWorkspace(const std::string& object, const std::string& text, Json& answer);
+  void Row(const std::string& object, const std::string& text, Json& answer);
+  void Register(const std::string& object, const std::string& text, Json& answer);
+  void Recall(const std::string& object, const std::string& text, Json& answer);
+  void LoadFile(const std::string& object, const std::string& text, Json& answer);
+  void SaveFile(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
   void NotThereYet(const std::string& object, const std::string& text, Json& answer);

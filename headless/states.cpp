@@ -130,6 +130,13 @@ Json StateOf(const ScriptPresenter::Shown& shown) {
 Json StateOf(const shell::Workspace& workspace) {
   Json state = {{"ActiveSheetKind", workspace.activeSheetKind},
                 {"LastFormName", workspace.lastFormName},
+                {"TagCount", workspace.tags.TagCount()},
+                {"CurrentTag", workspace.tags.currentTag},
+                {"LastTagIndex", workspace.tags.lastTagIndex},
+                {"TagModified", workspace.tags.tagModified},
+                {"ZephaFileName", workspace.tags.zephaFileName},
+                {"FileMajorVersion", workspace.tags.FileMajorVersion()},
+                {"IssuerName", workspace.issuerName},
                 {"CalcFailed", workspace.calcFailed},
                 {"CalcDone", workspace.calcDone},
                 {"CalcNote", workspace.calcNote},

@@ -239,6 +239,7 @@ bool frmOrifice::ReadInputs() {
   context_.Beta();  // an empty pipe bore ends the event here, before any question about the pipe
   ReadDensities();
   context_.rho = process.densityFlow;
+  normalDensity_ = process.densityBase;
   context_.mu = process.viscosityCp;
   context_.qMax = data::FlowToMass(process, Val(txt目盛流量.Text()));
   context_.qNor = data::FlowToMass(process, Val(txt常用流量.Text()));
@@ -274,16 +275,19 @@ void frmOrifice::ShowResults(const flow::SizingResult& result) {
   ShowCalculatedEntry(result);
   lbl四分円半径R.SetText(Rounded(result.radius, 2));
   lbl永久圧損R.SetText(loss);
-  if (context_.elementType == flow::kVenaContractaTapOrifice) {
-    lbl永久圧損R.SetForeColor(forms::kMagenta);
-    lbl永久圧損R.SetToolTip(
-        "縮流タップでは流出係数を計算しないため、永久圧力損失は目安になりません。");
-  }
+  CautionLoss();
   ShowTaps(result);
   lbl使用下限.SetText(NumberText(100 * result.useLow));
   lbl使用上限.SetText(result.useHigh ? NumberText(100 * *result.useHigh) : "");
   lbl外挿.SetText(context_.extrapolationMark);
   equationEdition_ = "1";
+}
+
+void frmOrifice::CautionLoss() {
+  if (cbo絞り機構種類.Index() != flow::kVenaContractaTapOrifice) return;
+  lbl永久圧損R.SetForeColor(forms::kMagenta);
+  lbl永久圧損R.SetToolTip(
+      "縮流タップでは流出係数を計算しないため、永久圧力損失は目安になりません。");
 }
 
 void frmOrifice::ShowCalculatedEntry(const flow::SizingResult& result) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "flow/differential_pressure.h"
@@ -83,6 +84,14 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
 
   void ClearResults() override;
 
+  std::string TagNumber() const override { return txtTagNo.Text(); }
+  void AddTo(int row) override { AddOrifice(row); }
+  void GetFrom(int row) override { GetOrifice(row); }
+  /// Writes entries and results into a row of the tag store.
+  void AddOrifice(int row);
+  /// Fills the sheet from a row of its kind: selections first, then texts, then results.
+  void GetOrifice(int row);
+
  protected:
   std::vector<std::string> PropertyOrder() const override;
 
@@ -110,8 +119,20 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void ShowResults(const flow::SizingResult& result);
   void ShowCalculatedEntry(const flow::SizingResult& result);
   void ShowTaps(const flow::SizingResult& result);
+  /// Marks a loss that the element's equations cannot tell.
+  void CautionLoss();
+
+  /// Columns of the record that hold a text as it stands in a control.
+  std::vector<std::pair<int, forms::Control*>> EntryColumns();
+  std::vector<std::pair<int, Label*>> ResultColumns();
+  void GetSelections(const shell::TagRow& record);
+  void GetEntries(const shell::TagRow& record);
+  void GetResults(const shell::TagRow& record);
+  void ShowUpstreamTapOf(const shell::TagRow& record);
 
   flow::Context context_;
+  /// Normal density at the last reading, kg/m3; the operating one stands in the context.
+  Real normalDensity_;
   /// Which edition of the standard the printed sheet cites: "1" is that of 2007.
   std::string equationEdition_ = "1";
 };

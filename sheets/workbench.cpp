@@ -5,11 +5,16 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_tag_list.h"
+#include "sheets/small_dialogues.h"
+#include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 
 namespace sheets {
 
-Workbench::Workbench(forms::Presenter& presenter, std::string installDir) : workspace_(presenter) {
+Workbench::Workbench(forms::Presenter& presenter, std::string installDir,
+                     shell::SettingsStore& settings, shell::Platform* platform)
+    : workspace_(presenter, settings, platform) {
   workspace_.installDir = std::move(installDir);
   ProvideForms();
   shell::BuildMainMenu(workspace_);
@@ -23,10 +28,19 @@ void Workbench::ProvideForms() {
   provide("frmOrifice", std::type_identity<frmOrifice>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
+  provide(frmTagList::kName, std::type_identity<frmTagList>());
+  provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
+  provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
+  provide(frmAbout::kName, std::type_identity<frmAbout>());
 }
 
 void Workbench::Start() {
   workspace_.tables = shell::LoadTables(workspace_.installDir);
+  TellUnreadFiles();
+  shell::RestoreLastRun(workspace_);
+}
+
+void Workbench::TellUnreadFiles() {
   if (workspace_.tables.unread.empty()) return;
   std::string names;
   for (const std::string& name : workspace_.tables.unread) names += "\n　" + name;

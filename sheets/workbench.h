@@ -9,12 +9,13 @@ namespace sheets {
 /// The whole program below its windows: workspace, forms and commands of one run.
 class Workbench {
  public:
-  /// presenter: whoever shows it; it must outlive the workbench. installDir: folder of the data
-  /// files.
-  Workbench(forms::Presenter& presenter, std::string installDir);
+  /// presenter: whoever shows it. installDir: folder of the data files. settings: where the last
+  /// run left its state. platform: the desktop's services, or null. All must outlive the workbench.
+  Workbench(forms::Presenter& presenter, std::string installDir, shell::SettingsStore& settings,
+            shell::Platform* platform = nullptr);
 
-  /// Reads the data files and readies the main window. Files that cannot be read are named in one
-  /// message; the run goes on without them.
+  /// Reads the data files, readies the main window and brings the run to where the last one ended.
+  /// Files that cannot be read are named in one message; the run goes on without them.
   void Start();
 
   shell::Workspace& Space() { return workspace_; }
@@ -23,6 +24,7 @@ class Workbench {
 
  private:
   void ProvideForms();
+  void TellUnreadFiles();
 
   shell::Workspace workspace_;
 };

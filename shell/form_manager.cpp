@@ -35,6 +35,8 @@ forms::Form& FormManager::Show(const std::string& name) {
     presenter_.ShowForm(*form);
     form->RunEvent(nullptr, [&] { form->Activate(); });
   } else {
+    // One that is in front already is shown anew all the same: what it lists may have changed.
+    if (form == Active()) form->RunEvent(nullptr, [&] { form->Activate(); });
     MakeActive(*form);
     presenter_.RaiseForm(*form);
   }

@@ -3,7 +3,11 @@
 #include <functional>
 #include <string>
 
+#include "forms/controls.h"
+#include "shell/instrument_file.h"
+#include "shell/lifecycle.h"
 #include "shell/sheet_registry.h"
+#include "shell/tag_commands.h"
 #include "shell/workspace.h"
 
 namespace shell {
@@ -62,6 +66,13 @@ class MenuBuilder {
     return [&workspace, form] { workspace.forms.Show(form); };
   }
 
+  /// A command that works on the workspace.
+  template <class WorkspaceCommand>
+  std::function<void()> Calls(WorkspaceCommand command) const {
+    Workspace& workspace = workspace_;
+    return [&workspace, command] { command(workspace); };
+  }
+
   /// Sets the window mode and its two check marks.
   std::function<void()> WindowMode(bool multi) const {
     Workspace& workspace = workspace_;
@@ -79,12 +90,21 @@ class MenuBuilder {
   std::string parent_;
 };
 
+/// Takes back the last edit of the field with the focus.
+void UndoEntry(Workspace& workspace) {
+  const forms::Form* const sheet = workspace.forms.ActiveSheet();
+  if (sheet == nullptr) return;
+  if (auto* const box = dynamic_cast<forms::TextBox*>(sheet->Focused())) box->Undo();
+}
+
 void AddFileMenu(MenuBuilder& menu) {
   menu.Submenu("", "mnuFile", "ファイル(&F)");
-  menu.Add("mnuNewFileOpen", "新規ファイル作成(&N)", {}, "Ctrl+N", "new");
-  menu.Add("mnuOpen", "開く(&O)", {}, "Ctrl+O", "open");
-  menu.Add("mnuUpdate", "上書き保存(&S)", {}, "Ctrl+S", "save");
-  menu.Add("mnuSave", "名前を付けて保存(&S)");
+  menu.Add("mnuNewFileOpen", "新規ファイル作成(&N)", menu.Calls(NewFile), "Ctrl+N", "new");
+  menu.Add("mnuOpen", "開く(&O)", menu.Calls(OpenFile), "Ctrl+O", "open");
+  menu.Submenu("mnuFile", "mnuRecent", "最近使ったファイル(&R)");
+  menu.In("mnuFile");
+  menu.Add("mnuUpdate", "上書き保存(&S)", menu.Calls(SaveFile), "Ctrl+S", "save");
+  menu.Add("mnuSave", "名前を付けて保存(&S)", menu.Calls(SaveFileAs));
   menu.Separator();
   menu.Add("mnuExcel", "EXCELデータ生成(&E)", {}, {}, "excel");
   menu.Separator();
@@ -95,7 +115,7 @@ void AddFileMenu(MenuBuilder& menu) {
 
 void AddEditMenu(MenuBuilder& menu) {
   menu.Submenu("", "mnuEdit", "編集(&E)");
-  menu.Add("mnuUndo", "入力を直前値に戻す(&U)", {}, {}, "undo");
+  menu.Add("mnuUndo", "入力を直前値に戻す(&U)", menu.Calls(UndoEntry), {}, "undo");
   menu.Separator();
   menu.AddSheet("mnuCVcatalog", "調節弁カタログデータベース", "EditCV", "catalogue");
   menu.AddSheet("mnuEditPropData", "物性推算用データベース", "EditProp", "fluid-data");
@@ -108,10 +128,10 @@ void AddEditMenu(MenuBuilder& menu) {
 void AddDisplayMenu(MenuBuilder& menu) {
   menu.Submenu("", "mnuDisplay", "表示(&V)");
   menu.Submenu("mnuDisplay", "mnuDataList", "データリスト");
-  menu.Add("mnuTagList", "Ｔａｇ　Ｌｉｓｔ", {}, {}, "taglist");
+  menu.Add("mnuTagList", "Ｔａｇ　Ｌｉｓｔ", menu.Calls(RefreshTagList), {}, "taglist");
   menu.Add("mnuDuct", "ケーブルダクトリスト");
   menu.Submenu("mnuDisplay", "mnuDiaplay", "表示設定(&V)");
-  menu.Add("mnuInitialize", "表示サイズ・位置初期化(&I)");
+  menu.Add("mnuInitialize", "表示サイズ・位置初期化(&I)", menu.Calls(InitialisePlacement));
   menu.Add("mnuSingle", "シングルウィンドウ(&S)", menu.WindowMode(false));
   menu.Add("mnuMulti", "マルチウインドウ(&M)", menu.WindowMode(true));
   menu.In("mnuDisplay");
@@ -141,14 +161,14 @@ void AddProgramMenu(MenuBuilder& menu) {
 }
 
 void AddButtons(MenuBuilder& menu) {
-  menu.Button(1, "新規データシート作成", "new");
-  menu.Button(2, "既存データファイルを開く", "open");
-  menu.Button(3, "上書き保存", "save");
+  menu.Button(1, "新規データシート作成", "new", menu.Calls(NewFile));
+  menu.Button(2, "既存データファイルを開く", "open", menu.Calls(OpenFile));
+  menu.Button(3, "上書き保存", "save", menu.Calls(SaveFile));
   menu.Button(4, "印刷", "print");
-  menu.Button(5, "データリスト", "taglist");
+  menu.Button(5, "データリスト", "taglist", menu.Calls(RefreshTagList));
   menu.Button(6, "データシートをEXCELに変換", "excel");
   menu.Button(7, "プレビュー", "preview");
-  menu.Button(8, "修正前の値に戻す", "undo");
+  menu.Button(8, "修正前の値に戻す", "undo", menu.Calls(UndoEntry));
   menu.SeparatorButton(9);
   menu.SeparatorButton(10);
   menu.Button(11, "差圧式流量計", "dp-flow", menu.Opener("⊿P Flow"));
@@ -167,6 +187,12 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(24, "調節弁カタログデータベース", "catalogue", menu.Opener("EditCV"));
   menu.Button(25, "物性推算用データベース", "fluid-data", menu.Opener("EditProp"));
   menu.Button(26, "材料データベース", "material", menu.Opener("Material"));
+  menu.SeparatorButton(27);
+  menu.SeparatorButton(28);
+  for (int i = 0; i < 3; ++i) {
+    menu.Button(29 + i, "", "user-program",
+                menu.Calls([i](Workspace& workspace) { StartUserProgram(workspace, i); }));
+  }
 }
 
 }  // namespace
@@ -174,10 +200,7 @@ void AddButtons(MenuBuilder& menu) {
 void BuildMainMenu(Workspace& workspace) {
   MenuBuilder menu(workspace);
   AddFileMenu(menu);
-  menu.Add("mnuExit", "終了(&X)", [&workspace] {
-    workspace.forms.UnloadAll();
-    if (workspace.onExit) workspace.onExit();
-  });
+  menu.Add("mnuExit", "終了(&X)", menu.Calls(WorkspaceEnd));
   AddEditMenu(menu);
   AddDisplayMenu(menu);
   menu.Add("mnuToolBar", "ツールバーの表示(&T)", [&workspace] {
@@ -188,12 +211,16 @@ void BuildMainMenu(Workspace& workspace) {
   AddProgramMenu(menu);
   menu.Submenu("", "mnuWindow", "ウィンドウ(&W)");
   menu.Submenu("", "mnuHelp", "ヘルプ(&H)");
-  menu.Add("mnuZEPHAHelp", "ヘルプ(&H)", {}, "F1");
+  menu.Add("mnuZEPHAHelp", "ヘルプ(&H)", menu.Calls(ShowHelp), "F1");
   menu.Submenu("mnuHelp", "mnuVersion", "バージョン情報");
   menu.AddForm("mnuSystemVersion", "ｼｽﾃﾑのバージョン情報", "frmAbout");
-  menu.Add("mnuDataVersion", "ZEPHA Data File のバージョン");
+  menu.Add("mnuDataVersion", "ZEPHA Data File のバージョン",
+           menu.Calls([](Workspace& space) { ShowDataVersion(space.tags, space.Shown()); }));
   AddButtons(menu);
-  workspace.window.SetTitle("ZEPHA");
+  workspace.window.onFileDropped = [&workspace](const std::string& path) {
+    OpenFileNamed(workspace, path);
+  };
+  ShowTitle(workspace);
   workspace.window.SetChecked("mnuToolBar", true);
   workspace.window.SetChecked("mnuSingle", true);
 }

@@ -30,6 +30,10 @@ void Sheet::Unload() {
   EnableOpening(workspace_, entry_);
 }
 
+void Sheet::AddTo(int) {}
+
+void Sheet::GetFrom(int) {}
+
 bool Sheet::HasData(const std::vector<std::string>& fileNames) const {
   std::string missing;
   for (const std::string& name : fileNames) {

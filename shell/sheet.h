@@ -19,6 +19,13 @@ class Sheet : public forms::Form {
   void Activate() override;
   void Unload() override;
 
+  /// Text of the sheet's tag number field, "" for a sheet without one.
+  virtual std::string TagNumber() const { return {}; }
+  /// Writes the sheet into a row of the tag store.
+  virtual void AddTo(int row);
+  /// Fills the sheet from a row of the tag store. Only for rows of this sheet's kind.
+  virtual void GetFrom(int row);
+
  protected:
   Workspace& Space() const { return workspace_; }
   forms::Presenter& User() const { return workspace_.Shown(); }

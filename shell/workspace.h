@@ -7,7 +7,11 @@
 #include "data/process_state.h"
 #include "shell/form_manager.h"
 #include "shell/main_window.h"
+#include "shell/platform.h"
+#include "shell/settings.h"
 #include "shell/tables.h"
+#include "shell/tag_store.h"
+#include "shell/user_programs.h"
 
 namespace shell {
 
@@ -17,7 +21,9 @@ inline constexpr const char* kExtrapolated = "（外挿計算）";
 /// The state that all sheets of one run share. It is created once by the program, outlives all
 /// forms, and is handed to them by reference; everything runs on one thread.
 struct Workspace {
-  explicit Workspace(forms::Presenter& presenter) : forms(presenter) {
+  /// All three must outlive the workspace; platform may be null where there is no desktop.
+  Workspace(forms::Presenter& presenter, SettingsStore& settingsStore, Platform* desktopPlatform)
+      : forms(presenter), settings(settingsStore), platform(desktopPlatform) {
     window.onFault = [&presenter](const common::RuntimeFault& fault) {
       presenter.Show(fault.Text(), {}, common::Icon::kWarning);
     };
@@ -27,6 +33,7 @@ struct Workspace {
   std::string installDir;
   Tables tables;
   data::ProcessState process;
+  TagStore tags;
 
   /// Kind of the sheet on top ("⊿P Flow", "CV" ...), "" when there is none.
   std::string activeSheetKind;
@@ -36,6 +43,11 @@ struct Workspace {
   bool multiWindowMode = false;
   /// Element kind with which the differential-pressure sheet opens next.
   int elementKind = 0;
+  /// Printed at the foot of every report.
+  std::string issuerName;
+  UserPrograms userPrograms;
+  /// The cable duct file that was open when the last run ended.
+  std::string ductFileName;
   /// The property that the fluid pick list shall fill, in the words of the sheets.
   std::string propertyWord;
 
@@ -48,6 +60,8 @@ struct Workspace {
 
   MainWindow window;
   FormManager forms;
+  SettingsStore& settings;
+  Platform* platform;
   /// Ends the run, once all forms are unloaded.
   std::function<void()> onExit;
 

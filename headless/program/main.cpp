@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -38,6 +39,12 @@ std::string ProgramFolder() {
   return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
+/// Without a file nothing is read or kept.
+std::unique_ptr<shell::SettingsStore> Settings(const std::string& path) {
+  if (path.empty()) return std::make_unique<shell::MemorySettings>();
+  return std::make_unique<shell::FileSettings>(path);
+}
+
 void Tell(const headless::Json& answer) {
   // Bytes that are no UTF-8 are told as U+FFFD instead of ending the run.
   std::cout << answer.dump(-1, ' ', false, headless::Json::error_handler_t::replace) << std::endl;
@@ -69,7 +76,9 @@ int main(int count, char** values) {
       return 2;
     }
   }
-  headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir);
+  const std::unique_ptr<shell::SettingsStore> settings = Settings(arguments->settings);
+  headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir,
+                          *settings);
   Tell(driver.Start());
   RunScript(driver, arguments->script.empty() ? std::cin : script);
   return driver.Misunderstood() ? 1 : 0;

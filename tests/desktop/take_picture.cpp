@@ -69,7 +69,8 @@ int main(int count, char** arguments) {
   }
   desktop::PrepareApplication(application);
   desktop::QtPresenter presenter;
-  sheets::Workbench workbench(presenter, ZEPHA_BUILD_DIR);
+  shell::MemorySettings settings;
+  sheets::Workbench workbench(presenter, ZEPHA_BUILD_DIR, settings);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   window.show();

@@ -15,7 +15,8 @@ class DriverTest : public testing::Test {
     return answer;
   }
 
-  Driver driver{ZEPHA_BUILD_DIR};
+  shell::MemorySettings settings;
+  Driver driver{ZEPHA_BUILD_DIR, settings};
 };
 
 TEST_F(DriverTest, SizesAnOrificeFromAScript) {

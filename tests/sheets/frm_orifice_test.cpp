@@ -468,7 +468,8 @@ TEST_F(OrificeTest, MenuChoosesTheElementAndIsDisabledWhileOpen) {
 
 TEST(OrificeWithoutData, SaysSoAndStaysUsable) {
   tests::RecordingPresenter presenter;
-  Workbench bench(presenter, "/nonexistent/folder");
+  shell::MemorySettings settings;
+  Workbench bench(presenter, "/nonexistent/folder", settings);
   bench.Start();
   ASSERT_EQ(presenter.messages.shown.size(), 1U);
   bench.Window().Run("mnuOrifice");

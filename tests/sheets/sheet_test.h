@@ -47,7 +47,8 @@ class SheetTest : public testing::Test {
   void Answer(bool yes) { presenter.messages.Queue(yes); }
 
   tests::RecordingPresenter presenter;
-  Workbench bench{presenter, ZEPHA_BUILD_DIR};
+  shell::MemorySettings settings;
+  Workbench bench{presenter, ZEPHA_BUILD_DIR, settings};
 };
 
 using Texts = std::vector<std::string>;

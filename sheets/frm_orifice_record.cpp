@@ -1,0 +1,176 @@
+// The tag record of the differential-pressure sheet.
+
+#include "common/number.h"
+#include "sheets/frm_orifice.h"
+
+namespace sheets {
+
+namespace {
+
+using common::NumberText;
+using common::Val;
+
+/// Columns of the record. What is not named here is a text in the order of the tables below.
+enum Column {
+  kElementType = 2,
+  kFluid = 3,
+  kFlowUnit = 5,
+  kPressureUnit = 8,
+  kTemperatureUnit = 10,
+  kDensityUnit = 12,
+  kViscosityUnit = 14,
+  kWetBase = 16,
+  kSaturationUnit = 18,
+  kPipeBore = 26,
+  kDifferentialUnit = 29,
+  kUnused1 = 31,
+  kDownstreamTap = 39,
+  kOperatingDensity = 43,
+  kNormalDensity = 44,
+  kEquationEdition = 45,
+  kUnused2 = 46,
+};
+
+constexpr const char* kNoTap = "       ";
+
+/// A flag of an old file may also be a number.
+bool IsSet(const std::string& text) { return text == "True" || Val(text) != 0; }
+
+void Select(ComboBox& box, const std::string& index) { box.SetIndex(common::IntIndex(Val(index))); }
+
+}  // namespace
+
+void frmOrifice::AddOrifice(int row) {
+  shell::TagStore& tags = Space().tags;
+  const auto put = [&](int column, std::string text) {
+    tags.SetText(row, column, std::move(text));
+  };
+  const auto putIndex = [&](int column, const ComboBox& box) {
+    put(column, std::to_string(box.Index()));
+  };
+  for (const auto& [column, box] : EntryColumns()) put(column, box->Text());
+  for (const auto& [column, label] : ResultColumns()) put(column, label->Text());
+  putIndex(kElementType, cbo絞り機構種類);
+  putIndex(kFluid, cbo流体);
+  putIndex(kFlowUnit, FlowUnitBox());
+  putIndex(kPressureUnit, cbo圧力単位);
+  putIndex(kTemperatureUnit, cbo温度単位);
+  putIndex(kDensityUnit, DensityUnitBox());
+  putIndex(kViscosityUnit, cbo粘性係数単位);
+  put(kWetBase, base.optWetBase.Checked() ? "True" : "False");
+  putIndex(kSaturationUnit, humidity.cbo飽和水蒸気圧単位);
+  putIndex(kDifferentialUnit, cbo設計差圧単位);
+  put(kUnused1, "");
+  put(kOperatingDensity, NumberText(context_.rho));
+  put(kNormalDensity, NumberText(normalDensity_));
+  put(kEquationEdition, equationEdition_);
+  put(kUnused2, "");
+  put(shell::kKindColumn, Space().activeSheetKind);
+  tags.tagModified = true;
+}
+
+std::vector<std::pair<int, forms::Control*>> frmOrifice::EntryColumns() {
+  return {{0, &txtTagNo},
+          {1, &txt用途},
+          {4, &txt目盛流量},
+          {6, &txt常用流量},
+          {7, &txt圧力},
+          {9, &txt温度},
+          {11, &txt密度},
+          {13, &txt粘性係数},
+          {15, &humidity.txt相対湿度},
+          {17, &humidity.txt飽和水蒸気圧},
+          {19, &txt偏差係数},
+          {20, &txt比熱比},
+          {21, &cbo絞り部材質},
+          {22, &txt絞り部膨張率},
+          {23, &cbo配管呼称径},
+          {24, &cbo配管種類},
+          {25, &cboSchedule},
+          {kPipeBore, &txt配管内径},
+          {27, &txt配管線膨張率},
+          {28, &txt設計差圧},
+          {30, &txt絞り径}};
+}
+
+std::vector<std::pair<int, Label*>> frmOrifice::ResultColumns() {
+  return {{32, &lblMaxReynolds},   {33, &lblNorReynolds},
+          {34, &lbl流出係数R},     {35, &lbl流量係数R},
+          {36, &lbl膨張補正係数R}, {37, &lbl表示β},
+          {38, &lbl四分円半径R},   {kDownstreamTap, &lbl下流Tap位置},
+          {40, &lbl永久圧損R},     {41, &lbl使用下限},
+          {42, &lbl使用上限}};
+}
+
+void frmOrifice::GetOrifice(int row) {
+  const shell::TagRow record = Space().tags.Row(row);
+  if (record[shell::kKindColumn] != kKind) return;
+  ClearResults();
+  context_.extrapolationMark.clear();
+  GetSelections(record);
+  GetEntries(record);
+  GetResults(record);
+  StoreEntries();
+}
+
+void frmOrifice::GetSelections(const shell::TagRow& record) {
+  Select(cbo絞り機構種類, record[kElementType]);
+  Select(cbo流体, record[kFluid]);
+  Select(FlowUnitBox(), record[kFlowUnit]);
+  Select(cbo圧力単位, record[kPressureUnit]);
+  Select(cbo温度単位, record[kTemperatureUnit]);
+  Select(DensityUnitBox(), record[kDensityUnit]);
+  Select(cbo粘性係数単位, record[kViscosityUnit]);
+  Select(humidity.cbo飽和水蒸気圧単位, record[kSaturationUnit]);
+  Select(cbo設計差圧単位, record[kDifferentialUnit]);
+  (IsSet(record[kWetBase]) ? base.optWetBase : base.optDryBase).SetChecked(true);
+}
+
+/// Material and pipe stand as texts, and finding them must not look anything up: what was stored
+/// holds. The humidity comes before the saturation pressure, whose field it switches on.
+void frmOrifice::GetEntries(const shell::TagRow& record) {
+  for (const auto& [column, control] : EntryColumns()) {
+    const std::string& text = record[static_cast<std::size_t>(column)];
+    if (dynamic_cast<ComboBox*>(control) != nullptr) {
+      const Quiet quiet(*this);
+      control->SetText(text);
+    } else {
+      control->SetText(text);
+    }
+  }
+}
+
+void frmOrifice::GetResults(const shell::TagRow& record) {
+  const Quiet quiet(*this);
+  for (const auto& [column, label] : ResultColumns()) {
+    label->SetText(record[static_cast<std::size_t>(column)]);
+  }
+  lbl絞り径結果R.SetText(txt絞り径.Text());
+  lbl差圧結果R.SetText(txt設計差圧.Text());
+  ShowUpstreamTapOf(record);
+  context_.rho = Val(record[kOperatingDensity]);
+  normalDensity_ = Val(record[kNormalDensity]);
+  const bool calculated = !lblMaxReynolds.Text().empty();
+  Space().calcDone = calculated;
+  if (calculated) CautionLoss();
+}
+
+/// The record has no upstream tap; the element tells where it is.
+void frmOrifice::ShowUpstreamTapOf(const shell::TagRow& record) {
+  switch (cbo絞り機構種類.Index()) {
+    case flow::kFlangeTapOrifice:
+      lbl上流Tap位置.SetText("25.4");
+      break;
+    case flow::kDAndHalfDTapOrifice:
+    case flow::kVenaContractaTapOrifice:
+      lbl上流Tap位置.SetText(record[kPipeBore]);
+      break;
+    case flow::kCornerTapOrifice:
+      lbl上流Tap位置.SetText("0");
+      break;
+    default:
+      lbl上流Tap位置.SetText(kNoTap);
+  }
+}
+
+}  // namespace sheets

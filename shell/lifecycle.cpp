@@ -1,0 +1,158 @@
+#include "shell/lifecycle.h"
+
+#include <filesystem>
+#include <sstream>
+
+#include "common/file.h"
+#include "common/number.h"
+#include "shell/sheet_registry.h"
+#include "shell/tag_commands.h"
+#include "shell/workspace.h"
+
+namespace shell {
+
+namespace {
+
+constexpr const char* kUser = "User";
+constexpr const char* kScreen = "ExeScrn";
+constexpr int kFirstUserButton = 29;
+
+/// A stored number, or the default when it is missing or damaged.
+int NumberSetting(const Workspace& workspace, const char* key, int byDefault) {
+  const std::string text = workspace.settings.Get(kScreen, key);
+  if (text.empty()) return byDefault;
+  try {
+    return common::IntIndex(common::Val(text));
+  } catch (const common::RuntimeFault&) {
+    return byDefault;
+  }
+}
+
+/// Whether the window has a stored place is decided by its top alone.
+void RestorePlacement(Workspace& workspace) {
+  const WindowPlacement first;
+  WindowPlacement placement;
+  if (!workspace.settings.Get(kScreen, "WinTop").empty()) {
+    placement.top = NumberSetting(workspace, "WinTop", first.top);
+    placement.left = NumberSetting(workspace, "WinLeft", first.left);
+    placement.width = NumberSetting(workspace, "WinWidth", first.width);
+    placement.height = NumberSetting(workspace, "WinHeight", first.height);
+  }
+  placement.state = NumberSetting(workspace, "WinState", WindowPlacement::kNormal);
+  workspace.window.Place(placement);
+}
+
+/// Runs one step of the start; its failure must not keep the others from running.
+template <class Step>
+void PassOver(Step step) {
+  try {
+    step();
+  } catch (const common::RuntimeFault&) {
+    // The step's object is damaged or gone: the run starts without it.
+  }
+}
+
+void RestoreFile(Workspace& workspace) {
+  const std::string path = workspace.settings.Get(kScreen, "zephaFile");
+  workspace.tags.lastTagIndex = RowNumberSetting(workspace.settings.Get(kScreen, "DataNo"));
+  if (path.empty()) return;
+  // The list is loaded while the store is empty; otherwise it would forget the last tag.
+  workspace.forms.Show(kTagListForm);
+  OpenFileNamed(workspace, path);
+}
+
+void RestoreSheet(Workspace& workspace) {
+  workspace.lastFormName = workspace.settings.Get(kScreen, "ZephaForm");
+  for (const SheetEntry& sheet : SheetRegistry()) {
+    if (sheet.form == workspace.lastFormName) OpenSheet(workspace, sheet.kind);
+  }
+}
+
+void RestoreTag(Workspace& workspace) {
+  TagStore& tags = workspace.tags;
+  const int row = tags.lastTagIndex;
+  if (row < 1 || row > tags.TagCount()) return;
+  if (tags.Text(row, kKindColumn) != workspace.activeSheetKind) return;
+  tags.currentTag = row;
+  RecallTag(workspace, row);
+}
+
+std::vector<std::string> WordsOf(const std::string& command) {
+  std::istringstream stream(command);
+  std::vector<std::string> words;
+  for (std::string word; stream >> word;) words.push_back(word);
+  return words;
+}
+
+}  // namespace
+
+void RestoreLastRun(Workspace& workspace) {
+  if (workspace.settings.Get(kUser, "InstDir").empty()) {
+    std::error_code error;
+    workspace.settings.Set(kUser, "InstDir", std::filesystem::current_path(error).string());
+  }
+  workspace.issuerName = workspace.settings.Get(kUser, "Company");
+  RestorePlacement(workspace);
+  workspace.userPrograms = ReadUserPrograms(workspace.installDir);
+  ShowUserPrograms(workspace);
+  ShowRecentFiles(workspace);
+  workspace.ductFileName = workspace.settings.Get(kScreen, "DuctFile");
+  PassOver([&] { RestoreFile(workspace); });
+  PassOver([&] { RestoreSheet(workspace); });
+  PassOver([&] { RestoreTag(workspace); });
+}
+
+void WorkspaceEnd(Workspace& workspace) {
+  const auto keep = [&workspace](const char* key, const std::string& value) {
+    workspace.settings.Set(kScreen, key, value);
+  };
+  const WindowPlacement& placement = workspace.window.Placement();
+  keep("DuctFile", workspace.ductFileName);
+  keep("ZephaFile", workspace.tags.zephaFileName);
+  keep("DataNo", std::to_string(workspace.tags.lastTagIndex));
+  keep("ZephaForm", workspace.lastFormName);
+  keep("WinState", std::to_string(placement.state));
+  keep("WinWidth", std::to_string(placement.width));
+  keep("WinHeight", std::to_string(placement.height));
+  keep("WinTop", std::to_string(placement.top));
+  keep("WinLeft", std::to_string(placement.left));
+  workspace.forms.UnloadAll();
+  if (workspace.onExit) workspace.onExit();
+}
+
+void InitialisePlacement(Workspace& workspace) {
+  workspace.window.Place(WindowPlacement());
+  CloseOtherForms(workspace);
+}
+
+void ShowUserPrograms(Workspace& workspace) {
+  int button = kFirstUserButton;
+  for (const UserProgram& program : workspace.userPrograms) {
+    workspace.window.SetButtonToolTip(button++, program.caption);
+  }
+}
+
+/// The whole command may be the path of a program, blanks included; otherwise its first word is the
+/// program and the others are its arguments.
+void StartUserProgram(Workspace& workspace, int index) {
+  const std::string& command = workspace.userPrograms.at(static_cast<std::size_t>(index)).command;
+  if (command.empty()) return;
+  std::error_code error;
+  std::vector<std::string> words = {command};
+  if (!std::filesystem::exists(command, error)) words = WordsOf(command);
+  const std::vector<std::string> arguments(words.empty() ? words.end() : words.begin() + 1,
+                                           words.end());
+  if (!words.empty() && workspace.platform != nullptr &&
+      workspace.platform->StartProgram(words.front(), arguments)) {
+    return;
+  }
+  workspace.Shown().Show("プログラムを起動できません。\n" + command, {}, common::Icon::kWarning);
+}
+
+void ShowHelp(Workspace& workspace) {
+  const std::string path = common::JoinPath(workspace.installDir, "Zepha.chm");
+  if (workspace.platform != nullptr && workspace.platform->OpenWithDesktop(path)) return;
+  workspace.Shown().Show("ヘルプを開けません。\n" + path, {}, common::Icon::kWarning);
+}
+
+}  // namespace shell

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace shell {
+
+struct Workspace;
+
+/// Brings a run to where the last one ended: issuer, window, user programs, instrument file, sheet
+/// and tag. The tables have been read and the forms are known. Each failure is passed over singly.
+void RestoreLastRun(Workspace& workspace);
+
+/// Keeps for the next run where this one ends, and unloads all forms. There is deliberately no
+/// question about unsaved work.
+void WorkspaceEnd(Workspace& workspace);
+
+/// The main window at its first place and size, with the sheet on top alone.
+void InitialisePlacement(Workspace& workspace);
+
+/// Starts the user's program behind a tool bar button (0 to 2); nothing happens without a command.
+void StartUserProgram(Workspace& workspace, int index);
+
+/// Shows the captions of the user programs on their buttons.
+void ShowUserPrograms(Workspace& workspace);
+
+/// Opens the help file.
+void ShowHelp(Workspace& workspace);
+
+}  // namespace shell

@@ -1,0 +1,161 @@
+#include "shell/tag_commands.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "common/text.h"
+#include "shell/instrument_file.h"
+#include "shell/sheet.h"
+#include "shell/sheet_registry.h"
+#include "shell/workspace.h"
+
+namespace shell {
+
+namespace {
+
+constexpr const char* kFilter = "ZEPHAデータ(*.zph)|*.zph";
+constexpr const char* kExtension = ".zph";
+constexpr const char* kRecentSection = "Recent";
+constexpr int kRecentFiles = 8;
+
+Sheet* SheetOnTop(Workspace& workspace) {
+  return dynamic_cast<Sheet*>(workspace.forms.ActiveSheet());
+}
+
+std::string RecentKey(int number) { return "File" + std::to_string(number); }
+
+std::vector<std::string> RecentFiles(const Workspace& workspace) {
+  std::vector<std::string> paths;
+  for (int i = 1; i <= kRecentFiles; ++i) {
+    std::string path = workspace.settings.Get(kRecentSection, RecentKey(i));
+    if (!path.empty()) paths.push_back(std::move(path));
+  }
+  return paths;
+}
+
+/// Puts a file in front of those opened last.
+void RememberFile(Workspace& workspace, const std::string& path) {
+  std::vector<std::string> paths = RecentFiles(workspace);
+  std::erase(paths, path);
+  paths.insert(paths.begin(), path);
+  paths.resize(kRecentFiles);
+  for (int i = 0; i < kRecentFiles; ++i) {
+    workspace.settings.Set(kRecentSection, RecentKey(i + 1), paths[static_cast<std::size_t>(i)]);
+  }
+  ShowRecentFiles(workspace);
+}
+
+/// A chosen name without an extension gets that of the file kind.
+std::string WithExtension(std::string path) {
+  if (common::FileNameOf(path).find('.') == std::string::npos) path += kExtension;
+  return path;
+}
+
+/// Opens the sheet of the current tag's kind, unless it is on top.
+void ShowTagSheet(Workspace& workspace) {
+  const SheetEntry* const sheet =
+      FindSheet(workspace.tags.Text(workspace.tags.currentTag, kKindColumn));
+  if (sheet != nullptr && sheet->holdsTags) OpenSheet(workspace, sheet->kind);
+}
+
+}  // namespace
+
+void RegisterTag(Workspace& workspace) {
+  Sheet* const sheet = SheetOnTop(workspace);
+  if (sheet == nullptr || !sheet->Entry().holdsTags) return;
+  workspace.tags.Register(sheet->TagNumber(), workspace.activeSheetKind, workspace.Shown(),
+                          [sheet](int row) { sheet->AddTo(row); });
+  ShowTitle(workspace);
+}
+
+void RecallTag(Workspace& workspace, int row) {
+  Sheet* const sheet = SheetOnTop(workspace);
+  if (sheet == nullptr) return;
+  if (workspace.tags.Text(row, kKindColumn) != workspace.activeSheetKind) return;
+  sheet->GetFrom(row);
+}
+
+void RecallSelectedTag(Workspace& workspace) {
+  const int row = workspace.tags.TakeSelectedForRecall();
+  if (row < 1) return;
+  if (workspace.tags.Text(row, kKindColumn) != workspace.activeSheetKind) ShowTagSheet(workspace);
+  RecallTag(workspace, row);
+}
+
+void RefreshTagList(Workspace& workspace) {
+  workspace.tags.Refresh();
+  workspace.forms.Show(kTagListForm);
+  ShowTitle(workspace);
+}
+
+void NewFile(Workspace& workspace) {
+  if (NewInstrumentFile(workspace.tags, workspace.Shown())) RefreshTagList(workspace);
+}
+
+void OpenFile(Workspace& workspace) {
+  const std::optional<std::string> path =
+      workspace.Shown().AskFile({false, "開く", kFilter, kExtension});
+  if (path) OpenFileNamed(workspace, *path);
+}
+
+void OpenFileNamed(Workspace& workspace, const std::string& path) {
+  const bool opened = OpenInstrumentFile(workspace.tags, path, workspace.tables.pipes,
+                                         workspace.tables.lists, workspace.Shown());
+  if (opened) RememberFile(workspace, path);
+  RefreshTagList(workspace);
+}
+
+void SaveFile(Workspace& workspace) {
+  if (workspace.tags.zephaFileName.empty()) {
+    SaveFileAs(workspace);
+    return;
+  }
+  SaveInstrumentFile(workspace.tags, workspace.Shown());
+  ShowTitle(workspace);
+}
+
+void SaveFileAs(Workspace& workspace) {
+  if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
+  const std::optional<std::string> path =
+      workspace.Shown().AskFile({true, "名前を付けて保存", kFilter, kExtension});
+  if (path) SaveFileNamed(workspace, *path);
+}
+
+void SaveFileNamed(Workspace& workspace, const std::string& path) {
+  if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
+  const std::string before = std::exchange(workspace.tags.zephaFileName, WithExtension(path));
+  try {
+    SaveInstrumentFile(workspace.tags, workspace.Shown());
+  } catch (const common::RuntimeFault&) {
+    // What could not be written is not the open file.
+    workspace.tags.zephaFileName = before;
+    throw;
+  }
+  RememberFile(workspace, workspace.tags.zephaFileName);
+  ShowTitle(workspace);
+}
+
+void ShowTitle(Workspace& workspace) {
+  const std::string name = common::FileNameOf(workspace.tags.zephaFileName);
+  const std::string mark = workspace.tags.tagModified ? " *" : "";
+  if (name.empty() && mark.empty()) {
+    workspace.window.SetTitle("ZEPHA");
+  } else {
+    workspace.window.SetTitle((name.empty() ? "New File" : name) + mark + " － ZEPHA");
+  }
+}
+
+void ShowRecentFiles(Workspace& workspace) {
+  std::vector<Command> commands;
+  for (const std::string& path : RecentFiles(workspace)) {
+    Command command;
+    command.name = "mnuRecent" + std::to_string(commands.size() + 1);
+    command.caption = path;
+    command.run = [&workspace, path] { OpenFileNamed(workspace, path); };
+    commands.push_back(std::move(command));
+  }
+  workspace.window.SetEntries("mnuRecent", std::move(commands));
+}
+
+}  // namespace shell

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+namespace shell {
+
+struct Workspace;
+
+inline constexpr const char* kTagListForm = "frmTagList";
+
+/// Registers the sheet on top under its tag number, with the question whether to replace.
+void RegisterTag(Workspace& workspace);
+
+/// Fills the sheet on top from a row, if the row is of its kind.
+void RecallTag(Workspace& workspace, int row);
+
+/// Recalls the tag of the selected line; the sheet of its kind is opened first.
+void RecallSelectedTag(Workspace& workspace);
+
+/// Writes the tag list anew and shows its window.
+void RefreshTagList(Workspace& workspace);
+
+/// Empties the tag list for a new file, after a question.
+void NewFile(Workspace& workspace);
+
+/// Asks for an instrument file and opens it.
+void OpenFile(Workspace& workspace);
+void OpenFileNamed(Workspace& workspace, const std::string& path);
+
+/// Saves under the present name, or asks for one.
+void SaveFile(Workspace& workspace);
+void SaveFileAs(Workspace& workspace);
+void SaveFileNamed(Workspace& workspace, const std::string& path);
+
+/// Shows the open file's name, and a mark while there are unsaved changes, as the window's title.
+void ShowTitle(Workspace& workspace);
+
+/// Lists the files opened last in their submenu.
+void ShowRecentFiles(Workspace& workspace);
+
+}  // namespace shell

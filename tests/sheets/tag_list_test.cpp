@@ -1,0 +1,340 @@
+#include <filesystem>
+
+#include "common/file.h"
+#include "shell/instrument_file.h"
+#include "shell/lifecycle.h"
+#include "shell/tag_commands.h"
+#include "tests/sheets/sheet_test.h"
+
+namespace sheets {
+namespace {
+
+class TagListTest : public SheetTest {
+ protected:
+  TagListTest() { bench.Window().Run("mnuOrifice"); }
+
+  shell::TagStore& Tags() { return bench.Space().tags; }
+
+  /// Water at a flow that is part of the tag number, so that tags can be told apart.
+  void EnterTag(const std::string& number, const std::string& flow) {
+    Activate("frmOrifice");
+    for (const auto& [name, text] : {std::pair("txtTagNo", number),
+                                     {"txt目盛流量", flow},
+                                     {"txt常用流量", flow},
+                                     {"txt圧力", "500"},
+                                     {"txt温度", "20"},
+                                     {"txt密度", "998.2"},
+                                     {"txt粘性係数", "1"},
+                                     {"txt配管内径", "102.3"},
+                                     {"txt設計差圧", "25"}}) {
+      Type(name, text);
+    }
+    Click("cmd計算");
+  }
+  void RegisterTags(std::initializer_list<const char*> numbers) {
+    int flow = 20000;
+    for (const char* number : numbers) {
+      EnterTag(number, std::to_string(flow += 1000));
+      shell::RegisterTag(bench.Space());
+    }
+  }
+  void Activate(const std::string& form) { bench.Forms().MakeActive(*bench.Forms().Find(form)); }
+  void OpenList() { bench.Window().Run("mnuTagList"); }
+  std::string NumberIn(const std::string& form, const std::string& name) {
+    return bench.Forms().Find(form)->Find(name)->Text();
+  }
+  std::vector<std::string> Numbers() {
+    std::vector<std::string> numbers;
+    for (int row = 1; row <= Tags().TagCount(); ++row) numbers.push_back(Tags().Text(row, 0));
+    return numbers;
+  }
+};
+
+TEST_F(TagListTest, RegistersTheSheetBehindTheSelectedLine) {
+  OpenList();
+  EXPECT_EQ(bench.Forms().Active()->Caption(), "Tag List ： New File");
+  RegisterTags({"FE-1", "FE-2"});
+  Activate("frmTagList");
+  Pick("lstTagNo", 0);
+  RegisterTags({"FE-3"});
+  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-3", "FE-2"}));
+  Activate("frmTagList");
+  EXPECT_EQ(Text("lstTagNo"), "FE-3                        ⊿P Flow");
+  EXPECT_EQ(Text("lblListNo"), "2");
+  EXPECT_EQ(bench.Window().Title(), "New File * － ZEPHA");
+}
+
+TEST_F(TagListTest, ListRecallsDeletesMovesAndSorts) {
+  RegisterTags({"FE-3", "FE-1", "FE-2"});
+  OpenList();
+  Pick("lstTagNo", 1);
+  DblClick("lstTagNo");
+  EXPECT_EQ(NumberIn("frmOrifice", "txt目盛流量"), "22000");
+  Pick("lstTagNo", 2);
+  Find<forms::ListBox>("lstTagNo").PressEnter();
+  EXPECT_EQ(NumberIn("frmOrifice", "txt目盛流量"), "23000");
+  EXPECT_NE(NumberIn("frmOrifice", "lbl表示β"), "");
+  Click("cmdUp");
+  EXPECT_EQ(Numbers(), Texts({"FE-3", "FE-2", "FE-1"}));
+  EXPECT_EQ(Text("lblListNo"), "2");
+  Click("cmdTagSort");
+  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-2", "FE-3"}));
+  Answer(false);
+  Click("cmdTagDelete");
+  Click("cmdTagDelete");
+  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-3"}));
+  EXPECT_EQ(TakeTexts().size(), 2U);
+}
+
+// Every column that the sheet writes comes back into its control, for each phase.
+TEST_F(TagListTest, RecallBringsTheSheetBackAsItWas) {
+  const struct {
+    const char* name;
+    std::vector<std::pair<const char*, int>> picks;
+    std::vector<std::pair<const char*, const char*>> texts;
+  } rows[] = {
+      {"liquid",
+       {{"cbo絞り機構種類", 2},
+        {"cbo流体", 0},
+        {"cbo流量単位L", 1},
+        {"cbo圧力単位", 1},
+        {"cbo密度単位L", 1},
+        {"cbo粘性係数単位", 2},
+        {"cbo設計差圧単位", 1}},
+       {{"txt目盛流量", "20"},
+        {"txt常用流量", "15"},
+        {"txt圧力", "0.5"},
+        {"txt温度", "20"},
+        {"txt密度", "0.9982"},
+        {"txt粘性係数", "1"},
+        {"txt設計差圧", "2500"}}},
+      {"humid gas",
+       {{"cbo絞り機構種類", 0},
+        {"cbo流体", 1},
+        {"cbo流量単位G", 5},
+        {"cbo圧力単位", 2},
+        {"cbo密度単位G", 0},
+        {"cbo飽和水蒸気圧単位", 2},
+        {"cbo設計差圧単位", 0}},
+       {{"txt目盛流量", "3000"},
+        {"txt常用流量", "2000"},
+        {"txt圧力", "5"},
+        {"txt温度", "40"},
+        {"txt密度", "1.293"},
+        {"txt粘性係数", "0.019"},
+        {"txt相対湿度", "60"},
+        {"txt飽和水蒸気圧", "0.075"},
+        {"txt偏差係数", "1"},
+        {"txt比熱比", "1.4"},
+        {"txt設計差圧", "10"}}},
+      {"steam, vena contracta",
+       {{"cbo絞り機構種類", 3}, {"cbo流体", 2}, {"cbo流量単位S", 1}, {"cbo圧力単位", 0}},
+       {{"txt目盛流量", "5"},
+        {"txt常用流量", "4"},
+        {"txt圧力", "900"},
+        {"txt温度", "220"},
+        {"txt密度", "4.6"},
+        {"txt粘性係数", "0.0165"},
+        {"txt比熱比", "1.3"},
+        {"txt設計差圧", "20"}}},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Activate("frmOrifice");
+    Click("cmdデータ消去");
+    for (const auto& [control, index] : row.picks) Pick(control, index);
+    if (std::string(row.name) == "humid gas") Type("txt相対湿度", "60"), Choose("optDryBase");
+    for (const auto& [control, text] : row.texts) Type(control, text);
+    Pick("cbo絞り部材質", 7);
+    Pick("cbo配管種類", 0);
+    Pick("cbo配管呼称径", 12);
+    Pick("cboSchedule", 7);
+    Type("txt用途", "試験");
+    Type("txtTagNo", row.name);
+    Click("cmd計算");
+    ASSERT_EQ(TakeTexts(), Texts());
+    ASSERT_NE(Text("lbl表示β"), "");
+    shell::RegisterTag(bench.Space());
+    const int stored = Tags().currentTag;
+    std::vector<std::pair<std::string, forms::Color>> before;
+    for (const forms::Control* control : bench.Forms().Active()->Controls()) {
+      before.emplace_back(control->Text(), control->ForeColor());
+    }
+    Click("cmdデータ消去");
+    Pick("cbo圧力単位", 6);
+    shell::RecallTag(bench.Space(), stored);
+    std::size_t i = 0;
+    for (const forms::Control* control : bench.Forms().Active()->Controls()) {
+      EXPECT_EQ(control->Text(), before[i].first) << control->Name();
+      EXPECT_EQ(control->ForeColor(), before[i].second) << control->Name();
+      ++i;
+    }
+    EXPECT_EQ(Tags().Text(stored, 50), "⊿P Flow");
+    EXPECT_EQ(Tags().Text(stored, 45), "1");
+    // A recalled tag calculates to the same result.
+    const std::string beta = Text("lbl表示β");
+    Click("cmd計算");
+    EXPECT_EQ(Text("lbl表示β"), beta);
+  }
+}
+
+TEST_F(TagListTest, RecallRefusesOtherKindsAndTellsDamage) {
+  RegisterTags({"FE-1", "FE-2"});
+  Tags().SetText(1, 50, "CV");
+  Tags().SetText(2, 8, "99");
+  shell::RecallTag(bench.Space(), 1);
+  EXPECT_EQ(Text("txtTagNo"), "FE-2");
+  OpenList();
+  Pick("lstTagNo", 1);
+  Click("cmdTagCall");
+  EXPECT_EQ(TakeTexts(), Texts({"インデックスが有効範囲にありません。"}));
+}
+
+TEST_F(TagListTest, SavesOpensAndForgetsNothing) {
+  const std::string path = testing::TempDir() + "保存 先.zph";
+  RegisterTags({"FE-1", "FE-2"});
+  shell::SaveFileNamed(bench.Space(), path);
+  EXPECT_EQ(bench.Window().Title(), "保存 先.zph － ZEPHA");
+  EXPECT_THROW(shell::SaveFileNamed(bench.Space(), "/nonexistent/x.zph"), common::RuntimeFault);
+  EXPECT_EQ(Tags().zephaFileName, path);
+  const std::string first = common::ReadFile(path);
+  bench.Window().Run("mnuNewFileOpen");
+  EXPECT_EQ(Tags().TagCount(), 0);
+  bench.Window().DropFile(path);
+  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-2"}));
+  EXPECT_EQ(bench.Forms().Active()->Caption(), "Tag List ： 保存 先");
+  bench.Window().Run("mnuUpdate");
+  EXPECT_EQ(common::ReadFile(path), first);
+  ASSERT_NE(bench.Window().Find("mnuRecent1"), nullptr);
+  EXPECT_EQ(bench.Window().Find("mnuRecent1")->caption, path);
+  bench.Window().Run("mnuDataVersion");
+  EXPECT_EQ(TakeTexts(), Texts({"表示している計装データ" + path + "は\n　ZEPHA version " +
+                                shell::kProgramVersion + "\nで作成されました。"}));
+  std::filesystem::remove(path);
+}
+
+TEST_F(TagListTest, SecondRunIsAsTheFirstWasLeft) {
+  const std::string path = testing::TempDir() + "second-run.zph";
+  RegisterTags({"FE-1", "FE-2", "FE-3"});
+  OpenList();
+  Pick("lstTagNo", 1);
+  Click("cmdTagCall");
+  shell::SaveFileNamed(bench.Space(), path);
+  shell::WindowPlacement placement;
+  placement.left = 3000;
+  placement.width = 15000;
+  bench.Window().Moved(placement);
+  shell::WorkspaceEnd(bench.Space());
+  EXPECT_EQ(bench.Forms().Active(), nullptr);
+
+  tests::RecordingPresenter again;
+  Workbench second(again, ZEPHA_BUILD_DIR, settings);
+  second.Start();
+  EXPECT_EQ(again.messages.Texts(), Texts());
+  EXPECT_EQ(second.Space().tags.TagCount(), 3);
+  EXPECT_EQ(second.Space().activeSheetKind, "⊿P Flow");
+  EXPECT_EQ(second.Forms().Find("frmOrifice")->Find("txtTagNo")->Text(), "FE-2");
+  EXPECT_NE(second.Forms().Find("frmOrifice")->Find("lbl表示β")->Text(), "");
+  EXPECT_EQ(second.Window().Placement().left, 3000);
+  EXPECT_EQ(second.Window().Placement().width, 15000);
+  EXPECT_FALSE(second.Space().tags.tagModified);
+
+  std::filesystem::remove(path);
+  Workbench third(again, ZEPHA_BUILD_DIR, settings);
+  third.Start();
+  EXPECT_EQ(again.messages.Texts(),
+            Texts({"ＺＥＰＨＡのデータファイル\n" + path + "\nが見つかりません。"}));
+  EXPECT_EQ(third.Space().activeSheetKind, "⊿P Flow");
+}
+
+// Whatever stands in the settings, the program starts.
+TEST(Start, BearsDamagedSettings) {
+  for (const char* number : {"", "abc", "99999", "-3", "1e400", "2"}) {
+    SCOPED_TRACE(number);
+    shell::MemorySettings settings;
+    for (const char* key : {"WinTop", "WinLeft", "WinWidth", "WinHeight", "WinState", "DataNo"}) {
+      settings.Set("ExeScrn", key, number);
+    }
+    settings.Set("ExeScrn", "ZephaForm", "frmNone");
+    tests::RecordingPresenter presenter;
+    Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
+    bench.Start();
+    EXPECT_EQ(presenter.messages.Texts(), Texts());
+    EXPECT_EQ(bench.Space().activeSheetKind, "");
+  }
+}
+
+TEST_F(SheetTest, SmallDialoguesKeepWhatTheyAreTold) {
+  bench.Window().Run("mnuCompany");
+  Type("txtCompany", "東西エンジニアリング株式会社　計装設計部第一課");
+  EXPECT_EQ(Text("txtCompany"), "東西エンジニアリング株式会社　計装設計部");
+  Click("cmdOK");
+  EXPECT_EQ(bench.Space().issuerName, "東西エンジニアリング株式会社　計装設計部");
+  EXPECT_EQ(settings.Get("user", "company"), bench.Space().issuerName);
+  bench.Window().Run("mnuSystemVersion");
+  EXPECT_EQ(Text("lblVersion"), "Ver.3.0.0");
+  Click("cmdSysInfo");
+  EXPECT_EQ(TakeTexts(), Texts({"現時点ではｼｽﾃﾑ情報を使用できません"}));
+  Click("cmdOK");
+  EXPECT_EQ(bench.Forms().Active(), nullptr);
+}
+
+TEST_F(SheetTest, UserProgramsAreStoredWithoutQuotesAndStarted) {
+  struct FakeDesktop : shell::Platform {
+    std::vector<std::string> started;
+    bool OpenWithDesktop(const std::string&) override { return false; }
+    bool StartProgram(const std::string& program,
+                      const std::vector<std::string>& arguments) override {
+      started = {program};
+      started.insert(started.end(), arguments.begin(), arguments.end());
+      return program != "missing";
+    }
+  } desktop;
+  const std::string folder = testing::TempDir() + "user-programs";
+  std::filesystem::create_directories(folder);
+  Workbench own(presenter, folder, settings, &desktop);
+  own.Start();
+  TakeTexts();
+  own.Window().Run("mnuUserProgram");
+  forms::Form& form = *own.Forms().Active();
+  const auto type = [&form](const char* name, const char* text) {
+    dynamic_cast<forms::TextBox&>(*form.Find(name)).Type(text);
+  };
+  type("txtUserProTitle(0)", "電卓");
+  type("txtUser(0)", "\"calculator --big\"");
+  type("txtUser(1)", "missing");
+  form.Find("cmd登録")->Click();
+  EXPECT_EQ(own.Space().userPrograms[0].command, "calculator --big");
+  EXPECT_EQ(own.Window().Button(29)->toolTip, "電卓");
+  own.Window().Press(29);
+  EXPECT_EQ(desktop.started, Texts({"calculator", "--big"}));
+  own.Window().Press(30);
+  EXPECT_EQ(TakeTexts(), Texts({"プログラムを起動できません。\nmissing"}));
+  own.Window().Press(31);
+  EXPECT_EQ(TakeTexts(), Texts());
+  std::filesystem::remove_all(folder);
+}
+
+// The sample plant recalculates to what it holds.
+TEST_F(SheetTest, SamplePlantStandsAsCalculated) {
+  shell::OpenFileNamed(bench.Space(), std::string(ZEPHA_SOURCE_DIR) + "/samples/plant.zph");
+  shell::TagStore& tags = bench.Space().tags;
+  ASSERT_GE(tags.TagCount(), 16);
+  for (int row = 1; row <= tags.TagCount(); ++row) {
+    SCOPED_TRACE(tags.Text(row, 0));
+    tags.SelectLine(row - 1);
+    shell::RecallSelectedTag(bench.Space());
+    forms::Form& sheet = *bench.Forms().ActiveSheet();
+    const std::string beta = sheet.Find("lbl表示β")->Text();
+    const bool boreKnown = tags.Text(row, 0) == "FE-1501";
+    dynamic_cast<forms::OptionButton&>(*sheet.Find(boreKnown ? "opt絞り径→差圧" : "opt差圧→絞り径"))
+        .Choose();
+    sheet.Find("cmd計算")->Click();
+    EXPECT_NE(beta, "");
+    EXPECT_EQ(sheet.Find("lbl表示β")->Text(), beta);
+    EXPECT_EQ(TakeTexts(), Texts());
+  }
+}
+
+}  // namespace
+}  // namespace sheets
