@@ -30,7 +30,7 @@ class Converter {
     std::string data(input);
     char* in = data.data();
     std::size_t inLeft = data.size();
-    char buffer[512];
+    char buffer[4096];
     iconv(handle_, nullptr, nullptr, nullptr, nullptr);
     while (inLeft > 0) {
       char* out = buffer;

@@ -212,7 +212,9 @@ void Driver::Type(const std::string& object, const std::string& text, Json&) {
     combo->SetText(text);
     return;
   }
-  FindOf<forms::TextBox>(object, "a text box").Type(text);
+  auto& box = FindOf<forms::TextBox>(object, "a text box");
+  box.Owner().SetFocus(box);
+  box.Type(text);
 }
 
 void Driver::Keys(const std::string& object, const std::string& text, Json& answer) {

@@ -13,12 +13,12 @@ frmTagList::frmTagList(shell::Workspace& workspace)
   cmdTagCall.SetToolTip("計算画面へのデータの呼び出し");
   cmd追加.onClick = [this] {
     shell::RegisterTag(workspace_);
-    ShowStore();
+    ShowEdited();
   };
   cmd追加.SetToolTip("Tag List へ追加");
   cmdTagDelete.onClick = [this] {
     workspace_.tags.Delete(workspace_.Shown());
-    ShowStore();
+    ShowEdited();
   };
   cmdTagDelete.SetToolTip("Tag List から削除");
   Edits(cmdUp, &shell::TagStore::MoveUp);
@@ -40,7 +40,7 @@ frmTagList::frmTagList(shell::Workspace& workspace)
 void frmTagList::Edits(forms::Button& button, void (shell::TagStore::*edit)()) {
   button.onClick = [this, edit] {
     (workspace_.tags.*edit)();
-    ShowStore();
+    ShowEdited();
   };
 }
 
@@ -60,8 +60,12 @@ void frmTagList::ShowStore() {
   if (lstTagNo.Items() != tags.Lines()) lstTagNo.SetItems(tags.Lines());
   lstTagNo.SetIndex(tags.Selection() < lstTagNo.Count() ? tags.Selection() : -1);
   SetCaption(tags.ListCaption());
-  ShowNumber();
   shell::ShowTitle(workspace_);
+}
+
+void frmTagList::ShowEdited() {
+  ShowStore();
+  ShowNumber();
 }
 
 void frmTagList::ShowNumber() { lblListNo.SetText(std::to_string(workspace_.tags.ListNumber())); }

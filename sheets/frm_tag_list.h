@@ -31,7 +31,9 @@ class frmTagList : public forms::Form {
  private:
   /// Lines, selection and caption as the store has them.
   void ShowStore();
+  /// The number of the selected line, which is shown after a click and after every edit.
   void ShowNumber();
+  void ShowEdited();
   /// A button that changes the store.
   void Edits(forms::Button& button, void (shell::TagStore::*edit)());
   void lstTagNo_Click();

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/text.h"
+#include "forms/control.h"
 #include "shell/instrument_file.h"
 #include "shell/sheet.h"
 #include "shell/sheet_registry.h"
@@ -59,6 +60,13 @@ void ShowTagSheet(Workspace& workspace) {
   if (sheet != nullptr && sheet->holdsTags) OpenSheet(workspace, sheet->kind);
 }
 
+/// The number label of the list, after a file was opened or given up.
+void ShowListNumber(Workspace& workspace, int number) {
+  const forms::Form* const list = workspace.forms.Find(kTagListForm);
+  forms::Control* const label = list == nullptr ? nullptr : list->Find("lblListNo");
+  if (label != nullptr) label->SetText(std::to_string(number));
+}
+
 }  // namespace
 
 void RegisterTag(Workspace& workspace) {
@@ -90,7 +98,9 @@ void RefreshTagList(Workspace& workspace) {
 }
 
 void NewFile(Workspace& workspace) {
-  if (NewInstrumentFile(workspace.tags, workspace.Shown())) RefreshTagList(workspace);
+  if (!NewInstrumentFile(workspace.tags, workspace.Shown())) return;
+  RefreshTagList(workspace);
+  ShowListNumber(workspace, 0);
 }
 
 void OpenFile(Workspace& workspace) {
@@ -104,6 +114,7 @@ void OpenFileNamed(Workspace& workspace, const std::string& path) {
                                          workspace.tables.lists, workspace.Shown());
   if (opened) RememberFile(workspace, path);
   RefreshTagList(workspace);
+  ShowListNumber(workspace, workspace.tags.currentTag);
 }
 
 void SaveFile(Workspace& workspace) {

@@ -56,9 +56,10 @@ TEST_F(TagListTest, RegistersTheSheetBehindTheSelectedLine) {
   RegisterTags({"FE-1", "FE-2"});
   Activate("frmTagList");
   Pick("lstTagNo", 0);
-  RegisterTags({"FE-3"});
-  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-3", "FE-2"}));
+  EnterTag("FE-3", "23000");
   Activate("frmTagList");
+  Click("cmd追加");
+  EXPECT_EQ(Numbers(), Texts({"FE-1", "FE-3", "FE-2"}));
   EXPECT_EQ(Text("lstTagNo"), "FE-3                        ⊿P Flow");
   EXPECT_EQ(Text("lblListNo"), "2");
   EXPECT_EQ(bench.Window().Title(), "New File * － ZEPHA");
