@@ -13,37 +13,45 @@ namespace desktop {
 
 namespace {
 
-/// The plain style of Qt with the window buttons of maximised sheets in our own lines, which stay
-/// visible on a dark menu bar.
+/// The plain style of Qt with our own lines for the window buttons of maximised sheets, which stay
+/// visible on a dark menu bar, and for the signs of message boxes.
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                      const QWidget* widget) const override {
-    const char* const name = OwnName(which);
-    return name != nullptr ? IconNamed(name) : QProxyStyle::standardIcon(which, option, widget);
+    const QIcon own = OwnIcon(which);
+    return own.isNull() ? QProxyStyle::standardIcon(which, option, widget) : own;
   }
 
   QPixmap standardPixmap(StandardPixmap which, const QStyleOption* option,
                          const QWidget* widget) const override {
     constexpr int kSize = 16;
-    const char* const name = OwnName(which);
-    return name != nullptr ? IconNamed(name).pixmap(kSize)
-                           : QProxyStyle::standardPixmap(which, option, widget);
+    const QIcon own = OwnIcon(which);
+    return own.isNull() ? QProxyStyle::standardPixmap(which, option, widget) : own.pixmap(kSize);
   }
 
  private:
-  static const char* OwnName(StandardPixmap which) {
+  static QIcon OwnIcon(StandardPixmap which) {
+    const Theme& theme = Theme::Current();
     switch (which) {
       case SP_TitleBarMinButton:
-        return "window-minimize";
+        return IconNamed("window-minimize");
       case SP_TitleBarNormalButton:
-        return "window-restore";
+        return IconNamed("window-restore");
       case SP_TitleBarCloseButton:
-        return "window-close";
+        return IconNamed("window-close");
+      case SP_MessageBoxInformation:
+        return IconNamed("message-information", theme.accent);
+      case SP_MessageBoxQuestion:
+        return IconNamed("message-question", theme.accent);
+      case SP_MessageBoxWarning:
+        return IconNamed("message-warning", theme.warning);
+      case SP_MessageBoxCritical:
+        return IconNamed("message-critical", theme.critical);
       default:
-        return nullptr;
+        return {};
     }
   }
 };

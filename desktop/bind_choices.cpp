@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "common/text.h"
 #include "desktop/binding.h"
@@ -48,13 +49,30 @@ class ListField : public Reporting<QListWidget, forms::ListBox> {
   void keyPressEvent(QKeyEvent* event) override {
     const int before = currentRow();
     Reporting::keyPressEvent(event);
-    if (currentRow() != before && currentRow() >= 0) Shown().Pick(currentRow());
+    // What the handler of a key has selected itself is not picked again.
+    const bool moved = currentRow() != before && currentRow() != Shown().Index();
+    if (moved && currentRow() >= 0) Shown().Pick(currentRow());
+  }
+
+  void mousePressEvent(QMouseEvent* event) override {
+    doubleClicked_ = false;
+    Reporting::mousePressEvent(event);
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
     Reporting::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && currentRow() >= 0) Shown().Pick(currentRow());
+    const bool picks = event->button() == Qt::LeftButton && !std::exchange(doubleClicked_, false);
+    if (picks && currentRow() >= 0) Shown().Pick(currentRow());
   }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    // Its first click has picked the line.
+    doubleClicked_ = event->button() == Qt::LeftButton;
+    Reporting::mouseDoubleClickEvent(event);
+  }
+
+ private:
+  bool doubleClicked_ = false;
 };
 
 class OptionField : public Reporting<QRadioButton, forms::OptionButton> {
@@ -97,6 +115,7 @@ void MakeEditable(forms::ComboBox& box, QComboBox& combo) {
   combo.setEditable(true);
   combo.setInsertPolicy(QComboBox::NoInsert);
   combo.setCompleter(nullptr);
+  combo.lineEdit()->setAcceptDrops(false);
   QObject::connect(combo.lineEdit(), &QLineEdit::textEdited, &combo,
                    [&box](const QString& typed) { box.SetText(typed.toStdString()); });
 }
@@ -133,15 +152,25 @@ void ShowList(const forms::ListBox& box, QListWidget& list) {
   ShowCommon(box, list, Theme::Current().field, forms::kWhite);
 }
 
-void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
+/// Columns that a list takes when the layout asks for none; one of fixed pitch holds a tag number
+/// and a service.
+int OwnColumns(const forms::ListBox& box) {
   constexpr int kOwnWidth = 24;
+  constexpr int kFixedPitchWidth = 42;
+  return box.FixedPitch() ? kFixedPitchWidth : kOwnWidth;
+}
+
+void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
+  constexpr double kLineEm = 1.35;
+  const int columns = characters > 0 ? characters : OwnColumns(box);
+  int width = scale.Digits(columns);
   if (box.FixedPitch()) {
-    QFont font(FixedFamily());
-    font.setPixelSize(scale.LetterPixels());
+    const QFont font = FixedFont(scale.LetterPixels());
     list.setFont(font);
+    width = FixedWidth(font, columns);
   }
-  list.setMinimumWidth(scale.Digits(characters > 0 ? characters : kOwnWidth) + scale.Em(2));
-  list.setMinimumHeight(scale.Em(1.35 * box.VisibleLines() + 0.6));
+  list.setMinimumWidth(width + scale.Em(2));
+  list.setMinimumHeight(scale.Em(kLineEm * box.VisibleLines() + 0.6));
 }
 
 void ShowTabs(const forms::TabStrip& strip, QTabBar& tabs) {

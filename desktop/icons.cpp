@@ -21,11 +21,12 @@ QColor LineColor(QIcon::Mode mode) {
 /// Draws an SVG text whose lines are in "currentColor".
 class LineIcon : public QIconEngine {
  public:
-  explicit LineIcon(QByteArray svg) : svg_(std::move(svg)) {}
+  LineIcon(QByteArray svg, const QColor& color) : svg_(std::move(svg)), color_(color) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     QByteArray colored = svg_;
-    colored.replace("currentColor", LineColor(mode).name().toLatin1());
+    const QColor color = color_.isValid() ? color_ : LineColor(mode);
+    colored.replace("currentColor", color.name().toLatin1());
     QSvgRenderer(colored).render(painter, rect);
   }
 
@@ -41,14 +42,15 @@ class LineIcon : public QIconEngine {
 
  private:
   QByteArray svg_;
+  QColor color_;
 };
 
 }  // namespace
 
-QIcon IconNamed(const std::string& name) {
+QIcon IconNamed(const std::string& name, const QColor& color) {
   QFile file(QStringLiteral(":/icons/%1.svg").arg(QString::fromStdString(name)));
   if (name.empty() || !file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new LineIcon(file.readAll()));
+  return QIcon(new LineIcon(file.readAll(), color));
 }
 
 }  // namespace desktop

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <string>
 
 namespace desktop {
 
-/// Picture of the product's own family by its name ("new", "dp-flow" ...), drawn in the text colour
-/// of the theme at every size. An unknown name gives an empty icon.
-QIcon IconNamed(const std::string& name);
+/// Picture of the product's own family by its name ("new", "dp-flow" ...), drawn at every size in
+/// that colour, or in the text colour of the theme. An unknown name gives an empty icon.
+QIcon IconNamed(const std::string& name, const QColor& color = {});
 
 }  // namespace desktop

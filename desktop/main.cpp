@@ -2,20 +2,28 @@
 
 #include "desktop/application.h"
 #include "desktop/main_window.h"
+#include "desktop/platform.h"
 #include "desktop/presenter.h"
+#include "desktop/splash.h"
 #include "sheets/workbench.h"
+#include "shell/instrument_file.h"
 
 int main(int count, char** arguments) {
   QApplication application(count, arguments);
   desktop::PrepareApplication(application);
+  desktop::Splash splash(QStringLiteral("Ver.") + QLatin1String(shell::kProgramVersion));
+  splash.show();
   desktop::QtPresenter presenter;
+  desktop::QtPlatform platform;
   shell::FileSettings settings(shell::DefaultSettingsPath());
-  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(),
-                              settings);
+  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(), settings,
+                              &platform);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
-  window.show();
-  workbench.Start();
+  splash.onEnd = [&] {
+    window.show();
+    workbench.Start();
+  };
   const int result = QApplication::exec();
   // The windows go before the forms that they show.
   presenter.CloseAll();

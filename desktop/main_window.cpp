@@ -1,38 +1,69 @@
 #include "desktop/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QLayout>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QUrl>
 #include <algorithm>
 
 #include "desktop/icons.h"
+#include "desktop/sheet_area.h"
 #include "desktop/theme.h"
 
 namespace desktop {
 
 namespace {
 
-constexpr QRect kFirstPlace(7, 7, 800, 573);
+constexpr int kTwipsPerPixel = 15;
+constexpr int kSettledMs = 50;
 constexpr const char* kExitCommand = "mnuExit";
 constexpr const char* kWindowMenu = "mnuWindow";
+
+/// The rectangle of a placement in device-independent pixels.
+QRect RectOf(const shell::WindowPlacement& placement) {
+  return {placement.left / kTwipsPerPixel, placement.top / kTwipsPerPixel,
+          placement.width / kTwipsPerPixel, placement.height / kTwipsPerPixel};
+}
+
+const shell::MenuEntry* FindEntry(const std::vector<shell::MenuEntry>& entries,
+                                  const std::string& name) {
+  for (const shell::MenuEntry& entry : entries) {
+    if (entry.name == name) return &entry;
+    if (const shell::MenuEntry* const inner = FindEntry(entry.entries, name)) return inner;
+  }
+  return nullptr;
+}
+
+/// The first instrument file among what is dragged, "" when there is none.
+QString InstrumentFileIn(const QMimeData& data) {
+  const auto urls = data.urls();
+  for (const QUrl& url : urls) {
+    const QString path = url.toLocalFile();
+    if (path.endsWith(QLatin1String(".zph"), Qt::CaseInsensitive)) return path;
+  }
+  return {};
+}
 
 QString Escaped(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
 }  // namespace
 
+const QScreen* ScreenOf(const QRect& rectangle) {
+  const QScreen* const screen = QGuiApplication::screenAt(rectangle.center());
+  return screen != nullptr ? screen : QGuiApplication::primaryScreen();
+}
+
 QRect OnScreen(QRect rectangle) {
-  const QScreen* screen = QGuiApplication::screenAt(rectangle.center());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  const QRect room = screen->availableGeometry();
+  const QRect room = ScreenOf(rectangle)->availableGeometry();
   rectangle.setSize(rectangle.size().boundedTo(room.size()));
   rectangle.moveTo(std::clamp(rectangle.x(), room.x(), room.right() + 1 - rectangle.width()),
                    std::clamp(rectangle.y(), room.y(), room.bottom() + 1 - rectangle.height()));
@@ -40,31 +71,38 @@ QRect OnScreen(QRect rectangle) {
 }
 
 MainWindow::MainWindow(shell::MainWindow& commands)
-    : commands_(commands), area_(new QMdiArea(this)) {
+    : commands_(commands), area_(new SheetArea(this)) {
   setObjectName(QStringLiteral("frmMDI"));
   setWindowIcon(IconNamed("app"));
   setStyleSheet(WindowStyle(Theme::Current()));
-  area_->setBackground(Theme::Current().window);
-  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCentralWidget(area_);
+  setAcceptDrops(true);
   setContextMenuPolicy(Qt::NoContextMenu);
   for (const shell::MenuEntry& entry : commands_.Menus()) {
-    FillMenu(*menuBar()->addMenu(QString::fromStdString(entry.caption)), entry);
+    AddMenu(*menuBar()->addMenu(QString::fromStdString(entry.caption)), entry);
   }
   AddToolBar();
   statusBar()->setSizeGripEnabled(true);
   commands_.onChange = [this] { ShowState(); };
+  commands_.onEntries = [this](const std::string& submenu) { RefillMenu(submenu); };
+  commands_.onPlace = [this](const shell::WindowPlacement& placement) { Place(placement); };
+  settled_.setSingleShot(true);
+  connect(&settled_, &QTimer::timeout, this, [this] { TellPlacement(); });
   ShowState();
-  setGeometry(OnScreen(kFirstPlace));
+  Place(commands_.Placement());
 }
 
-void MainWindow::FillMenu(QMenu& menu, const shell::MenuEntry& entry) {
+void MainWindow::AddMenu(QMenu& menu, const shell::MenuEntry& entry) {
+  menus_[entry.name] = &menu;
   menu.setObjectName(QString::fromStdString(entry.name));
   menu.setToolTipsVisible(true);
   if (entry.name == kWindowMenu) {
     connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { FillWindowList(menu); });
   }
+  FillMenu(menu, entry);
+}
+
+void MainWindow::FillMenu(QMenu& menu, const shell::MenuEntry& entry) {
   for (const shell::MenuEntry& inner : entry.entries) {
     const shell::Command* const command = commands_.Find(inner.name);
     if (inner.IsSeparator()) {
@@ -72,9 +110,25 @@ void MainWindow::FillMenu(QMenu& menu, const shell::MenuEntry& entry) {
     } else if (command != nullptr) {
       AddCommand(menu, *command);
     } else {
-      FillMenu(*menu.addMenu(QString::fromStdString(inner.caption)), inner);
+      AddMenu(*menu.addMenu(QString::fromStdString(inner.caption)), inner);
     }
   }
+  menu.menuAction()->setEnabled(!entry.entries.empty() || entry.name == kWindowMenu);
+}
+
+void MainWindow::RefillMenu(const std::string& name) {
+  const auto menu = menus_.find(name);
+  const shell::MenuEntry* const entry = FindEntry(commands_.Menus(), name);
+  if (menu == menus_.end() || entry == nullptr) return;
+  const auto old = menu->second->actions();
+  for (QAction* action : old) {
+    menu->second->removeAction(action);
+    actions_.erase(action->objectName().toStdString());
+    // It may be the one whose command is running.
+    action->deleteLater();
+  }
+  FillMenu(*menu->second, *entry);
+  ShowState();
 }
 
 void MainWindow::AddCommand(QMenu& menu, const shell::Command& command) {
@@ -166,18 +220,87 @@ void MainWindow::ShowToolBar(bool visible) {
   toolBar_->setVisible(visible);
   const bool normal = isVisible() && !isMaximized() && !isFullScreen();
   const int change = kHeightShown - kHeightHidden;
-  if (normal) resize(width(), height() + (visible ? change : -change));
+  if (!normal) return;
+  const bool own = size() == ownSize_;
+  resize(width(), height() + (visible ? change : -change));
+  if (own) ownSize_ = size();
+}
+
+void MainWindow::Place(const shell::WindowPlacement& placement) {
+  normal_ = OnScreen(RectOf(placement));
+  const shell::WindowPlacement first;
+  const bool isFirst = placement.width == first.width && placement.height == first.height;
+  ownSize_ = isFirst ? normal_.size() : QSize();
+  setWindowState(Qt::WindowNoState);
+  move(normal_.topLeft());
+  resize(normal_.size());
+  if (placement.state == shell::WindowPlacement::kMaximised) setWindowState(Qt::WindowMaximized);
+}
+
+void MainWindow::TellPlacement() {
+  settled_.stop();
+  shell::WindowPlacement placement;
+  if (isMinimized()) {
+    placement.state = shell::WindowPlacement::kMinimised;
+  } else if (isMaximized() || isFullScreen()) {
+    placement.state = shell::WindowPlacement::kMaximised;
+  } else {
+    normal_ = {pos(), size()};
+  }
+  placement.left = normal_.left() * kTwipsPerPixel;
+  placement.top = normal_.top() * kTwipsPerPixel;
+  placement.width = normal_.width() * kTwipsPerPixel;
+  placement.height = normal_.height() * kTwipsPerPixel;
+  commands_.Moved(placement);
+}
+
+/// A window system tells the new size before it tells that the window is maximised, so the place is
+/// told when the events on the way are done.
+void MainWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  settled_.start(kSettledMs);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  settled_.start(kSettledMs);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) settled_.start(kSettledMs);
 }
 
 void MainWindow::MakeRoomFor(const QSize& sheet) {
   if (isMaximized() || isFullScreen()) return;
   layout()->activate();
-  const QSize missing = (sheet - area_->size()).expandedTo({0, 0});
-  if (!missing.isNull()) setGeometry(OnScreen({pos(), size() + missing}));
+  const QSize room = area_->size();
+  const bool usable = room.width() * 2 >= sheet.width() && room.height() * 2 >= sheet.height();
+  const QSize missing = (sheet - room).expandedTo({0, 0});
+  if (missing.isNull() || (usable && size() != ownSize_)) return;
+  const QRect place = OnScreen({pos(), size() + missing});
+  move(place.topLeft());
+  resize(place.size());
+  ownSize_ = place.size();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  // Handlers wait behind an open dialogue.
+  const bool busy = QApplication::activeModalWidget() != nullptr;
+  if (!busy && !InstrumentFileIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const std::string path = InstrumentFileIn(*event->mimeData()).toStdString();
+  if (path.empty()) return;
+  event->acceptProposedAction();
+  // The program that the file comes from waits for the end of this event, not for our questions.
+  QTimer::singleShot(0, this, [this, path] { commands_.DropFile(path); });
 }
 
 /// Closing the window is the exit command, whose work is done first.
 void MainWindow::closeEvent(QCloseEvent* event) {
+  TellPlacement();
   commands_.Run(kExitCommand);
   event->accept();
 }

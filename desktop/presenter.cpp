@@ -1,12 +1,11 @@
 #include "desktop/presenter.h"
 
 #include <QApplication>
-#include <QMdiArea>
-#include <algorithm>
 
 #include "desktop/form_view.h"
 #include "desktop/main_window.h"
 #include "desktop/questions.h"
+#include "desktop/sheet_area.h"
 #include "desktop/windows.h"
 #include "forms/control.h"
 
@@ -24,12 +23,6 @@ class Counting {
  private:
   int& count_;
 };
-
-bool AnySheet(const QMdiArea& area) {
-  const auto windows = area.subWindowList();
-  return std::any_of(windows.begin(), windows.end(),
-                     [](const QMdiSubWindow* window) { return window->isVisible(); });
-}
 
 }  // namespace
 
@@ -69,9 +62,9 @@ void QtPresenter::ShowForm(forms::Form& form) {
 }
 
 QWidget* QtPresenter::ShowSheet(forms::Form& form, FormView& view) {
-  QMdiArea& area = mainWindow_->Area();
+  SheetArea& area = mainWindow_->Area();
   const QMdiSubWindow* const current = area.activeSubWindow();
-  const bool fills = !AnySheet(area) || (current != nullptr && current->isMaximized());
+  const bool fills = !area.AnySheet() || (current != nullptr && current->isMaximized());
   auto* const window = new SheetWindow(view);
   window->onClose = [this, &form] { UserCloses(form); };
   mainWindow_->MakeRoomFor(view.NaturalSize());
@@ -90,6 +83,12 @@ QWidget* QtPresenter::ShowOwnWindow(forms::Form& form, FormView& view) {
   auto* const window = new OwnWindow(view, modal != nullptr ? *modal : *mainWindow_);
   window->onClose = [this, &form] { UserCloses(form); };
   window->onActivate = [this, &form] { Activated(form); };
+  const auto place = toolPlaces_.find(form.Name());
+  if (place != toolPlaces_.end()) {
+    const QRect kept = OnScreen(place->second);
+    window->move(kept.topLeft());
+    window->resize(kept.size());
+  }
   window->show();
   window->activateWindow();
   return window;
@@ -117,6 +116,9 @@ void QtPresenter::CloseForm(forms::Form& form) {
   const Counting steering(steering_);
   // An event of one of its widgets may be on the way, so the window goes later.
   QWidget* const window = found->second.window;
+  if (form.Role() == forms::FormRole::kTool) {
+    toolPlaces_[form.Name()] = {window->pos(), window->size()};
+  }
   shown_.erase(found);
   closed_.push_back(window);
   // Hiding the focus would hand it on to the next field, as if the user had gone there.

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 #include <QTimer>
 #include <map>
+#include <string>
 #include <vector>
 
 #include "forms/presenter.h"
@@ -64,6 +66,8 @@ class QtPresenter : public forms::Presenter {
   MainWindow* mainWindow_ = nullptr;
   shell::FormManager* forms_ = nullptr;
   std::map<const forms::Form*, Shown> shown_;
+  /// Where the tools stood when they were closed, by form name.
+  std::map<std::string, QRect> toolPlaces_;
   std::vector<QWidget*> closed_;
   /// Dialogues that wait.
   int waiting_ = 0;

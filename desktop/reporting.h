@@ -49,6 +49,15 @@ class Reporting : public Widget {
     if (event->button() == Qt::LeftButton) control_.DblClick();
   }
 
+  /// A file is for the main window; a field would take its path as text.
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    if (event->mimeData()->hasUrls()) {
+      event->ignore();
+    } else {
+      Widget::dragEnterEvent(event);
+    }
+  }
+
   void contextMenuEvent(QContextMenuEvent* event) override {
     if (!control_.onRightClick) {
       Widget::contextMenuEvent(event);

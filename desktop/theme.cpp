@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -56,16 +57,16 @@ QString ReadSheet(const char* path) {
 }  // namespace
 
 const Theme& Theme::Light() {
-  static const Theme theme{false,     "#eef1f4", "#ffffff", "#d5dce3", "#ffffff",
-                           "#a9b5c1", "#edf0f3", "#18212b", "#41505e", "#5f6d7a",
-                           "#e9f2f4", "#bfd5da", "#0b6478", "#ffffff", "#e2edf0"};
+  static const Theme theme{false,     "#eef1f4", "#ffffff", "#d5dce3", "#ffffff", "#a9b5c1",
+                           "#edf0f3", "#18212b", "#41505e", "#5f6d7a", "#e9f2f4", "#bfd5da",
+                           "#0b6478", "#ffffff", "#e2edf0", "#a86200", "#b8262c"};
   return theme;
 }
 
 const Theme& Theme::Dark() {
-  static const Theme theme{true,      "#1a1f24", "#232a31", "#39434d", "#161b20",
-                           "#566472", "#29313a", "#e8edf1", "#b7c3cd", "#93a1ad",
-                           "#1d333a", "#33545d", "#5cc0d6", "#0d1b20", "#2c3a43"};
+  static const Theme theme{true,      "#1a1f24", "#232a31", "#39434d", "#161b20", "#566472",
+                           "#29313a", "#e8edf1", "#b7c3cd", "#93a1ad", "#1d333a", "#33545d",
+                           "#5cc0d6", "#0d1b20", "#2c3a43", "#f0b24a", "#ff8178"};
   return theme;
 }
 
@@ -147,6 +148,20 @@ QFont UiFont(int pixels) {
   font.setPixelSize(pixels);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
+}
+
+QFont FixedFont(int pixels) {
+  QFont font(FixedFamily());
+  font.setPixelSize(pixels);
+  font.setStyleHint(QFont::TypeWriter);
+  // Advances rounded to whole pixels would make two half-width letters wider than a full-width one.
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return font;
+}
+
+int FixedWidth(const QFont& font, int columns) {
+  const QString line(columns, QLatin1Char('0'));
+  return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(line)));
 }
 
 QString FormStyle(const Theme& theme, int letterPixels) {

@@ -32,6 +32,8 @@ struct Theme {
   QColor accent;
   QColor onAccent;
   QColor hover;
+  QColor warning;
+  QColor critical;
 
   static const Theme& Light();
   static const Theme& Dark();
@@ -61,6 +63,10 @@ QString UiFamily();
 /// The family whose full-width letters are exactly two half-width ones.
 QString FixedFamily();
 QFont UiFont(int pixels);
+/// Letters whose columns stand below each other.
+QFont FixedFont(int pixels);
+/// Pixels of so many columns of it.
+int FixedWidth(const QFont& font, int columns);
 
 /// The style sheet of a form for letters of that height.
 QString FormStyle(const Theme& theme, int letterPixels);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "desktop/icons.h"
@@ -18,12 +19,23 @@ Qt::WindowFlags FlagsOf(forms::FormRole role) {
   return kFrame | (role == forms::FormRole::kTool ? Qt::Tool : Qt::Dialog);
 }
 
-/// Tools stand at the right of their owner, dialogues in its middle.
+/// Left edge of a tool: right of its owner, else left of it, where the screen has the room; else
+/// over the owner's right end, where sheets have their results.
+int LeftOfTool(int width, const QRect& owner) {
+  constexpr int kGap = 8;
+  constexpr int kInside = 24;
+  const QRect room = ScreenOf(owner)->availableGeometry();
+  if (owner.right() + kGap + width <= room.right()) return owner.right() + kGap;
+  if (owner.left() - kGap - width >= room.left()) return owner.left() - kGap - width;
+  return owner.right() - kInside - width;
+}
+
+/// Tools stand beside their owner, dialogues in its middle.
 QRect PlaceOf(forms::FormRole role, const QSize& size, const QRect& owner) {
   constexpr int kFromTop = 90;
   QRect place(QPoint(0, 0), size);
   if (role == forms::FormRole::kTool) {
-    place.moveTopRight({owner.right() - 24, owner.top() + kFromTop});
+    place.moveTopLeft({LeftOfTool(size.width(), owner), owner.top() + kFromTop});
   } else {
     place.moveCenter(owner.center());
   }
@@ -50,7 +62,7 @@ OwnWindow::OwnWindow(FormView& view, QWidget& owner)
   layout->addWidget(&view);
   setWindowIcon(IconNamed("app"));
   if (view.Shown().Role() == forms::FormRole::kDialog) setWindowModality(Qt::WindowModal);
-  setGeometry(PlaceOf(view.Shown().Role(), view.NaturalSize(), owner.geometry()));
+  setGeometry(PlaceOf(view.Shown().Role(), view.NaturalSize(), owner.frameGeometry()));
 }
 
 void OwnWindow::closeEvent(QCloseEvent* event) {
