@@ -273,7 +273,9 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::MakeRoomFor(const QSize& sheet) {
   if (isMaximized() || isFullScreen()) return;
-  layout()->activate();
+  // A window that has not been shown yet has not given its parts their room.
+  QResizeEvent resized(size(), size());
+  QApplication::sendEvent(this, &resized);
   const QSize room = area_->size();
   const bool usable = room.width() * 2 >= sheet.width() && room.height() * 2 >= sheet.height();
   const QSize missing = (sheet - room).expandedTo({0, 0});

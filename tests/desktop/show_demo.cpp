@@ -1,5 +1,5 @@
 // Shows the demonstration sheet for a look at the desktop's forms:
-//   show_demo [--dark] [--dialog] [--gas] [--full]
+//   show_demo [--dark] [--dialog] [--tool] [--gas] [--full]
 #include <QApplication>
 #include <QScreen>
 
@@ -25,10 +25,12 @@ int main(int count, char** arguments) {
   presenter.Attach(window, forms);
   forms.Provide("frmDemo", [] { return std::make_unique<desktop::DemoSheet>(); });
   forms.Provide("frmDemoDialog", [] { return std::make_unique<desktop::DemoDialog>(); });
+  forms.Provide("frmDemoTool", [] { return std::make_unique<desktop::DemoTool>(); });
   window.show();
   auto& sheet = dynamic_cast<desktop::DemoSheet&>(forms.Show("frmDemo"));
   if (words.contains(QStringLiteral("--gas"))) sheet.cbo流体.Pick(1);
   sheet.FillIn();
+  if (words.contains(QStringLiteral("--tool"))) forms.Show("frmDemoTool");
   if (words.contains(QStringLiteral("--dialog"))) forms.Show("frmDemoDialog");
   if (words.contains(QStringLiteral("--full")))
     window.setGeometry(window.screen()->availableGeometry());
