@@ -144,7 +144,7 @@ void MainWindow::AddCommand(QMenu& menu, const shell::Command& command) {
 }
 
 void MainWindow::AddToolBar() {
-  constexpr int kIconSize = 22;
+  constexpr int kIconSize = 20;
   toolBar_ = addToolBar(QStringLiteral("ツールバー"));
   toolBar_->setObjectName(QStringLiteral("Toolbar1"));
   toolBar_->setMovable(false);

@@ -152,7 +152,7 @@ DemoTool::DemoTool() : Form("frmDemoTool", "Tag List", forms::FormRole::kTool) {
     const std::string number = std::to_string(1101 + row);
     // 27 columns of tag number and service, 12 of the kind.
     lines.push_back(row % 2 == 0 ? "FE-" + number + "  原料供給流量　　　ｵﾘﾌｨｽ       "
-                                 : "TE-" + number + "A ﾎﾞｲﾗ入口温度       測温体     ");
+                                 : "TE-" + number + "A ﾎﾞｲﾗ入口温度      測温体     ");
   }
   lst一覧.SetItems(lines);
   SetLayout(forms::Column({forms::Stretched(forms::Table({{lst一覧}}), 1),
