@@ -42,6 +42,8 @@ class Style : public QProxyStyle {
         return IconNamed("window-restore");
       case SP_TitleBarCloseButton:
         return IconNamed("window-close");
+      case SP_ToolBarHorizontalExtensionButton:
+        return IconNamed("more");
       case SP_MessageBoxInformation:
         return IconNamed("message-information", theme.accent);
       case SP_MessageBoxQuestion:

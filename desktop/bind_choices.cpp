@@ -161,16 +161,18 @@ int OwnColumns(const forms::ListBox& box) {
 }
 
 void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
-  constexpr double kLineEm = 1.35;
+  constexpr double kPaddingEm = 0.12;  // above and below a line, as in the style sheet
   const int columns = characters > 0 ? characters : OwnColumns(box);
   int width = scale.Digits(columns);
+  QFont font = UiFont(scale.LetterPixels());
   if (box.FixedPitch()) {
-    const QFont font = FixedFont(scale.LetterPixels());
+    font = FixedFont(scale.LetterPixels());
     list.setFont(font);
     width = FixedWidth(font, columns);
   }
+  const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kPaddingEm));
   list.setMinimumWidth(width + scale.Em(2));
-  list.setMinimumHeight(scale.Em(kLineEm * box.VisibleLines() + 0.6));
+  list.setMinimumHeight(line * box.VisibleLines() + scale.Em(0.6));
 }
 
 void ShowTabs(const forms::TabStrip& strip, QTabBar& tabs) {

@@ -144,7 +144,7 @@ void MainWindow::AddCommand(QMenu& menu, const shell::Command& command) {
 }
 
 void MainWindow::AddToolBar() {
-  constexpr int kIconSize = 22;
+  constexpr int kIconSize = 20;
   toolBar_ = addToolBar(QStringLiteral("ツールバー"));
   toolBar_->setObjectName(QStringLiteral("Toolbar1"));
   toolBar_->setMovable(false);
@@ -273,7 +273,9 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::MakeRoomFor(const QSize& sheet) {
   if (isMaximized() || isFullScreen()) return;
-  layout()->activate();
+  // A window that has not been shown yet has not given its parts their room.
+  QResizeEvent resized(size(), size());
+  QApplication::sendEvent(this, &resized);
   const QSize room = area_->size();
   const bool usable = room.width() * 2 >= sheet.width() && room.height() * 2 >= sheet.height();
   const QSize missing = (sheet - room).expandedTo({0, 0});

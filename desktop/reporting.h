@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QEnterEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 
 #include "forms/controls.h"

@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "desk.h"
+#include "desktop/theme.h"
 
 namespace desktop {
 namespace {
@@ -114,11 +115,44 @@ TEST_F(Choices, ListPicksByKeyAndMouse) {
   QTest::keyClick(&list, Qt::Key_Down);
   EXPECT_EQ(dialog.lst流体.Index(), 2);
   EXPECT_EQ(clicks, 2);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, second);
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, second);
   EXPECT_EQ(doubles, 1);
+  EXPECT_EQ(clicks, 3);  // its second click picks nothing
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(clicks, 4);
+  dialog.lst流体.onEnter = [&] {
+    dialog.lst流体.SetItems({"x", "y", "z"});
+    dialog.lst流体.SetIndex(0);
+  };
+  QTest::keyClick(&list, Qt::Key_Return);
+  EXPECT_EQ(dialog.lst流体.Index(), 0);
+  EXPECT_EQ(clicks, 5);  // by its new selection, not by the key
   dialog.lst流体.SetItems({"a", "b"});
   EXPECT_EQ(list.count(), 2);
   EXPECT_EQ(list.currentRow(), -1);
+}
+
+TEST_F(Choices, FixedPitchListKeepsItsColumns) {
+  auto& tool = dynamic_cast<DemoTool&>(forms_.Show("frmDemoTool"));
+  QApplication::processEvents();
+  auto& list = Find<QListWidget>(tool, "lst一覧");
+  QWidget& window = *presenter_.ViewOf(tool)->window();
+  for (const double share : {0.6, 1.0, 1.17, 1.5}) {
+    SCOPED_TRACE(share);
+    window.resize(window.size() * share);
+    QApplication::processEvents();
+    const QFontMetricsF metrics(list.font());
+    const double wide = metrics.horizontalAdvance(QString(20, QChar(0x6E2C)));
+    const double half = metrics.horizontalAdvance(QString(20, QChar(0xFF76)));
+    const double digits = metrics.horizontalAdvance(QString(40, QLatin1Char('0')));
+    EXPECT_NEAR(wide, digits, 0.01);
+    EXPECT_NEAR(wide, 2 * half, 0.01);
+    EXPECT_GE(list.viewport()->width(), digits);
+    EXPECT_GE(list.viewport()->height(), 16 * list.visualItemRect(list.item(0)).height());
+  }
+  EXPECT_EQ(list.fontInfo().family(), FixedFamily());
 }
 
 TEST_F(Choices, TabsFollowBothWaysAndKeepAmpersands) {

@@ -146,4 +146,17 @@ DemoDialog::DemoDialog() : Form("frmDemoDialog", "種々のコントロール", 
        forms::Buttons({Cell(), cmdOK, cmdCancel})}));
 }
 
+DemoTool::DemoTool() : Form("frmDemoTool", "Tag List", forms::FormRole::kTool) {
+  std::vector<std::string> lines;
+  for (int row = 0; row < 16; ++row) {
+    const std::string number = std::to_string(1101 + row);
+    // 27 columns of tag number and service, 12 of the kind.
+    lines.push_back(row % 2 == 0 ? "FE-" + number + "  原料供給流量　　　ｵﾘﾌｨｽ       "
+                                 : "TE-" + number + "A ﾎﾞｲﾗ入口温度      測温体     ");
+  }
+  lst一覧.SetItems(lines);
+  SetLayout(forms::Column({forms::Stretched(forms::Table({{lst一覧}}), 1),
+                           forms::Buttons({forms::Cell(), cmd閉じる})}));
+}
+
 }  // namespace desktop

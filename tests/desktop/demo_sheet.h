@@ -103,4 +103,13 @@ class DemoDialog : public forms::Form {
   forms::Button cmdCancel{*this, "cmdCancel", "キャンセル", forms::ButtonRole::kCancel};
 };
 
+/// A tool with a list whose lines are columns.
+class DemoTool : public forms::Form {
+ public:
+  DemoTool();
+
+  forms::ListBox lst一覧{*this, "lst一覧", 16, true};
+  forms::Button cmd閉じる{*this, "cmd閉じる", "閉じる", forms::ButtonRole::kCancel};
+};
+
 }  // namespace desktop

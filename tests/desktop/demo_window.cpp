@@ -13,6 +13,7 @@ void AddMenus(shell::MainWindow& window) {
                     {"mnuNewFileOpen", "新規ファイル作成(&N)", "Ctrl+N", "new", run("new")});
   window.AddCommand("mnuFile", {"mnuOpen", "開く(&O)", "Ctrl+O", "open", run("open")});
   window.AddSeparator("mnuFile");
+  window.AddSubmenu("mnuFile", "mnuRecent", "最近使ったファイル");
   window.AddCommand("mnuFile", {"mnuHCopy", "画面ハードコピー", "", "", {}});
   window.AddCommand("mnuFile", {"mnuExit", "終了(&X)", "", "", run("exit")});
   window.AddSubmenu("", "mnuEdit", "編集(&E)");

@@ -38,6 +38,7 @@ class Desk : public testing::Test {
     presenter_.Attach(*window_, forms_);
     forms_.Provide("frmDemo", [] { return std::make_unique<DemoSheet>(); });
     forms_.Provide("frmDemoDialog", [] { return std::make_unique<DemoDialog>(); });
+    forms_.Provide("frmDemoTool", [] { return std::make_unique<DemoTool>(); });
     window_->show();
   }
   ~Desk() override { presenter_.CloseAll(); }

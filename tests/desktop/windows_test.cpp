@@ -15,6 +15,7 @@
 #include "desk.h"
 #include "desktop/icons.h"
 #include "desktop/questions.h"
+#include "desktop/sheet_area.h"
 
 namespace desktop {
 namespace {
@@ -98,6 +99,24 @@ TEST_F(Windows, NothingIsDestroyedWhileABoxWaits) {
   EXPECT_FALSE(goneWhileWaiting);
   QTest::qWait(1);
   EXPECT_TRUE(gone);
+}
+
+TEST_F(Windows, ToolKeepsItsPlaceWhileTheProgramRuns) {
+  const auto open = [this]() -> QWidget& {
+    auto& tool = forms_.Show("frmDemoTool");
+    QApplication::processEvents();
+    return *presenter_.ViewOf(tool)->window();
+  };
+  QWidget& first = open();
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  EXPECT_TRUE(screen.contains(first.geometry()));
+  first.move(11, 22);
+  first.resize(500, 333);
+  first.close();
+  QTest::qWait(1);
+  QWidget& second = open();
+  EXPECT_EQ(second.pos(), QPoint(11, 22));
+  EXPECT_EQ(second.size(), QSize(500, 333));
 }
 
 TEST_F(Windows, SheetsFillTheAreaAndFollowTheUser) {
