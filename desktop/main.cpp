@@ -24,6 +24,7 @@ int main(int count, char** arguments) {
     window.show();
     workbench.Start();
   };
+  workbench.Load();
   const int result = QApplication::exec();
   // The windows go before the forms that they show.
   presenter.CloseAll();

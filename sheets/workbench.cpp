@@ -34,8 +34,13 @@ void Workbench::ProvideForms() {
   provide(frmAbout::kName, std::type_identity<frmAbout>());
 }
 
-void Workbench::Start() {
+void Workbench::Load() {
   workspace_.tables = shell::LoadTables(workspace_.installDir);
+  loaded_ = true;
+}
+
+void Workbench::Start() {
+  if (!loaded_) Load();
   TellUnreadFiles();
   shell::RestoreLastRun(workspace_);
 }

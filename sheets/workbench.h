@@ -14,8 +14,10 @@ class Workbench {
   Workbench(forms::Presenter& presenter, std::string installDir, shell::SettingsStore& settings,
             shell::Platform* platform = nullptr);
 
-  /// Reads the data files, readies the main window and brings the run to where the last one ended.
-  /// Files that cannot be read are named in one message; the run goes on without them.
+  /// Reads the data files. Nothing is shown, so that it can be done while the splash stands.
+  void Load();
+  /// Names the files that could not be read in one message, and brings the run to where the last
+  /// one ended. Loads first, if that has not been done.
   void Start();
 
   shell::Workspace& Space() { return workspace_; }
@@ -27,6 +29,7 @@ class Workbench {
   void TellUnreadFiles();
 
   shell::Workspace workspace_;
+  bool loaded_ = false;
 };
 
 }  // namespace sheets

@@ -47,6 +47,13 @@ void RememberFile(Workspace& workspace, const std::string& path) {
   ShowRecentFiles(workspace);
 }
 
+/// A text as a caption, in which "&" would mark a mnemonic.
+std::string WithoutMnemonic(const std::string& text) {
+  std::string caption;
+  for (const char c : text) caption += c == '&' ? std::string("&&") : std::string(1, c);
+  return caption;
+}
+
 /// A chosen name without an extension gets that of the file kind.
 std::string WithExtension(std::string path) {
   if (common::FileNameOf(path).find('.') == std::string::npos) path += kExtension;
@@ -162,7 +169,7 @@ void ShowRecentFiles(Workspace& workspace) {
   for (const std::string& path : RecentFiles(workspace)) {
     Command command;
     command.name = "mnuRecent" + std::to_string(commands.size() + 1);
-    command.caption = path;
+    command.caption = WithoutMnemonic(path);
     command.run = [&workspace, path] { OpenFileNamed(workspace, path); };
     commands.push_back(std::move(command));
   }
