@@ -133,6 +133,13 @@ forms::Form& Driver::ActiveForm() {
   return *form;
 }
 
+void Driver::CheckUnlocked() {
+  const forms::Form* const form = workbench_.Forms().Active();
+  if (form != nullptr && form->Role() == forms::FormRole::kDialog) {
+    throw Refusal{"The main window is locked while " + form->Name() + " is open."};
+  }
+}
+
 forms::Control& Driver::FindControl(const std::string& name) {
   const auto mark = name.find('!');
   forms::Form* form = nullptr;
@@ -193,6 +200,7 @@ void Driver::Menu(const std::string& object, const std::string&, Json&) {
                   NearestName(object, names) + ".");
   }
   if (!command->run) Misunderstand(object + " is not there yet.");
+  CheckUnlocked();
   if (!workbench_.Window().Run(object)) throw Refusal{object + " is disabled."};
 }
 
@@ -202,6 +210,7 @@ void Driver::PressButton(const std::string& object, const std::string&, Json&) {
   if (button == nullptr) Misunderstand("There is no tool bar button " + object + ".");
   if (button->separator) return;
   if (!button->run) Misunderstand("Button " + object + " is not there yet.");
+  CheckUnlocked();
   if (!workbench_.Window().Press(*number)) throw Refusal{"Button " + object + " is disabled."};
 }
 

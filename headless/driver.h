@@ -48,6 +48,8 @@ class Driver {
   [[noreturn]] void Misunderstand(std::string sentence);
 
   forms::Form& ActiveForm();
+  /// An open dialogue locks the main window.
+  void CheckUnlocked();
   forms::Control& FindControl(const std::string& name);
   forms::Control& UsableControl(const std::string& name);
   template <class T>

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 namespace headless {
 namespace {
 
@@ -57,6 +59,10 @@ TEST_F(DriverTest, RefusesWhatAUserCannotReach) {
   EXPECT_EQ(Do("click cbo流量単位G")["error"], "cbo流量単位G is not visible.");
   EXPECT_EQ(Do("menu mnuVenturi")["error"], "mnuVenturi is disabled.");
   EXPECT_EQ(Do("pick cbo流体 3")["ok"], false);
+  Do("menu mnuCompany");
+  EXPECT_EQ(Do("menu mnuTagList")["error"],
+            "The main window is locked while frmRegCompany is open.");
+  Do("click cmdCancel");
   EXPECT_EQ(Do("pick txt温度 0")["ok"], false);
 }
 
@@ -85,6 +91,30 @@ TEST_F(DriverTest, AnswersQuestionsFromTheQueue) {
   EXPECT_EQ(refused["messages"][0]["icon"], "critical");
   EXPECT_EQ(Do("click cmd計算")["messages"][0]["answer"], "yes");
   EXPECT_EQ(Do("get lbl外挿")["text"], "（外挿計算）");
+}
+
+TEST_F(DriverTest, RegistersSavesAndLoads) {
+  const std::string path = testing::TempDir() + "driver run.zph";
+  for (const std::string& line :
+       {std::string("open ⊿P Flow"), std::string("type txtTagNo FE-1"), std::string("register"),
+        "file " + path, std::string("menu mnuSave"), std::string("menu mnuNewFileOpen")}) {
+    EXPECT_TRUE(Do(line)["ok"]) << line;
+  }
+  EXPECT_EQ(Do("workspace")["TagCount"], 0);
+  Do("file");
+  Do("menu mnuOpen");
+  EXPECT_EQ(Do("workspace")["TagCount"], 0);
+  Do("file " + path);
+  Do("menu mnuOpen");
+  const Json state = Do("workspace");
+  EXPECT_EQ(state["TagCount"], 1);
+  EXPECT_EQ(state["ZephaFileName"], path);
+  EXPECT_EQ(Do("row 1")["row"][50], "⊿P Flow");
+  EXPECT_EQ(Do("row 1")["row"].size(), 51U);
+  EXPECT_TRUE(Do("recall 1")["ok"]);
+  Do("open ⊿P Flow");
+  EXPECT_EQ(Do("get frmOrifice!txtTagNo")["text"], "FE-1");
+  std::remove(path.c_str());
 }
 
 TEST_F(DriverTest, DumpsTheActiveForm) {
