@@ -54,7 +54,7 @@ class TextBox : public Control {
 
   /// Whether the field holds a number, which stands to the right.
   bool IsNumeric() const { return numeric_; }
-  /// Result of a calculation, so it is shown but not typed into while disabled.
+  /// The field's key filter.
   KeyFilter AcceptsKey() const { return acceptsKey_; }
 
   std::function<void()> onChange;

@@ -18,8 +18,6 @@ using forms::Line;
 
 constexpr const char* kReynoldsFormat = "###,###,###,##0";
 constexpr const char* kExpansionUnit = "×10-6/℃";
-constexpr const char* kNoTap = "       ";
-
 /// Element and material that clearing the sheet selects.
 constexpr int kClearedElement = 10;
 constexpr int kClearedMaterial = 7;

@@ -96,6 +96,9 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   std::vector<std::string> PropertyOrder() const override;
 
  private:
+  /// What stands for the tap position of an element that has none to tell.
+  static constexpr const char* kNoTap = "       ";
+
   void BindHandlers();
   void DeclareLayout();
   forms::Block ProcessBlock();

@@ -31,8 +31,6 @@ enum Column {
   kUnused2 = 46,
 };
 
-constexpr const char* kNoTap = "       ";
-
 /// A flag of an old file may also be a number.
 bool IsSet(const std::string& text) { return text == "True" || Val(text) != 0; }
 
