@@ -2,9 +2,12 @@
 
 #include <memory>
 
+#include "sheets/frm_cv_correction.h"
+#include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
@@ -28,6 +31,12 @@ void Workbench::ProvideForms() {
   provide("frmOrifice", std::type_identity<frmOrifice>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
+  provide(frmRating::kName, std::type_identity<frmRating>());
+  provide(frm本山微少弁::kName, std::type_identity<frm本山微少弁>());
+  provide(frm山武微少弁::kName, std::type_identity<frm山武微少弁>());
+  provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
+  provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
+  provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
