@@ -48,8 +48,8 @@ bool IsCaption(const forms::Cell& cell) {
 bool IsTall(const forms::Cell& cell) {
   return std::any_of(cell.Controls().begin(), cell.Controls().end(),
                      [](const forms::Control* control) {
-                       return Is<forms::ListBox>(control) || Is<forms::Grid>(control) ||
-                              Is<forms::Picture>(control);
+                       return Is<forms::ListBox>(control) || Is<forms::CheckList>(control) ||
+                              Is<forms::Grid>(control) || Is<forms::Picture>(control);
                      });
 }
 
