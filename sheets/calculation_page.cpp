@@ -18,6 +18,13 @@ constexpr const char* kBeforeUnit = "    ";
 /// Gap between two lines, points.
 constexpr double kLineGap = 6;
 
+/// The text without blanks at its ends.
+std::string WithoutBlanks(const std::string& text) {
+  const auto begin = text.find_first_not_of(' ');
+  if (begin == std::string::npos) return {};
+  return text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+}
+
 }  // namespace
 
 void CalculationPage::Title(const std::string& text) {
@@ -36,14 +43,12 @@ void CalculationPage::Section(const std::string& text) {
 
 void CalculationPage::Line(const std::string& label, const std::string& value,
                            const std::string& unit) {
-  const auto unitBegin = unit.find_first_not_of(' ');
-  const bool hasUnit =
-      value.find_first_not_of(' ') != std::string::npos && unitBegin != std::string::npos;
+  const std::string shown = WithoutBlanks(value);
   // Units come with blanks of their own or without; all stand in one column.
-  const std::string bareUnit = hasUnit ? unit.substr(unitBegin) : "";
+  const std::string bareUnit = shown.empty() ? "" : WithoutBlanks(unit);
   PrintInFrame(common::PadToBytes(label, kLabelBytes) + kSeparator +
-               common::PadLeftToBytes(value, kValueBytes) +
-               (hasUnit ? kBeforeUnit + bareUnit : std::string()));
+               common::PadLeftToBytes(shown, kValueBytes) +
+               (bareUnit.empty() ? "" : kBeforeUnit + bareUnit));
 }
 
 void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }

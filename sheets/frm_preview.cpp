@@ -58,7 +58,8 @@ void frmPreview::picPage_Resize() {
 /// The page's letters are brought back to their size on paper, so that they stand in their columns
 /// as they will there.
 void frmPreview::PaintPage(forms::DrawSurface& surface) {
-  forms::PlacedSurface placed(surface, -HScroll1.Value(), -VScroll1.Value(), 1,
+  const double spare = std::max(0.0, picPage.Width() - shell::kPageWidth);
+  forms::PlacedSurface placed(surface, spare / 2 - HScroll1.Value(), -VScroll1.Value(), 1,
                               1 / static_cast<double>(printScale_));
   page_.Replay(placed);
 }

@@ -1,6 +1,7 @@
 #include "desktop/paper/draw_surface.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPolygonF>
 #include <cmath>
 
@@ -112,9 +113,19 @@ void QtDrawSurface::Text(double x, double y, const std::string& text) {
   const double columns = columnWidth_ * common::Cp932Length(text);
   if (columnWidth_ == 0 ||
       std::abs(metrics.horizontalAdvance(letters) - columns) < kTolerance * columnWidth_) {
-    painter_.drawText(QPointF(x, baseline), letters);
+    DrawLetters(x, baseline, letters);
   } else {
     DrawOnGrid(x, baseline, text);
+  }
+}
+
+/// The families have no bold letters of their own; paper gets them stroked, but the screen draws
+/// large letters as plain outlines.
+void QtDrawSurface::DrawLetters(double x, double baseline, const QString& letters) {
+  painter_.drawText(QPointF(x, baseline), letters);
+  constexpr double kStroke = 0.04;  // of the letter height
+  if (painter_.font().bold() && painter_.paintEngine()->type() == QPaintEngine::Raster) {
+    painter_.drawText(QPointF(x + kStroke * painter_.font().pixelSize(), baseline), letters);
   }
 }
 
@@ -122,7 +133,7 @@ void QtDrawSurface::Text(double x, double y, const std::string& text) {
 void QtDrawSurface::DrawOnGrid(double x, double baseline, const std::string& text) {
   for (const char32_t letter : common::CodePoints(text)) {
     const std::u32string_view one(&letter, 1);
-    if (letter != U' ') painter_.drawText(QPointF(x, baseline), QString::fromUcs4(one.data(), 1));
+    if (letter != U' ') DrawLetters(x, baseline, QString::fromUcs4(one.data(), 1));
     x += columnWidth_ * common::Cp932Length(common::Utf8(one));
   }
 }

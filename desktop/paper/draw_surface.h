@@ -37,6 +37,7 @@ class QtDrawSurface : public forms::DrawSurface {
   QPen Pen() const;
   void FillNothing();
   void FillWithColor();
+  void DrawLetters(double x, double baseline, const QString& letters);
   void DrawOnGrid(double x, double baseline, const std::string& text);
 
   QPainter& painter_;
