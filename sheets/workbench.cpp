@@ -8,6 +8,8 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_preview.h"
+#include "sheets/frm_print_all.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/small_dialogues.h"
@@ -40,6 +42,8 @@ void Workbench::ProvideForms() {
   provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
   provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
   provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
+  provide(frmPreview::kName, std::type_identity<frmPreview>());
+  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
