@@ -114,12 +114,12 @@ void frmCV::WatchValve(TextBox& box) {
 }
 
 void frmCV::BindHelpList(Label& label, TextBox& box, forms::ListBox& list, const HelpLines& lines) {
-  constexpr std::size_t kValueColumns = 6;
+  constexpr std::size_t kValueLetters = 4;
   std::vector<std::string> items;
   for (const auto& [value, text] : lines) {
-    std::string item = value;
-    item.resize(kValueColumns, ' ');
-    items.push_back(item + text);
+    const std::string number = value;
+    // A blank is about half as wide as a digit.
+    items.push_back(number + std::string(2 * (kValueLetters - number.size()) + 3, ' ') + text);
   }
   list.SetItems(std::move(items));
   list.SetVisible(false);

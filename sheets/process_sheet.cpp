@@ -210,8 +210,14 @@ void ProcessSheet::ShowUnitsOfPhase() {
   if (fields_.deviation != nullptr) SwitchField(*fields_.deviation, IsGas());
   if (fields_.kappa != nullptr) SwitchField(*fields_.kappa, IsGas() || IsSteam());
   // A pressure left over from a liquid would be taken for one of the gas.
-  if (fields_.vapour != nullptr) SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
-  if (fields_.critical != nullptr) SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
+  if (fields_.vapour != nullptr) {
+    SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
+    fields_.vapour->cbo飽和蒸気圧単位.SetEnabled(IsLiquid());
+  }
+  if (fields_.critical != nullptr) {
+    SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
+    fields_.critical->cbo臨界圧力単位.SetEnabled(IsLiquid());
+  }
   show(cbo流量単位L, cbo流量単位G, cbo流量単位S);
   show(cbo密度単位L, cbo密度単位G, cbo密度単位S);
   if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
