@@ -1,7 +1,7 @@
 // Takes a picture of the workbench in a state that a script describes:
 //   take_picture OUT.png [--size WIDTHxHEIGHT] [--dark] [--form NAME] < SCRIPT
-// Lines of the script: menu NAME, type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click,
-// dblclick, rclick CONTROL. --form takes the picture of that form's own window alone.
+// Lines of the script: menu NAME, open FORM, type CONTROL TEXT, pick CONTROL N or =TEXT, choose,
+// click, dblclick, rclick CONTROL. --form takes the picture of that form's own window alone.
 #include <QApplication>
 #include <QTimer>
 #include <cstdlib>
@@ -29,6 +29,10 @@ void Run(sheets::Workbench& workbench, const std::string& line) {
   std::getline(words, text);
   if (verb == "menu") {
     workbench.Window().Run(object);
+    return;
+  }
+  if (verb == "open") {
+    workbench.Forms().Show(object);
     return;
   }
   forms::Form* const form = workbench.Forms().Active();

@@ -4,30 +4,20 @@
 
 #include "common/file.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/shell/temporary_folder.h"
+#include "tests/shell/data_folder.h"
 
 namespace sheets {
 namespace {
 
-/// The data files in a folder of the test's own, because the editor writes there.
-struct DataFolder {
-  DataFolder() {
-    for (const auto& entry : std::filesystem::directory_iterator(ZEPHA_BUILD_DIR)) {
-      if (entry.path().extension() == ".dat") std::filesystem::copy(entry.path(), folder.Path());
-    }
-  }
-  tests::TemporaryFolder folder;
-};
-
-class CatalogueEditor : public DataFolder, public SheetTest {
+class CatalogueEditor : public tests::DataFolder, public SheetTest {
  protected:
-  CatalogueEditor() : SheetTest(folder.Path()) { Open(); }
+  CatalogueEditor() : SheetTest(Path()) { Open(); }
 
   void Open() { bench.Window().Run("mnuCVcatalog"); }
   void Close() { bench.Forms().Unload(*bench.Forms().Active()); }
   valve::ValveCatalogue& Table() { return bench.Space().tables.valves; }
   bool Modified() { return bench.Space().valvesModified; }
-  std::string FileName() { return folder / "ValveSpec.dat"; }
+  std::string FileName() { return File("ValveSpec.dat"); }
   /// What a program that is started now would read.
   valve::ValveCatalogue InFile() {
     valve::ValveCatalogue catalogue;
@@ -125,7 +115,7 @@ TEST_F(CatalogueEditor, SavesEveryFieldAsTyped) {
   Close();
   EXPECT_EQ(TakeTexts(), Texts{});
 
-  Workbench again(presenter, folder.Path(), settings);
+  Workbench again(presenter, Path(), settings);
   again.Start();
   EXPECT_EQ(again.Space().tables.valves.valveMaker[3], "本山ソ表, 能①");
 }
@@ -257,7 +247,7 @@ TEST_F(CatalogueEditor, ArrowsAndEnterReachEveryTrim) {
 
 TEST_F(CatalogueEditor, FillsACatalogueThatCouldNotBeRead) {
   common::WriteFile(FileName(), "");
-  Workbench empty(presenter, folder.Path(), settings);
+  Workbench empty(presenter, Path(), settings);
   empty.Start();
   EXPECT_FALSE(empty.Space().tables.IsRead("ValveSpec.dat"));
   empty.Window().Run("mnuCVcatalog");
