@@ -227,7 +227,8 @@ void ResizeGrid(const forms::Grid& grid, QTableWidget& table, const Scale& scale
     total += width;
   }
   table.verticalHeader()->setDefaultSectionSize(scale.Em(kRowEm));
-  table.setMinimumHeight(scale.Em(kRowEm * (grid.VisibleRows() + 1)));
+  table.setMinimumHeight(scale.Em(kRowEm) * grid.VisibleRows() +
+                         table.horizontalHeader()->sizeHint().height() + 2 * table.frameWidth());
   table.setMinimumWidth(characters > 0 ? scale.Digits(characters) : total + scale.Em(2));
 }
 
