@@ -26,6 +26,8 @@ class CorrectionForm : public forms::Form {
 
   /// Shows what is peculiar to the valve class.
   virtual void ShowDetail(const valve::CorrectionDetail& detail) = 0;
+  /// Declares the layout: lines of results, the remark, buttons.
+  void LayOut(std::vector<forms::Line> lines, forms::Line buttons);
   shell::Workspace& Space() const { return workspace_; }
 
   /// The value in a format; empty where there is none.
