@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "sheets/frm_cv.h"
 #include "sheets/frm_cv_correction.h"
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
@@ -29,6 +30,8 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmCV", std::type_identity<frmCV>());
+  provide(frmCvSet::kName, std::type_identity<frmCvSet>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmRating::kName, std::type_identity<frmRating>());

@@ -46,12 +46,6 @@ Real Opening(int characteristic, Real cv, Real ratedCv, Real rangeability) {
   }
 }
 
-int CharacteristicOf(std::string_view text) {
-  if (text.find_first_of("0123456789") == std::string_view::npos) return kNoCharacteristic;
-  const int index = common::IntIndex(common::Val(text));
-  return index < kEqualPercent || index > kOtherCharacteristic ? kNoCharacteristic : index;
-}
-
 std::string RangeabilityOf(std::string_view model, Real ratedCv, const std::string& stored) {
   const std::string_view start = model.substr(0, 3);
   if (start == "VSM") {

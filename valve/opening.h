@@ -9,7 +9,7 @@ namespace valve {
 
 using common::Real;
 
-/// Inherent characteristics, as in the list of the sheet; any other index is none.
+/// Positions in the list of characteristics; any other index is none.
 enum Characteristic {
   kNoCharacteristic = -1,
   kEqualPercent = 0,
@@ -25,9 +25,6 @@ enum Characteristic {
 /// raise kDivisionByZero, a rangeability that is not positive kInvalidArgument where its logarithm
 /// is needed. The modified parabola steps from 0.435 to 0.446 at a quarter of its range.
 Real Opening(int characteristic, Real cv, Real ratedCv, Real rangeability);
-
-/// Characteristic of a catalogue field: -1 for an empty one, for words and outside 0 to 5.
-int CharacteristicOf(std::string_view text);
 
 /// Rangeability of a trim as text: some small-flow models have one by the rated Cv, all others the
 /// one that the catalogue stores.

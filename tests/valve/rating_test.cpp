@@ -221,11 +221,6 @@ TEST(Trim, RangeabilityByModel) {
   EXPECT_TRUE(IsLinearTrim("81 小流量", 0.056));
   EXPECT_FALSE(IsLinearTrim("81 小流量", 0.057));
   EXPECT_FALSE(IsLinearTrim("VSM", 0.01));
-  const struct {
-    const char* text;
-    int index;
-  } fields[] = {{"", -1}, {"-1", -1}, {"0", 0}, {"5", 5}, {"6", -1}, {"EQ", -1}, {" 2", 2}};
-  for (const auto& field : fields) EXPECT_EQ(CharacteristicOf(field.text), field.index);
 }
 
 TEST(ExitVelocity, IsFlowOverArea) {
