@@ -85,7 +85,12 @@ frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
   for (forms::Label* label : {&lblFr, static_cast<forms::Label*>(&lblFrR)}) {
     label->onDblClick = cmd補正データ.onClick;
   }
-  LayOut({{lblFp, lblFpR}, {lblY, lblYR}, {lblRe, lblReR}, {lblFr, lblFrR}},
+  // A gas has Y in the place where a liquid has its Reynolds number.
+  lblYR.SetAccessibleName(lblY.Text());
+  lblReR.SetAccessibleName(lblRe.Text());
+  LayOut({{lblFp, lblFpR},
+          {forms::Cell::OneOf({&lblY, &lblRe}), forms::Cell::OneOf({&lblYR, &lblReR})},
+          {lblFr, lblFrR}},
          {cmd補正データ, {}, cmdOK});
 }
 

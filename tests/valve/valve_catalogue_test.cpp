@@ -6,7 +6,6 @@
 
 #include "common/file.h"
 #include "common/number.h"
-#include "data/pipe_table.h"
 
 namespace valve {
 namespace {
@@ -123,41 +122,26 @@ TEST(ValveCatalogue, AgreesWithThePublishedStyles) {
   }
 }
 
-// Inches: inside diameters by class of ASME B16.34, table A-1, sizes 1/2 to 30.
-TEST(ValveDiaTable, AgreesWithTheInsideDiametersByClass) {
+// Inside diameters by class of ASME B16.34, table A-1, inches; for JIS 30K and 40K those of Sch80
+// (JIS G 3454), for 63K those of Sch160 (JIS G 3456), mm.
+TEST(ValveDiaTable, AgreesWithPublishedDiameters) {
+  constexpr double kInch = 25.4;
   const struct {
     std::size_t rating, size;
-    double inches;
-  } rows[] = {{9, 3, 0.50},    {9, 18, 13.25},  {9, 26, 29.25},  {10, 20, 17.00}, {10, 23, 23.00},
-              {12, 15, 7.87},  {12, 17, 11.75}, {12, 23, 22.00}, {13, 5, 0.87},   {13, 14, 5.75},
-              {13, 26, 26.25}, {14, 10, 2.75},  {14, 12, 3.62},  {14, 16, 8.75},  {14, 23, 19.62},
-              {15, 3, 0.44},   {15, 8, 1.50},   {15, 12, 2.87},  {15, 17, 8.62}};
+    double bore;
+  } rows[] = {{9, 3, 0.50 * kInch},    {9, 18, 13.25 * kInch},    {9, 26, 29.25 * kInch},
+              {10, 20, 17.00 * kInch}, {10, 23, 23.00 * kInch},   {12, 15, 7.87 * kInch},
+              {12, 17, 11.75 * kInch}, {12, 23, 22.00 * kInch},   {13, 5, 0.87 * kInch},
+              {13, 14, 5.75 * kInch},  {13, 26, 26.25 * kInch},   {14, 10, 2.75 * kInch},
+              {14, 12, 3.62 * kInch},  {14, 16, 8.75 * kInch},    {14, 23, 19.62 * kInch},
+              {15, 3, 0.44 * kInch},   {15, 8, 1.50 * kInch},     {15, 17, 8.62 * kInch},
+              {5, 8, 60.5 - 2 * 5.5},  {5, 19, 406.4 - 2 * 21.4}, {6, 12, 114.3 - 2 * 8.6},
+              {7, 3, 21.7 - 2 * 4.7},  {7, 12, 114.3 - 2 * 13.5}, {7, 15, 216.3 - 2 * 23.0}};
   ValveDiaTable table;
   ASSERT_TRUE(ReadValveDiaTable(Shipped("ValveDia.dat"), table));
   for (const auto& row : rows) {
-    EXPECT_NEAR(common::Val(table.valveDia[row.rating][row.size]), 25.4 * row.inches, 0.1)
+    EXPECT_NEAR(common::Val(table.valveDia[row.rating][row.size]), row.bore, 0.1)
         << row.rating << " " << row.size;
-  }
-}
-
-// JIS 30K and 40K have the bore of Sch80, 63K that of Sch160.
-TEST(ValveDiaTable, HighJisRatingsHaveThePipesBore) {
-  data::PipeTable pipes;
-  ASSERT_TRUE(data::ReadPipeTable(Shipped("PipeThickness.dat"), pipes));
-  ValveDiaTable table;
-  ASSERT_TRUE(ReadValveDiaTable(Shipped("ValveDia.dat"), table));
-  const struct {
-    std::size_t rating;
-    int schedule;
-  } rows[] = {{5, 9}, {6, 9}, {7, 13}};
-  for (const auto& row : rows) {
-    for (int size = 3; size <= 19; ++size) {
-      const auto bore = pipes.InnerDiameter(size, row.schedule);
-      ASSERT_TRUE(bore);
-      EXPECT_NEAR(common::Val(table.valveDia[row.rating][static_cast<std::size_t>(size)]), *bore,
-                  0.1)
-          << row.rating << " " << size;
-    }
   }
 }
 
