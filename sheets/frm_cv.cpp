@@ -246,16 +246,26 @@ void frmCV::TakeTrim(int row) {
   if (valve::IsLinearTrim(model, Val(ratedCv))) cboCharact.SetIndex(valve::kLinear);
 }
 
-/// Fills the lists anew; what stands in the boxes stays, selected or not.
+/// Fills the lists anew. A maker or model chosen from the list stays chosen, under its new name;
+/// one that the catalogue does not have keeps its text.
 void frmCV::CatalogueChanged() {
   const Quiet quiet(*this);
-  const std::string maker = cboMaker.Text();
-  const std::string model = cboValveModel.Text();
+  const auto keep = [](ComboBox& box, int index, const std::string& text) {
+    if (index >= 0) {
+      box.SetIndex(index);
+    } else {
+      box.SetText(text);
+    }
+  };
+  const int maker = cboMaker.Index();
+  const std::string makerText = cboMaker.Text();
+  const int model = cboValveModel.Index();
+  const std::string modelText = cboValveModel.Text();
   const auto& makers = Tables().valves.valveMaker;
   cboMaker.SetItems({makers.begin(), makers.end()});
-  cboMaker.SetText(maker);
+  keep(cboMaker, maker, makerText);
   FillModels();
-  cboValveModel.SetText(model);
+  keep(cboValveModel, model, modelText);
 }
 
 void frmCV::OpenPipes(bool downstream) {

@@ -43,6 +43,14 @@ void CorrectionForm::Load() {
   ShowDetail(detail);
 }
 
+void CorrectionForm::LayOut(std::vector<forms::Line> lines, forms::Line buttons) {
+  lines.push_back({forms::Cell(lbl説明).Over(2)});
+  SetLayout(forms::Column({
+      forms::Results("", forms::Table(std::move(lines))),
+      forms::Buttons(std::move(buttons)),
+  }));
+}
+
 std::string CorrectionForm::Shown(const std::optional<Real>& value, const char* format) {
   return value ? common::Format(*value, format) : std::string();
 }
@@ -50,14 +58,7 @@ std::string CorrectionForm::Shown(const std::optional<Real>& value, const char* 
 frm本山微少弁::frm本山微少弁(shell::Workspace& workspace)
     : CorrectionForm(workspace, kName, "本山 微少流量弁のCv補正") {
   lbl説明.SetText("Cv ＝ 計算Cv ÷ Fr。Re ＞ 10,000 では Fr ＝ 1 です。");
-  SetLayout(forms::Column({
-      forms::Results("", forms::Table({{lblFp, lblFpR},
-                                       {lblRe, lblReR},
-                                       {lblFr, lblFrR},
-                                       {lblY, lblYR},
-                                       {forms::Cell(lbl説明).Over(2)}})),
-      forms::Buttons({{}, cmdOK}),
-  }));
+  LayOut({{lblFp, lblFpR}, {lblRe, lblReR}, {lblFr, lblFrR}, {lblY, lblYR}}, {{}, cmdOK});
 }
 
 void frm本山微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
@@ -69,14 +70,7 @@ void frm本山微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
 frm山武微少弁::frm山武微少弁(shell::Workspace& workspace)
     : CorrectionForm(workspace, kName, "山武 微少流量弁のCv補正") {
   lbl説明.SetText("Cv ＝ 計算Cv × Fm");
-  SetLayout(forms::Column({
-      forms::Results("", forms::Table({{lblFp, lblFpR},
-                                       {lblRv, lblRvR},
-                                       {lblFm, lblFmR},
-                                       {lblY, lblYR},
-                                       {forms::Cell(lbl説明).Over(2)}})),
-      forms::Buttons({{}, cmdOK}),
-  }));
+  LayOut({{lblFp, lblFpR}, {lblRv, lblRvR}, {lblFm, lblFmR}, {lblY, lblYR}}, {{}, cmdOK});
 }
 
 void frm山武微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
@@ -91,14 +85,13 @@ frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
   for (forms::Label* label : {&lblFr, static_cast<forms::Label*>(&lblFrR)}) {
     label->onDblClick = cmd補正データ.onClick;
   }
-  SetLayout(forms::Column({
-      forms::Results("", forms::Table({{lblFp, lblFpR},
-                                       {lblY, lblYR},
-                                       {lblRe, lblReR},
-                                       {lblFr, lblFrR},
-                                       {forms::Cell(lbl説明).Over(2)}})),
-      forms::Buttons({cmd補正データ, {}, cmdOK}),
-  }));
+  // A gas has Y in the place where a liquid has its Reynolds number.
+  lblYR.SetAccessibleName(lblY.Text());
+  lblReR.SetAccessibleName(lblRe.Text());
+  LayOut({{lblFp, lblFpR},
+          {forms::Cell::OneOf({&lblY, &lblRe}), forms::Cell::OneOf({&lblYR, &lblReR})},
+          {lblFr, lblFrR}},
+         {cmd補正データ, {}, cmdOK});
 }
 
 void frmCv計算補正::ShowDetail(const valve::CorrectionDetail& detail) {

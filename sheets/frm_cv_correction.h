@@ -26,6 +26,8 @@ class CorrectionForm : public forms::Form {
 
   /// Shows what is peculiar to the valve class.
   virtual void ShowDetail(const valve::CorrectionDetail& detail) = 0;
+  /// Declares the layout: lines of results, the remark, buttons.
+  void LayOut(std::vector<forms::Line> lines, forms::Line buttons);
   shell::Workspace& Space() const { return workspace_; }
 
   /// The value in a format; empty where there is none.
@@ -93,7 +95,8 @@ class frmCv補正データ : public forms::Form {
   forms::Grid grd補正データ{
       *this,
       "grd補正データ",
-      {{"弁レイノルズ数 Re", 1900, true}, {"係数 Fr", 1300, true}, {"Cvの倍率 1/Fr", 1700, true}}};
+      {{"弁レイノルズ数 Re", 2300, true}, {"係数 Fr", 1900, true}, {"Cvの倍率 1/Fr", 2000, true}},
+      16};
   forms::Button cmdOK{*this, "cmdOK", "OK", forms::ButtonRole::kDefault};
 
   explicit frmCv補正データ(shell::Workspace& workspace);

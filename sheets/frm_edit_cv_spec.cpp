@@ -41,18 +41,13 @@ frmEditCVspec::frmEditCVspec(shell::Workspace& workspace)
   for (int i = 0; i < optModel.Count(); ++i) {
     optModel[i].onClick = [this, i] { optModel_Click(i); };
   }
-  Edits(
-      txtMaker, [this]() -> auto& { return Catalogue().valveMaker[maker_]; });
-  Edits(
-      txtModel, [this]() -> auto& { return Catalogue().valveModel[maker_][model_]; });
-  Edits(
-      txtFL, [this]() -> auto& { return Catalogue().valveFL[maker_][model_]; });
-  Edits(
-      txt弁Fd, [this]() -> auto& { return Catalogue().valveFd[maker_][model_]; });
-  Edits(
-      txtOrificeFactor, [this]() -> auto& { return Catalogue().valveN[maker_][model_]; });
-  Edits(
-      txtRangeability, [this]() -> auto& { return Catalogue().valveRange[maker_][model_]; });
+  Edits(txtMaker, [this]() -> std::string& { return Catalogue().valveMaker[maker_]; });
+  Edits(txtModel, [this]() -> std::string& { return Catalogue().valveModel[maker_][model_]; });
+  Edits(txtFL, [this]() -> std::string& { return Catalogue().valveFL[maker_][model_]; });
+  Edits(txt弁Fd, [this]() -> std::string& { return Catalogue().valveFd[maker_][model_]; });
+  Edits(txtOrificeFactor, [this]() -> std::string& { return Catalogue().valveN[maker_][model_]; });
+  Edits(txtRangeability,
+        [this]() -> std::string& { return Catalogue().valveRange[maker_][model_]; });
   cboCharact.onClick = [this] {
     ChangeCell(Catalogue().valveChar[maker_][model_], std::to_string(cboCharact.Index()));
   };
@@ -65,13 +60,12 @@ frmEditCVspec::frmEditCVspec(shell::Workspace& workspace)
 
 void frmEditCVspec::HandleTrims() {
   for (int row = 0; row < kShownTrims; ++row) {
-    const auto trim = [this, row] { return static_cast<std::size_t>(VScroll1.Value() + row); };
-    Edits(
-        txt内弁Size[row],
-        [ this, trim ]() -> auto& { return Catalogue().valveSize[maker_][model_][trim()]; });
-    Edits(
-        txt弁Cv[row],
-        [ this, trim ]() -> auto& { return Catalogue().valveCv[maker_][model_][trim()]; });
+    Edits(txt内弁Size[row], [this, row]() -> std::string& {
+      return Catalogue().valveSize[maker_][model_][TrimIn(row)];
+    });
+    Edits(txt弁Cv[row], [this, row]() -> std::string& {
+      return Catalogue().valveCv[maker_][model_][TrimIn(row)];
+    });
     txt内弁Size[row].onArrow = [this, row](forms::Arrow arrow) {
       return MoveTrims(arrow, txt内弁Size, row);
     };
@@ -90,6 +84,11 @@ void frmEditCVspec::HandleTrims() {
   };
   VScroll1.SetLargeChange(kShownTrims);
   VScroll1.onChange = [this] { ShowTrims(); };
+}
+
+std::size_t frmEditCVspec::TrimIn(int row) const {
+  const int trim = VScroll1.Value() + row;
+  return static_cast<std::size_t>(trim);
 }
 
 template <class CellOf>
@@ -160,7 +159,7 @@ void frmEditCVspec::ShowModel() {
 void frmEditCVspec::ShowTrims() {
   const Quiet quiet(*this);
   for (int row = 0; row < kShownTrims; ++row) {
-    const auto trim = static_cast<std::size_t>(VScroll1.Value() + row);
+    const std::size_t trim = TrimIn(row);
     lblRow[row].SetText(std::to_string(trim + 1));
     txt内弁Size[row].SetText(Catalogue().valveSize[maker_][model_][trim]);
     txt弁Cv[row].SetText(Catalogue().valveCv[maker_][model_][trim]);
@@ -242,6 +241,7 @@ void frmEditCVspec::LayOut() {
     makers.emplace_back(optMaker[i]);
   }
   std::vector<forms::Line> models;
+  models.reserve(std::size(kSlots));
   for (int i = 0; i < optModel.Count(); ++i) {
     models.push_back({kSlots[i], optModel[i]});
   }

@@ -58,6 +58,8 @@ class frmEditCVspec : public shell::Sheet {
   void HandleTrims();
   void LayOut();
 
+  /// Trim that stands in a row of the page now.
+  std::size_t TrimIn(int row) const;
   /// The field writes its text into this cell of the table.
   template <class CellOf>
   void Edits(forms::TextBox& box, CellOf cellOf);

@@ -1,3 +1,4 @@
+#include "sheets/frm_cv.h"
 #include "sheets/frm_cv_correction.h"
 #include "sheets/frm_rating.h"
 #include "shell/sheet.h"
@@ -6,42 +7,24 @@
 namespace sheets {
 namespace {
 
-/// As much of a valve sheet as the dialogues see.
-class ValveSheet : public shell::Sheet,
-                   public RatingTarget,
-                   public CorrectionSource,
-                   public CatalogueUser {
- public:
-  explicit ValveSheet(shell::Workspace& workspace) : Sheet(workspace, "CV", "弁") {}
-
-  int BodySizeIndex() const override { return bodySize; }
-  std::string FlangeRating() const override { return rating; }
-  void TakeRating(const std::string& chosen, const std::string& taken) override {
-    rating = chosen;
-    bore = taken;
-  }
+/// A valve sheet whose last sizing was corrected in any way that a test wants to see.
+struct CorrectedSheet : shell::Sheet, CorrectionSource {
+  explicit CorrectedSheet(shell::Workspace& workspace) : Sheet(workspace, "CV", "弁") {}
   valve::CorrectionDetail Correction() const override { return detail; }
-  void CatalogueChanged() override { ++catalogueChanges; }
-
-  int bodySize = -1;
-  std::string rating;
-  std::string bore;
   valve::CorrectionDetail detail;
-  int catalogueChanges = 0;
 };
 
 class ValveDialogues : public SheetTest {
  protected:
-  ValveDialogues() {
-    bench.Forms().Provide("frmCV", [this] { return std::make_unique<ValveSheet>(bench.Space()); });
-    sheet = dynamic_cast<ValveSheet*>(&bench.Forms().Show("frmCV"));
-  }
-
+  void OpenSheet() { sheet = &dynamic_cast<frmCV&>(bench.Forms().Show("frmCV")); }
   bool IsOpen(const char* name) { return bench.Forms().Find(name) != nullptr; }
+
   /// Opens the detail form on this detail and tells the result labels in order; a hidden one is
   /// "-".
   Texts Shown(const char* form, const valve::CorrectionDetail& detail) {
-    sheet->detail = detail;
+    bench.Forms().Provide("frmCV",
+                          [this] { return std::make_unique<CorrectedSheet>(bench.Space()); });
+    dynamic_cast<CorrectedSheet&>(bench.Forms().Show("frmCV")).detail = detail;
     bench.Forms().Show(form);
     Texts texts;
     for (const forms::Control* control : bench.Forms().Active()->TabOrder()) {
@@ -54,7 +37,7 @@ class ValveDialogues : public SheetTest {
     return texts;
   }
 
-  ValveSheet* sheet = nullptr;
+  frmCV* sheet = nullptr;
 };
 
 // Bores: inside diameters of ASME B16.34, table A-1; JIS 10K 4 inch is 100A.
@@ -64,16 +47,17 @@ TEST_F(ValveDialogues, RatingGivesTheBoreOfTheBody) {
     const char* rating;
     const char* bore;
   } rows[] = {{8, " JPI 300#", "50.8"}, {15, " JPI 600#", "199.9"}, {12, " JIS 10K", "100"}};
+  OpenSheet();
   for (const auto& row : rows) {
-    sheet->bodySize = row.size;
-    bench.Forms().Show(frmRating::kName);
+    sheet->cboBodySize.Pick(row.size);
+    DblClick("txt弁口径");
     Pick("lstRating", Find<forms::ListBox>("lstRating").IndexOf(row.rating));
     DblClick("lstRating");
     EXPECT_FALSE(IsOpen(frmRating::kName));
-    EXPECT_EQ(sheet->bore, row.bore);
-    EXPECT_EQ(sheet->rating, row.rating);
+    EXPECT_EQ(sheet->txt弁口径.Text(), row.bore);
+    bench.Forms().CollectClosed();
   }
-  bench.Forms().Show(frmRating::kName);
+  DblClick("txt弁口径");
   EXPECT_EQ(Text("lstRating"), " JIS 10K");  // the last choice
   Find<forms::ListBox>("lstRating").PressEnter();
   EXPECT_FALSE(IsOpen(frmRating::kName));
@@ -81,24 +65,23 @@ TEST_F(ValveDialogues, RatingGivesTheBoreOfTheBody) {
 }
 
 TEST_F(ValveDialogues, RatingRefusesWhatTheTableLacks) {
-  bench.Forms().Show(frmRating::kName);
+  const Texts unknownSize = {"指定の弁サイズはﾃﾞｰﾀﾍﾞｰｽに登録されていません。"};
+  OpenSheet();
+  DblClick("txt弁口径");
+  EXPECT_EQ(TakeTexts(), unknownSize);
+  EXPECT_FALSE(IsOpen(frmRating::kName));
+  sheet->cboBodySize.Pick(0);  // 1/8 inch has no flange
+  DblClick("txt弁口径");
   EXPECT_EQ(Find<forms::ListBox>("lstRating").Count(), 16);
   Click("cmdOK");
   EXPECT_EQ(presenter.messages.shown.back().icon, common::Icon::kWarning);
   EXPECT_EQ(TakeTexts(), Texts{"フランジ規格が選択されていません。"});
   Pick("lstRating", 2);
-  for (const int size : {-1, 0, 27}) {  // none, 1/8 inch, beyond the table
-    sheet->bodySize = size;
-    Click("cmdOK");
-    EXPECT_EQ(TakeTexts().size(), 1U) << size;
-    EXPECT_TRUE(IsOpen(frmRating::kName));
-  }
-  sheet->bodySize = 0;
   Click("cmdOK");
   EXPECT_EQ(presenter.messages.shown.back().title, "調節弁口径");
-  EXPECT_EQ(TakeTexts(), Texts{"指定の弁サイズはﾃﾞｰﾀﾍﾞｰｽに登録されていません。"});
+  EXPECT_EQ(TakeTexts(), unknownSize);
   Click("cmdCancel");
-  EXPECT_EQ(sheet->bore + sheet->rating, "");
+  EXPECT_EQ(sheet->txt弁口径.Text() + sheet->FlangeRating(), "");
 }
 
 TEST_F(ValveDialogues, DetailOfAMicroFlowValveBy本山) {
@@ -166,15 +149,24 @@ TEST_F(ValveDialogues, CorrectionDataIsATableOfTheCurve) {
   EXPECT_EQ(bench.Forms().Active()->Name(), frmCv計算補正::kName);
 }
 
-TEST_F(ValveDialogues, OpenSheetsHearOfEditsInTheCatalogue) {
+TEST_F(ValveDialogues, OpenSheetFollowsEditsInTheCatalogue) {
   bench.Space().multiWindowMode = true;
+  OpenSheet();
+  sheet->cboMaker.Pick(2);
+  sheet->cboValveModel.Pick(1);
   bench.Window().Run("mnuCVcatalog");
   Choose("optMaker(2)");
-  EXPECT_EQ(sheet->catalogueChanges, 0);
-  Type("txtModel", "新しい型式");
-  EXPECT_EQ(sheet->catalogueChanges, 1);
+  Type("txtMaker", "新メーカー");
+  Choose("optModel(1)");
+  Type("txtModel", "新型式");
+  Type("txtFL", "0.77");
+  EXPECT_EQ(sheet->cboMaker.Text() + sheet->cboValveModel.Text(), "新メーカー新型式");
+  sheet->cboValveModel.Pick(1);
+  EXPECT_EQ(sheet->txtFL.Text(), "0.77");
+  sheet->cboMaker.SetText("他社");  // as a saved tag has it
   Click("cmdDeleteMaker");
-  EXPECT_EQ(sheet->catalogueChanges, 2);
+  EXPECT_EQ(sheet->cboMaker.Text(), "他社");
+  EXPECT_EQ(sheet->cboMaker.Items()[2], "");
 }
 
 }  // namespace
