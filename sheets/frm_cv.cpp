@@ -82,7 +82,7 @@ void frmCV::BindHandlers() {
 
 void frmCV::BindValveHandlers() {
   cboMaker.onClick = [this] { cboMaker_Click(); };
-  cboMaker.onChange = [this] { ClearSizingResults(); };
+  cboMaker.onChange = [this] { cboMaker_Change(); };
   cboValveModel.onClick = [this] { cboValveModel_Click(); };
   cboValveModel.onChange = [this] { ClearSizingResults(); };
   for (TextBox* box :
@@ -208,6 +208,15 @@ void frmCV::FillModels() {
   }
   const auto& models = common::At(Tables().valves.valveModel, cboMaker.Index());
   cboValveModel.SetItems({models.begin(), models.end()});
+}
+
+/// A maker was typed: his models are listed, and the model's text stays.
+void frmCV::cboMaker_Change() {
+  ClearSizingResults();
+  const std::string model = cboValveModel.Text();
+  FillModels();
+  const Quiet quiet(*this);
+  cboValveModel.SetText(model);
 }
 
 void frmCV::cboValveModel_Click() {

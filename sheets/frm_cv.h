@@ -148,6 +148,7 @@ class frmCV : public ProcessSheet,
   void lbl差圧_Click();
   void ShowPressureKind(bool secondary);
   void cboMaker_Click();
+  void cboMaker_Change();
   void FillModels();
   void cboValveModel_Click();
   void cbo配管材質_Click();
@@ -184,6 +185,7 @@ class frmCV : public ProcessSheet,
   std::vector<std::pair<int, Label*>> ResultColumns();
   void GetSelections(const shell::TagRow& record);
   void GetValve(const shell::TagRow& record);
+  void GetEntries(const shell::TagRow& record);
   void GetResults(const shell::TagRow& record);
 
   void PrintConditions(CalculationPage& page);

@@ -106,10 +106,7 @@ void frmCV::GetCV(int row) {
   ClearResults();
   GetSelections(record);
   GetValve(record);
-  // The wall's weight stands behind its material, whose choice would have worked it out anew.
-  for (const auto& [column, box] : EntryColumns()) {
-    box->SetText(record[static_cast<std::size_t>(column)]);
-  }
+  GetEntries(record);
   StoreEntries();
   GetResults(record);
 }
@@ -143,6 +140,13 @@ void frmCV::GetValve(const shell::TagRow& record) {
   lblフランジ規格.SetText(flangeRating_);
 }
 
+/// After the selections: a maker, a model or a material would fill fields.
+void frmCV::GetEntries(const shell::TagRow& record) {
+  for (const auto& [column, box] : EntryColumns()) {
+    box->SetText(record[static_cast<std::size_t>(column)]);
+  }
+}
+
 void frmCV::GetResults(const shell::TagRow& record) {
   const Quiet quiet(*this);
   for (const auto& [column, label] : ResultColumns()) {
@@ -150,7 +154,12 @@ void frmCV::GetResults(const shell::TagRow& record) {
   }
   lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
   Space().calcDone = !lblISA計算Cv.Text().empty();
-  if (!lblSizingCv.Text().empty()) RestoreSizing();
+  if (!lblSizingCv.Text().empty()) {
+    RestoreSizing();
+    // It reads as a calculation does, which fills defaults in; what was stored holds.
+    GetValve(record);
+    GetEntries(record);
+  }
   pic特性.Redraw();
 }
 

@@ -630,8 +630,15 @@ TEST_F(CvTest, RecallOfAValveThatIsNoLongerListed) {
   Click("cmdCv計算");
   Click("cmdSizing");
   EXPECT_EQ(Text("lblSizingCv"), "41.26");
+  tags.SetText(1, 29, "");  // an entry that a calculation would fill with its default
+  sheet.GetCV(1);
+  EXPECT_EQ(Text("txtFL"), "");
   sheet.AddCV(1);
   EXPECT_EQ(tags.Text(1, 25), "廃業メーカー");
+  // A maker typed by hand brings his models.
+  Find<forms::ComboBox>("cboMaker").SetText(Find<forms::ComboBox>("cboMaker").Items()[4]);
+  EXPECT_EQ(Find<forms::ComboBox>("cboValveModel").Items()[0], "VSM 微少流量弁");
+  EXPECT_EQ(Text("cboValveModel"), "旧形弁");
 }
 
 }  // namespace
