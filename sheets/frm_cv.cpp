@@ -371,6 +371,11 @@ void frmCV::ClearSizingResults() {
 
 void frmCV::DeclareLayout() {
   for (Label* label : {&lblFlash, &lblCritical, &lbl注意}) label->SetForeColor(forms::kMagenta);
+  // Two fields share a caption, so a screen reader needs names of their own.
+  txt上流配管外径.SetAccessibleName("上流配管外径");
+  txt上流配管厚.SetAccessibleName("上流配管厚さ");
+  txt下流配管外径.SetAccessibleName("下流配管外径");
+  txt下流配管厚.SetAccessibleName("下流配管厚さ");
   SetLayout(forms::Column({
       forms::Table({{lblタイトル}}),
       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),

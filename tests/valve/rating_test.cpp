@@ -180,31 +180,6 @@ TEST(Opening, MeetsTheEndsOfEachCharacteristic) {
   EXPECT_GT(Opening(kEqualPercent, 41, 40, 50), 1);
 }
 
-int OpeningFault(int characteristic, double ratedCv, double rangeability, double cv = 10) {
-  try {
-    Opening(characteristic, cv, ratedCv, rangeability);
-  } catch (const common::RuntimeFault& fault) {
-    return static_cast<int>(fault.Number());
-  }
-  return 0;
-}
-
-TEST(Opening, FaultsOfMissingEntries) {
-  const struct {
-    double ratedCv, rangeability;
-    int faults[5];  // by characteristic
-  } rows[] = {{0, 50, {11, 11, 11, 11, 11}}, {40, 0, {5, 11, 0, 11, 11}},
-              {0, 0, {11, 11, 11, 11, 11}},  {40, 1, {11, 11, 0, 11, 11}},
-              {10, 1, {11, 11, 0, 11, 11}},  // 0/0 counts as a division, too
-              {40, -5, {5, 0, 0, 0, 0}}};
-  for (const auto& row : rows) {
-    for (int i = 0; i < 5; ++i) {
-      EXPECT_EQ(OpeningFault(i, row.ratedCv, row.rangeability), row.faults[i])
-          << row.ratedCv << ' ' << row.rangeability << ' ' << i;
-    }
-  }
-}
-
 TEST(Trim, RangeabilityByModel) {
   const struct {
     const char* model;
