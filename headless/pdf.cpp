@@ -3,6 +3,7 @@
 #include "headless/pdf.h"
 
 #include <QGuiApplication>
+#include <cstdio>
 
 #include "desktop/paper/document.h"
 
@@ -10,11 +11,19 @@ namespace headless {
 
 namespace {
 
+/// What the toolkit has to say about a desktop that is not there is no concern of a script.
+void TellFailuresOnly(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) {
+    std::fprintf(stderr, "zepha-headless: %s\n", qPrintable(text));
+  }
+}
+
 void StartToolkit() {
   static int count = 1;
   static char name[] = "zepha-headless";
   static char* arguments[] = {name, nullptr};
   if (QGuiApplication::instance() != nullptr) return;
+  qInstallMessageHandler(TellFailuresOnly);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static const QGuiApplication toolkit(count, arguments);
 }

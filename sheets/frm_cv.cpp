@@ -55,7 +55,7 @@ frmCV::frmCV(shell::Workspace& workspace) : ProcessSheet(workspace, kKind, "Cont
   BindHandlers();
   BindValveHandlers();
   DeclareLayout();
-  ClearResults();
+  frmCV::ClearResults();  // hides the marks
 }
 
 void frmCV::BindHandlers() {

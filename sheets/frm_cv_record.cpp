@@ -72,32 +72,26 @@ std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
 }
 
 void frmCV::AddCV(int row) {
-  shell::TagStore& tags = Space().tags;
-  const auto put = [&](int column, std::string text) {
-    tags.SetText(row, column, std::move(text));
-  };
-  const auto putIndex = [&](int column, const ComboBox& box) {
-    put(column, std::to_string(box.Index()));
-  };
-  for (const auto& [column, box] : EntryColumns()) put(column, box->Text());
-  for (const auto& [column, box] : UnitColumns()) putIndex(column, *box);
-  for (const auto& [column, label] : ResultColumns()) put(column, label->Text());
-  putIndex(kFluid, cbo流体);
-  putIndex(kFlowUnit, FlowUnitBox());
-  putIndex(kDensityUnit, DensityUnitBox());
-  put(kSecondary, secondaryPressure_ ? "True" : "False");
-  put(kPressureKind, lbl差圧.Text());
-  put(kMaker, cboMaker.Text());
-  put(kModel, cboValveModel.Text());
-  put(kFlangeRating, flangeRating_);
-  put(kCharacteristic, cboCharact.Text());
-  putIndex(kCharacteristicIndex, cboCharact);
-  put(kBodySize, cboBodySize.Text());
-  put(kMaterial, cbo配管材質.Text());
-  putIndex(kMaterialIndex, cbo配管材質);
-  put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
-  put(shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
+  RecordWriter record(Space().tags, row);
+  record.PutTexts(EntryColumns());
+  for (const auto& [column, box] : UnitColumns()) record.PutIndex(column, *box);
+  record.PutTexts(ResultColumns());
+  record.PutIndex(kFluid, cbo流体);
+  record.PutIndex(kFlowUnit, FlowUnitBox());
+  record.PutIndex(kDensityUnit, DensityUnitBox());
+  record.PutFlag(kSecondary, secondaryPressure_);
+  record.Put(kPressureKind, lbl差圧.Text());
+  record.Put(kMaker, cboMaker.Text());
+  record.Put(kModel, cboValveModel.Text());
+  record.Put(kFlangeRating, flangeRating_);
+  record.Put(kCharacteristic, cboCharact.Text());
+  record.PutIndex(kCharacteristicIndex, cboCharact);
+  record.Put(kBodySize, cboBodySize.Text());
+  record.Put(kMaterial, cbo配管材質.Text());
+  record.PutIndex(kMaterialIndex, cbo配管材質);
+  record.Put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  Space().tags.tagModified = true;
 }
 
 void frmCV::GetCV(int row) {
