@@ -329,8 +329,10 @@ void ProcessSheet::StoreEntries() {
   process.temperatureUnit = cbo温度単位.Index();
   process.densityUnit = DensityUnitBox().Index();
   process.viscosityUnit = cbo粘性係数単位.Index();
-  process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
-  process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
+  process.pressureAbs =
+      Quietly([&] { return data::PressureToAbsolute(value(&txt圧力), process.pressureUnit); });
+  process.temperatureC =
+      Quietly([&] { return data::TemperatureToCelsius(process, value(&txt温度)); });
   process.temperatureK = process.temperatureC + 273.15;
   process.compressibilityZ =
       IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
@@ -359,8 +361,10 @@ void ProcessSheet::StoreHumidity() {
   process.relativeHumidity =
       Quietly([&] { return common::Single(Val(fields.txt相対湿度.Text())); });
   process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
-  process.saturationPressure = data::VapourPressureToAbsolute(
-      Quietly([&] { return Val(fields.txt飽和水蒸気圧.Text()); }), process.saturationPressureUnit);
+  process.saturationPressure = Quietly([&] {
+    return data::VapourPressureToAbsolute(Val(fields.txt飽和水蒸気圧.Text()),
+                                          process.saturationPressureUnit);
+  });
   if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
     process.flowBasis = data::kDryBase;
   }

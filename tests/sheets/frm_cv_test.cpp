@@ -318,6 +318,11 @@ TEST_F(CvTest, WhatClearsWhat) {
   EXPECT_EQ(Find<forms::ComboBox>("cbo圧力単位").Index(), 5);
 }
 
+TEST_F(CvTest, TypingIsNeverInterrupted) {
+  Enter("cbo圧力単位=1 txt圧力=1E308 txt温度=1E308 cbo温度単位=2 txt密度=1E308 txt流量=1E308");
+  EXPECT_EQ(TakeTexts(), Texts());
+}
+
 TEST_F(CvTest, PhaseTurnsFieldsOff) {
   EnterWater();
   Pick("cbo流体", kGas);
