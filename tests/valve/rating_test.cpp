@@ -37,7 +37,8 @@ TEST(Viscosity, FactorFollowsTheStandardsCurve) {
   EXPECT_NEAR(IsaReynoldsFactor(4e4), 1, 0.03);
   EXPECT_EQ(IsaReynoldsFactor(1e6), 1);
   Real last = 0;
-  for (double re = 0.01; re < 1e6; re *= 1.3) {
+  for (int tenths = -20; tenths <= 60; ++tenths) {
+    const double re = std::pow(10, tenths / 10.0);
     EXPECT_GE(IsaReynoldsFactor(re), last) << re;
     last = IsaReynoldsFactor(re);
   }
