@@ -263,6 +263,16 @@ TEST_F(PrintTest, PrinterMayBeCancelledOrFail) {
   EXPECT_EQ(presenter.messages.shown.size(), 1U);
 }
 
+// Reference data has no page of its own: its window is copied.
+TEST_F(PrintTest, EditorsPrintTheImageOfTheirWindow) {
+  shell::OpenSheet(Space(), "EditCV");
+  EXPECT_FALSE(Space().window.Find("mnuPrint")->enabled);
+  Space().window.Run("mnuHCopy");
+  shell::Print(Space());
+  EXPECT_EQ(platform.images, Texts({"frmEditCVspec", "frmEditCVspec"}));
+  EXPECT_TRUE(platform.pages.empty());
+}
+
 TEST_F(PrintTest, PreviewScrollsPrintsAndFreesItsCommands) {
   Recall(1);
   Space().window.Run("mnuPreview");
