@@ -123,6 +123,10 @@ void ProcessSheet::FillList(ComboBox& box, const std::vector<std::string>& items
   if (box.Count() > 0) box.SetIndex(0);
 }
 
+void ProcessSheet::SelectStored(ComboBox& box, const std::string& index) {
+  box.SetIndex(common::IntIndex(Val(index)));
+}
+
 void ProcessSheet::Load() {
   const Quiet quiet(*this);
   const data::ConvertLists& lists = Tables().lists;

@@ -143,11 +143,15 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
 
   /// Fills a list and selects its first entry, if it has one.
   static void FillList(ComboBox& box, const std::vector<std::string>& items);
+  /// Selects the entry whose index a tag record holds as text.
+  static void SelectStored(ComboBox& box, const std::string& index);
+
+  /// Shows the unit selectors of the phase and switches the fields that depend on it.
+  virtual void ShowUnitsOfPhase();
 
  private:
   void cbo流体_Click();
   void cbo流量単位_Click();
-  void ShowUnitsOfPhase();
   void SwitchHumidity();
   void UpdateFluidList();
   TextBox* FieldOf(const std::string& word);

@@ -6,7 +6,10 @@
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_te.h"
+#include "sheets/frm_tw.h"
 #include "sheets/small_dialogues.h"
+#include "sheets/thermowell_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 
@@ -26,6 +29,11 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmTW", std::type_identity<frmTW>());
+  provide(frm形状係数::kName, std::type_identity<frm形状係数>());
+  provide(frmTW判定条件::kName, std::type_identity<frmTW判定条件>());
+  provide(frm振動数判定::kName, std::type_identity<frm振動数判定>());
+  provide("frmTE", std::type_identity<frmTE>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());

@@ -288,17 +288,24 @@ VibrationMode ModeOf(Real reducedVelocity) {
   return VibrationMode::kTakenAsDrag;
 }
 
+std::optional<Real> NotchStressConcentration(Real radius, Real diameter) {
+  const Real x = 2 * radius / diameter;
+  if (x > 1.0) return std::nullopt;
+  const Real Kt = 1 / (1.3035 * pow(x, 3) - 2.5204 * pow(x, 2) + 1.8512 * x + 0.286);
+  return Kt < 1 ? Real(1) : Kt;
+}
+
 std::vector<SheddingPoint> SheddingCurve(const Thermowell& well, Real highest, int points) {
   std::vector<SheddingPoint> curve;
-  const Real entered = well.installKind == kInTank ? well.impellerSpeed : well.volumeFlow;
   for (int i = 0; i <= points; ++i) {
+    const Real ratio = highest * i / points;
     Thermowell at = well;
-    const Real flow = entered * highest * i / points;
-    (well.installKind == kInTank ? at.impellerSpeed : at.volumeFlow) = flow;
+    at.volumeFlow *= ratio;
+    at.impellerSpeed *= ratio;
     const std::optional<Real> velocity = FlowVelocity(at);
     if (!velocity) return {};
-    const Real St = SheddingStrouhal(TipReynolds(at, *velocity));
-    curve.push_back({flow, *velocity, St * *velocity / well.tipDiameter});
+    const Real strouhal = SheddingStrouhal(TipReynolds(at, *velocity));
+    curve.push_back({ratio, *velocity, strouhal * *velocity / well.tipDiameter});
   }
   return curve;
 }

@@ -176,14 +176,19 @@ Real CombinedStress(Real dragStress, Real randomStress, Real reducedVelocity);
 
 VibrationMode ModeOf(Real reducedVelocity);
 
+/// Stress concentration Kt at a shoulder with a chamfer of that radius on a well of that diameter,
+/// both in the same unit, at least 1. Nothing when the radius is more than half the diameter.
+std::optional<Real> NotchStressConcentration(Real radius, Real diameter);
+
 /// Vortex shedding over the range of the flow, for the chart.
 struct SheddingPoint {
-  Real flow;  // m3/h, in a tank revolutions per second
-  Real velocity;
-  Real vortexFrequency;
+  Real ratio;            // to the flow, or the speed of the impeller, that was entered
+  Real velocity;         // m/s
+  Real vortexFrequency;  // 1/s
 };
 
-/// Points from no flow to `highest` times the flow that was entered.
+/// Points from no flow to `highest` times the flow that was entered; none when the tip of the well
+/// reaches over the centre of the tank.
 std::vector<SheddingPoint> SheddingCurve(const Thermowell& well, Real highest, int points);
 
 }  // namespace temperature

@@ -343,7 +343,7 @@ TEST(Analysis, CurveOfSheddingPassesThroughTheEnteredFlow) {
   const auto curve = SheddingCurve(Straight(), 1.25, 100);
   ASSERT_EQ(curve.size(), 101u);
   EXPECT_EQ(curve.front().vortexFrequency, 0);
-  EXPECT_NEAR(curve[80].flow, 60, 1e-9);
+  EXPECT_NEAR(curve[80].ratio, 1, 1e-12);
   EXPECT_NEAR(curve[80].vortexFrequency, *Findings(Straight()).vortexFrequency, 1e-9);
 }
 
