@@ -5,6 +5,8 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_preview.h"
+#include "sheets/frm_print_all.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_te.h"
 #include "sheets/frm_tw.h"
@@ -36,6 +38,8 @@ void Workbench::ProvideForms() {
   provide("frmTE", std::type_identity<frmTE>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
+  provide(frmPreview::kName, std::type_identity<frmPreview>());
+  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
