@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "common/number.h"
+#include "common/text.h"
+#include "sheets/calculation_page.h"
 
 namespace sheets {
 
@@ -15,6 +17,9 @@ using common::Val;
 using forms::Cell;
 
 constexpr const char* kTemperatureFormat = "#,##0.0";
+
+constexpr const char* kPercent[frmTE::kLines] = {"0",  "10", "20", "30", "40", "50",
+                                                 "60", "70", "80", "90", "100"};
 
 /// Columns of the record that hold no entry.
 enum Column { kUnit = 6, kSensorKind = 7, kTemperatures = 8, kOutputs = 19, kUnused = 30 };
@@ -240,6 +245,33 @@ void frmTE::GetTC(int row) {
   if (complete && Space().tables.IsRead("TE.dat")) PrepareChart();
 }
 
+bool frmTE::printTC(shell::PrintSurface& target) {
+  // Bytes in which the columns of the table end.
+  constexpr int kPercentEnd = 10;
+  constexpr int kTemperatureEnd = 26;
+  constexpr int kOutputEnd = 44;
+  CalculationPage page(target);
+  page.Title("ＴＨＥＲＭＯ－ＥＬＥＭＥＮＴ　ＣＡＬＣＵＬＡＴＩＯＮ");
+  page.Section("入 力 デ ー タ");
+  page.Line("Ｔａｇ  Ｎo．  ", txtTagNo.Text());
+  page.Line("測 温 体 種 類", lbl測温体.Text());
+  page.Line("用          途", txt用途.Text());
+  page.Line("計  器  型  式", txtModel.Text());
+  page.Line("計器ケーカー  ", txtMaker.Text());
+  page.Line("計  器  目  盛", txtScale[0].Text() + " ～ " + txtScale[1].Text(), "℃");
+  page.Gap();
+  page.Section("計 算 結 果");
+  page.Text("   指示(%)     　温度(℃）　　　 " + lbl出力見出し.Text());
+  for (int i = 0; i < kLines; ++i) {
+    page.Text(common::PadLeftToBytes(kPercent[i], kPercentEnd) +
+              common::PadLeftToBytes(lbl温度[i].Text(), kTemperatureEnd - kPercentEnd) +
+              common::PadLeftToBytes(lblTE出力[i].Text(), kOutputEnd - kTemperatureEnd));
+  }
+  page.Gap();
+  if (!characteristic_.empty()) page.Picture(pic特性, pic特性.Width());
+  return true;
+}
+
 void frmTE::DeclareLayout() {
   SetLayout(forms::Column({
       forms::Table({{lblタイトル}}),
@@ -277,8 +309,6 @@ forms::Block frmTE::ConversionBlock() {
 
 forms::Block frmTE::CalibrationBlock() {
   std::vector<forms::Line> lines = {{"指示(%)", "温度(℃)", lbl出力見出し}};
-  static constexpr const char* kPercent[kLines] = {"0",  "10", "20", "30", "40", "50",
-                                                   "60", "70", "80", "90", "100"};
   for (int i = 0; i < kLines; ++i) lines.push_back({kPercent[i], lbl温度[i], lblTE出力[i]});
   return forms::Results("計器目盛較正", forms::Table(std::move(lines)));
 }

@@ -61,10 +61,13 @@ class frmTE : public shell::Sheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { addTC(row); }
   void GetFrom(int row) override { GetTC(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return printTC(target); }
   /// Writes entries and results into a row of the tag store.
   void addTC(int row);
   /// Fills the sheet from a row of its kind.
   void GetTC(int row);
+  /// Prints the calibration table and the characteristic.
+  bool printTC(shell::PrintSurface& target);
 
  private:
   void BindHandlers();

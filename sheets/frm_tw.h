@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "sheets/calculation_page.h"
 #include "sheets/chart.h"
 #include "sheets/process_sheet.h"
 #include "temperature/thermowell.h"
@@ -89,10 +90,13 @@ class frmTW : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { addTW(row); }
   void GetFrom(int row) override { GetTW(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintTW(target); }
   /// Writes entries and results into a row of the tag store.
   void addTW(int row);
   /// Fills the sheet from a row of its kind.
   void GetTW(int row);
+  /// Prints entries, results and judgements from the texts on the sheet.
+  bool PrintTW(shell::PrintSurface& target);
 
   /// Frequency, Vr and Cn of the three modes as texts, as far as they are known.
   std::vector<std::vector<std::string>> ModeRows() const;
@@ -155,6 +159,10 @@ class frmTW : public ProcessSheet, public PipeTarget {
   std::vector<std::pair<int, Label*>> ColourColumns();
   void GetMaterial(const shell::TagRow& record);
   void GetResults(const shell::TagRow& record);
+
+  void PrintConditions(CalculationPage& page);
+  void PrintWell(CalculationPage& page);
+  void PrintResults(shell::PrintSurface& target, CalculationPage& page);
 
   temperature::Thermowell well_;
   temperature::ThermowellFindings findings_;
