@@ -130,13 +130,13 @@ void Chart::Level(double y, forms::Color color) {
   surface_.Line(left_, Y(y), right_, Y(y));
 }
 
-void Chart::Upright(double x, forms::Color color, const std::string& name) {
+void Chart::Upright(double x, forms::Color color, const std::string& name, int row) {
   if (x <= x_.low || x >= x_.high) return;
   DashedLine({x, y_.low}, {x, y_.high}, color);
   const double width = surface_.TextWidth(name);
   const double at = X(x) + kTickLength / 2;
-  surface_.Text(at + width > right_ ? X(x) - width - kTickLength / 2 : at, top_ + kTickLength / 2,
-                name);
+  surface_.Text(at + width > right_ ? X(x) - width - kTickLength / 2 : at,
+                top_ + kTickLength / 2 + row * surface_.TextHeight(), name);
 }
 
 void Chart::HatchLevels(double from, double to, forms::Color color) {
@@ -177,7 +177,8 @@ void Chart::Note(double x, double y, const std::string& text, forms::Color color
   if (atX + width > right_) atX = X(x) - width - kTickLength;
   const double above = Y(y) - line - kTickLength;
   const double below = Y(y) + kTickLength;
-  const bool goesBelow = side == Side::kBelow ? below + line < bottom_ : above < top_;
+  const bool goesBelow =
+      side == Side::kBelow ? below + line < bottom_ - kStripHeight : above < top_;
   surface_.SetColor(color);
   surface_.Text(std::max(atX, left_ + kTickLength), goesBelow ? below : above, text);
 }

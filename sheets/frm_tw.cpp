@@ -328,6 +328,7 @@ void frmTW::ShowFindings() {
   ShowFrequencies();
   ShowStresses();
   ShowJudgements();
+  ShowNotes();
   PrepareChart();
 }
 
@@ -341,7 +342,6 @@ void frmTW::ShowFrequencies() {
   }
   if (found.natural) {
     lbl固有振動数.SetText(Format(found.natural->hertz[0], "###,##0.0"));
-    lbl固有振動数.SetToolTip(NoteOf(found.natural->method));
   }
   if (found.margin) lbl固有振動数.SetForeColor(ColorOf(*found.margin));
   if (found.reducedVelocity) lblVr.SetText(Format((*found.reducedVelocity)[0], "##0.00"));
@@ -352,12 +352,9 @@ Real frmTW::StressInUnit(Real stress) const {
   return stress / kMm2PerM2 * (cbo許容応力単位.Index() > 0 ? kNewtonPerKgf : 1);
 }
 
-std::string frmTW::SizedText(Real value, const char* smallFormat) {
-  return Format(value, value < 10 ? smallFormat : value < 100 ? "##0.00" : "###0.0");
-}
-
 std::string frmTW::StressText(Real stress, const char* smallFormat) const {
-  return SizedText(StressInUnit(stress), smallFormat);
+  const Real value = StressInUnit(stress);
+  return Format(value, value < 10 ? smallFormat : value < 100 ? "##0.00" : "###0.0");
 }
 
 void frmTW::ShowStresses() {
@@ -369,7 +366,6 @@ void frmTW::ShowStresses() {
   } else {
     lbl励振力.SetText(StressText(amplitude, "##0.000"));
   }
-  concentratedAmplitude_ = StressText(amplitude * well_.stressConcentration, "##0.000");
 }
 
 void frmTW::ShowJudgements() {
@@ -389,11 +385,18 @@ void frmTW::ShowJudgements() {
   const Judgement fatigue = JudgementOf(findings_.fatigue);
   lbl励振力判定.SetForeColor(fatigue.color);
   lbl励振力判定.SetText(fatigue.text);
-  ShowVibrationMode();
+}
+
+void frmTW::ShowNotes() {
+  if (findings_.natural) lbl固有振動数.SetToolTip(NoteOf(findings_.natural->method));
+  if (findings_.randomStress) {
+    concentratedAmplitude_ =
+        StressText(*findings_.randomStress * well_.stressConcentration, "##0.000");
+  }
+  if (findings_.bending) ShowVibrationMode();
 }
 
 void frmTW::ShowVibrationMode() {
-  if (!findings_.bending) return;
   const bool rated = !lbl励振力.Text().starts_with("xxxx");
   const std::string mode =
       rated ? NoteOf(temperature::ModeOf((*findings_.reducedVelocity)[0])) : "";

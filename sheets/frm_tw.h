@@ -139,12 +139,14 @@ class frmTW : public ProcessSheet, public PipeTarget {
   void ShowFrequencies();
   void ShowStresses();
   void ShowJudgements();
+  /// What belongs to the results without standing in a text of the record: tool tips and the
+  /// amplitude that is printed.
+  void ShowNotes();
   void ShowVibrationMode();
   std::string DragNote() const;
   /// A stress in kgf/m2 in the unit of the allowable stress, per mm2.
   Real StressInUnit(Real stress) const;
-  /// Three, two or one decimals by size.
-  static std::string SizedText(Real value, const char* smallFormat);
+  /// Three, two or one decimals by the size of what is shown.
   std::string StressText(Real stress, const char* smallFormat) const;
 
   /// What the chart shows: nothing before there is a flow.

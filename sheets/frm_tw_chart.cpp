@@ -71,7 +71,8 @@ void frmTW::DrawChart(forms::DrawSurface& surface) const {
   chart.DashedLine({flow, 0}, {flow, entered}, forms::kBlue);
   chart.Dot(flow, entered, forms::kBlue);
   chart.Note(0, natural, "fn " + common::Format(natural, "#,##0.0"), forms::kBlack);
-  chart.Note(flow, entered, "fs " + common::Format(entered, "#,##0.0"), forms::kBlue);
+  chart.Note(flow, entered, "fs " + common::Format(entered, "#,##0.0"), forms::kBlue,
+             Chart::Side::kBelow);
 }
 
 /// Ranges of the reduced velocity in which the vortices may lock in: in the direction of the flow
@@ -87,10 +88,10 @@ void frmTW::DrawVrLimits(Chart& chart) const {
   if (!inLine) return;
   const std::optional<double> across = flowAt(temperature::kCrossFlowVr);
   chart.Strip(*inLine, across.value_or(end), forms::kMagenta);
-  chart.Upright(*inLine, forms::kMagenta, "Vr 1.0");
+  chart.Upright(*inLine, forms::kMagenta, "Vr 1.0～ 流れ方向");
   if (!across) return;
   chart.Strip(*across, end, forms::kRed);
-  chart.Upright(*across, forms::kRed, "Vr 3.3");
+  chart.Upright(*across, forms::kRed, "Vr 3.3～ 直角方向", 1);
 }
 
 }  // namespace sheets

@@ -18,6 +18,12 @@ enum Column { kFlowUnit = 14, kDensityUnit = 8, kMaterial = 16, kMaterialText = 
 /// Records marked older have other columns from 28 on, which reading a file empties.
 constexpr const char* kVersion = "Ver 2.2";
 
+/// Hears nothing: what a calculation had to say was said before its result was stored.
+class Silent : public common::Messages {
+ public:
+  common::Answer Present(const common::Message&) override { return common::Answer::kOk; }
+};
+
 bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
 
 }  // namespace
@@ -123,11 +129,12 @@ void frmTW::GetResults(const shell::TagRow& record) {
     ReadDensities();
     ReadFlow();
     ReadWell();
-    concentratedAmplitude_ =
-        SizedText(Val(lbl励振力.Text()) * well_.stressConcentration, "##0.000");
+    Silent silent;
+    temperature::AnalyseThermowell(well_, silent, findings_);
+    ShowNotes();
     PrepareChart();
   } catch (const common::RuntimeFault&) {
-    // A record whose entries do not convert shows its results without the diagram.
+    // A record whose entries cannot be calculated shows its results without notes and diagram.
   }
 }
 

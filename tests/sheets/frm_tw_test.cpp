@@ -237,6 +237,7 @@ TEST_F(ThermowellSheetTest, RecordBringsEverythingBack) {
   EXPECT_EQ(Text("txt許容応力"), "9.9");
   EXPECT_EQ(Text("lbl流量"), "流　　　　　量");
   EXPECT_EQ(Colour("lbl同期振動判定"), forms::kRed);
+  EXPECT_EQ(Find("lbl励振力判定").ToolTip(), "抗力方向応力と仮定して曲げ応力を判定");
   sheet.AddTo(2);
   for (std::size_t column = 0; column < record.size(); ++column) {
     EXPECT_EQ(tags.Row(2)[column], record[column]) << column;
