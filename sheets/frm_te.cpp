@@ -75,12 +75,16 @@ void frmTE::ConvertTyped() {
   lbl換算出力.SetText("");
   lblTemp.SetText("");
   if (!Space().tables.IsRead("TE.dat")) return;
-  const Real t = Val(txt温度.Text());
-  const bool inRange =
-      t >= At(Sensors().rangeLow, sensorKind_)[0] && t <= At(Sensors().rangeHigh, sensorKind_)[2];
-  if (inRange) CalcSensorOutput();
-  const bool ambiguous = sensorKind_ == temperature::kPt100 && Val(txtEMF.Text()) <= 0;
-  if (!txtEMF.Text().empty() && !ambiguous) CalcTemperature();
+  try {
+    const Real t = Val(txt温度.Text());
+    const bool inRange =
+        t >= At(Sensors().rangeLow, sensorKind_)[0] && t <= At(Sensors().rangeHigh, sensorKind_)[2];
+    if (inRange) CalcSensorOutput();
+    const bool ambiguous = sensorKind_ == temperature::kPt100 && Val(txtEMF.Text()) <= 0;
+    if (!txtEMF.Text().empty() && !ambiguous) CalcTemperature();
+  } catch (const common::RuntimeFault&) {
+    // A number beyond all limits has no answer either.
+  }
 }
 
 void frmTE::ShowKind() {

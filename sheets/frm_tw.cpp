@@ -232,6 +232,7 @@ void frmTW::cmdデータ消去_Click() {
     for (forms::Control* control : Controls()) {
       if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
     }
+    if (cbo保護管材質.Count() > 0) cbo保護管材質.SetIndex(0);
     filledTemperature_ = TemperatureEntry();
   }
   if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
@@ -479,13 +480,16 @@ forms::Block frmTW::MaterialBlock() {
 }
 
 forms::Block frmTW::WellBlock() {
-  return forms::Group("保護管寸法",
-                      forms::Table({
-                          {lbl保護管長, txt保護管長, "mm", lbl挿入長, txt挿入長, "mm"},
-                          {lbl先端外径, txt先端外径, "mm", lbl根元外径, txt根元外径, "mm"},
-                          {lbl保護管内径, txt保護管内径, "mm", lblWellT, txtWellT, "mm"},
-                          {lbl臨界減衰率, txt臨界減衰率, "", lbl応力集中係数, txt応力集中係数, ""},
-                      }));
+  constexpr int kNarrow = 7;
+  const auto field = [](TextBox& box) { return Cell(box).Wide(kNarrow); };
+  return forms::Group(
+      "保護管寸法",
+      forms::Table({
+          {lbl保護管長, field(txt保護管長), "mm", lbl挿入長, field(txt挿入長), "mm"},
+          {lbl先端外径, field(txt先端外径), "mm", lbl根元外径, field(txt根元外径), "mm"},
+          {lbl保護管内径, field(txt保護管内径), "mm", lblWellT, field(txtWellT), "mm"},
+          {lbl臨界減衰率, field(txt臨界減衰率), "", lbl応力集中係数, field(txt応力集中係数), ""},
+      }));
 }
 
 forms::Block frmTW::ResultBlock() {

@@ -72,7 +72,7 @@ class frmTW : public ProcessSheet, public PipeTarget {
   ResultLabel lbl励振力{*this, "lbl励振力"};
   Label lbl励振力単位{*this, "lbl励振力単位", "", LabelStyle::kUnit};
   ResultLabel lbl励振力判定{*this, "lbl励振力判定"};
-  forms::Picture pic周波数{*this, "pic周波数", 6300, 5500};
+  forms::Picture pic周波数{*this, "pic周波数", 5500, 4900};
 
   Button cmd判定条件{*this, "cmd判定条件", "判定条件"};
   Button cmd振動数{*this, "cmd振動数", "高次振動数"};

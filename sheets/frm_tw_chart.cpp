@@ -11,6 +11,8 @@ namespace {
 
 constexpr double kBeyond = 1.25;  // of the entered flow
 constexpr int kPoints = 120;
+/// Room above the highest frequency for the names of the uprights.
+constexpr double kHeadroom = 1.16;
 
 /// Ratio of the flow at which the well meets a velocity, on the straight line between two points of
 /// the curve; nothing beyond its end.
@@ -59,7 +61,7 @@ void frmTW::DrawChart(forms::DrawSurface& surface) const {
     if (point.ratio <= 1 + 1e-9) entered = point.vortexFrequency;
   }
   Chart chart(surface, pic周波数.Width(), pic周波数.Height(),
-              {shedding_->flowTitle, 0, flow * kBeyond}, {"周波数 (Hz)", 0, highest * 1.08});
+              {shedding_->flowTitle, 0, flow * kBeyond}, {"周波数 (Hz)", 0, highest * kHeadroom});
   chart.Legend("fn 固有振動数(1次)", forms::kBlack);
   chart.Legend("fs カルマン渦", forms::kBlue);
   chart.Legend("fn/fs 0.7～1.3", forms::kRed);
