@@ -146,9 +146,12 @@ void Chart::HatchLevels(double from, double to, forms::Color color) {
   surface_.SetColor(color);
   surface_.SetLineWidth(0.4);
   // Strokes at 45 degrees, cut at the sides.
-  for (double x = left_ - (bottom - top); x < right_; x += kHatchPitch) {
+  const double height = bottom - top;
+  const int strokes = common::IntIndex((right_ - left_ + height) / kHatchPitch);
+  for (int i = 0; i <= strokes; ++i) {
+    const double x = left_ - height + i * kHatchPitch;
     const double x1 = std::max(x, left_);
-    const double x2 = std::min(x + bottom - top, right_);
+    const double x2 = std::min(x + height, right_);
     if (x1 < x2) surface_.Line(x1, bottom - (x1 - x), x2, bottom - (x2 - x));
   }
   surface_.DashedLine(left_, top, right_, top);

@@ -1,7 +1,6 @@
 #include "sheets/frm_tw.h"
 
 #include "common/number.h"
-#include "data/material_table.h"
 #include "data/units.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/thermowell_dialogues.h"
@@ -204,21 +203,19 @@ void frmTW::FillDensity() {
 }
 
 void frmTW::FillYoungsModulus() {
-  if (!HasMaterial()) return;
-  StoreEntries();
-  const Real modulus =
-      data::MaterialYoungsModulus(Tables().materials, cbo保護管材質.Index(), Process(), User());
-  const bool inNewton = cboヤング率単位.Index() > 0;
-  txtヤング率.SetText(NumberText(RoundDigits(inNewton ? modulus * kNewtonPerKgf : modulus, 0)));
+  FillPerMm2(data::MaterialYoungsModulus, txtヤング率, cboヤング率単位, 0);
 }
 
 void frmTW::FillAllowableStress() {
+  FillPerMm2(data::MaterialAllowableStress, txt許容応力, cbo許容応力単位, 1);
+}
+
+void frmTW::FillPerMm2(Estimator estimate, TextBox& box, const ComboBox& unit, int digits) {
   if (!HasMaterial()) return;
   StoreEntries();
-  const Real stress =
-      data::MaterialAllowableStress(Tables().materials, cbo保護管材質.Index(), Process(), User());
-  const bool inNewton = cbo許容応力単位.Index() > 0;
-  txt許容応力.SetText(NumberText(RoundDigits(inNewton ? stress * kNewtonPerKgf : stress, 1)));
+  const Real value = estimate(Tables().materials, cbo保護管材質.Index(), Process(), User());
+  const bool inNewton = unit.Index() > 0;
+  box.SetText(NumberText(RoundDigits(inNewton ? value * kNewtonPerKgf : value, digits)));
 }
 
 void frmTW::RefillMaterial() {

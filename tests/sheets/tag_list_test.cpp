@@ -331,7 +331,7 @@ TEST_F(SheetTest, SamplePlantStandsAsCalculated) {
       direction->Choose();
     }
     const shell::TagRow record = tags.Row(row);
-    TakeTexts();
+    EXPECT_EQ(TakeTexts(), Texts());
     sheet.Find("cmd計算")->Click();
     EXPECT_TRUE(bench.Space().calcDone);
     // One well stands above Vr 5, where the fatigue is not rated.
