@@ -5,9 +5,11 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_press_loss.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
@@ -28,6 +30,9 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmPressLoss", std::type_identity<frmPressLoss>());
+  provide(frmRoughness::kName, std::type_identity<frmRoughness>());
+  provide(frmInletType::kName, std::type_identity<frmInletType>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
