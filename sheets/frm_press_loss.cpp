@@ -2,6 +2,7 @@
 
 #include "common/number.h"
 #include "data/units.h"
+#include "forms/placed_surface.h"
 #include "sheets/chart.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/list_texts.h"
@@ -77,6 +78,9 @@ void frmPressLoss::BindHandlers() {
   txtInletType.onRightClick = Label29.onClick;
   cmdInletType.onClick = Label29.onClick;
   txtInletType.SetToolTip("ダブルクリックで形状の図から選びます。");
+  pic管端.onPaint = [this](forms::DrawSurface& surface) { DrawEnds(surface); };
+  pic管端.onClick = Label29.onClick;
+  pic管端.SetToolTip(Label29.ToolTip());
   pic圧力.onPaint = [this](forms::DrawSurface& surface) { DrawPressures(surface); };
   cmdInitialize.onClick = [this] { cmdInitialize_Click(); };
   cmd計算.onClick = [this] { cmd計算_Click(); };
@@ -178,7 +182,7 @@ void frmPressLoss::ClearResults() {
   lblVelosityOut.SetForeColor(forms::kBlack);
   lblVelosityOut.SetToolTip("");
   diagram_.reset();
-  pic圧力.Redraw();
+  for (forms::Picture* picture : {&pic圧力, &pic管端}) picture->Redraw();
   Space().calcDone = false;
 }
 
@@ -202,15 +206,16 @@ void frmPressLoss::CorrectShape() {
   txt円錐角度[kOut].SetText(shape.outlet.angle);
 }
 
+piping::Terminal frmPressLoss::EnteredTerminal(int end) const {
+  return {Val(txt管径比率[end].Text()), Val(txt円錐角度[end].Text())};
+}
+
 piping::Line frmPressLoss::EnteredLine() {
   data::ProcessState& process = Process();
-  const auto terminal = [this](int end) {
-    return piping::Terminal{Val(txt管径比率[end].Text()), Val(txt円錐角度[end].Text())};
-  };
   piping::Line line;
   line.inletType = common::IntIndex(Val(txtInletType.Text()));
-  line.inlet = terminal(kIn);
-  line.outlet = terminal(kOut);
+  line.inlet = EnteredTerminal(kIn);
+  line.outlet = EnteredTerminal(kOut);
   line.roughness = Val(txtPipeRoughness.Text());
   line.pipeLength = Val(txtPipeLength.Text());
   ReadDensities();
@@ -271,6 +276,12 @@ void frmPressLoss::CautionVelocity(const piping::LineLoss& loss) {
   lblVelosityOut.SetForeColor(forms::kMagenta);
   lblVelosityOut.SetToolTip(
       "等温流れの限界流速 √(P/ρ) を超えています。この流量は配管を流れません。");
+}
+
+void frmPressLoss::DrawEnds(forms::DrawSurface& surface) const {
+  DrawInlet(surface, common::IntIndex(Val(txtInletType.Text())), EnteredTerminal(kIn));
+  forms::PlacedSurface right(surface, kPipeEndWidth, 0, 1, 1);
+  DrawOutlet(right, EnteredTerminal(kOut));
 }
 
 void frmPressLoss::PrepareDiagram(const piping::Line& line, const piping::LineLoss& loss) {
@@ -371,6 +382,7 @@ forms::Block frmPressLoss::ShapeBlock() {
                                             {"", lbl流入部, lbl流出部},
                                             {lbl管径比率, txt管径比率[kIn], txt管径比率[kOut], ""},
                                             {lbl円錐角度, txt円錐角度[kIn], txt円錐角度[kOut], "°"},
+                                            {Cell(pic管端).Over(4)},
                                         }));
 }
 

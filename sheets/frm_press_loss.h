@@ -5,6 +5,7 @@
 
 #include "piping/pressure_loss.h"
 #include "sheets/calculation_page.h"
+#include "sheets/pipe_ends.h"
 #include "sheets/process_sheet.h"
 #include "sheets/tag_record.h"
 
@@ -45,6 +46,8 @@ class frmPressLoss : public ProcessSheet, public PipeTarget {
   forms::ControlArray<TextBox> txt管径比率{*this, "txt管径比率", 2, forms::NumberKeys};
   Label lbl円錐角度{*this, "lbl円錐角度", "円錐角度"};
   forms::ControlArray<TextBox> txt円錐角度{*this, "txt円錐角度", 2, forms::NumberKeys};
+  /// The ends as they are entered.
+  forms::Picture pic管端{*this, "pic管端", 2 * kPipeEndWidth, kPipeEndHeight};
   forms::ControlArray<Label> lbl付属品{*this, "lbl付属品", kFittings};
   forms::ControlArray<TextBox> txt付属品数{*this, "txt付属品数", kFittings, forms::NumberKeys};
 
@@ -103,12 +106,14 @@ class frmPressLoss : public ProcessSheet, public PipeTarget {
 
   void EmptyFluid();
   void ShowLossUnit();
+  void DrawEnds(forms::DrawSurface& surface) const;
   void cmdInitialize_Click();
   void cmd計算_Click();
 
   /// Reads the panel and corrects the shapes, with their messages.
   void ReadInputs();
   void CorrectShape();
+  piping::Terminal EnteredTerminal(int end) const;
   /// The line as it stands on the sheet, once the panel has been read.
   piping::Line EnteredLine();
   void ShowResults(const piping::Line& line, const piping::LineLoss& loss);

@@ -15,6 +15,8 @@ constexpr const char* kMillimetre = "    mm";
 constexpr int kFittingsPerLine = 2;
 constexpr int kNameBytes = 11;
 constexpr int kCountBytes = 6;
+constexpr const char* kBetween = "  ";
+constexpr int kLineBytes = kFittingsPerLine * (kNameBytes + kCountBytes) + 2;
 
 }  // namespace
 
@@ -71,12 +73,14 @@ void frmPressLoss::PrintFittings(CalculationPage& page) {
       lines.emplace_back();
       inLine = 0;
     }
-    lines.back() += (inLine++ == 0 ? "" : "  ") +
+    lines.back() += (inLine++ == 0 ? "" : kBetween) +
                     common::PadToBytes(lbl付属品[i].Text(), kNameBytes) +
                     common::PadLeftToBytes(count, kCountBytes);
   }
   page.Line("配　管　付  属  品", lines.empty() ? "" : lines.front());
-  for (std::size_t i = 1; i < lines.size(); ++i) page.Continued(lines[i]);
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    page.Continued(common::PadToBytes(lines[i], kLineBytes));
+  }
 }
 
 void frmPressLoss::PrintResults(CalculationPage& page) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/controls.h"
+#include "sheets/pipe_ends.h"
 #include "shell/workspace.h"
 
 namespace sheets {
@@ -33,7 +34,8 @@ class frmInletType : public forms::Form {
   static constexpr const char* kName = "frmInletType";
   static constexpr int kTypes = 5;
 
-  forms::ControlArray<forms::Picture> picInlet{*this, "picInlet", kTypes, 2300.0, 1500.0};
+  forms::ControlArray<forms::Picture> picInlet{*this, "picInlet", kTypes, kPipeEndWidth,
+                                               kPipeEndHeight};
   forms::ControlArray<forms::Button> cmdInlet{*this, "cmdInlet", kTypes, std::string()};
   forms::Button cmdCancel{*this, "cmdCancel", "キャンセル", forms::ButtonRole::kCancel};
 
