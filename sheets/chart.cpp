@@ -130,13 +130,13 @@ void Chart::Level(double y, forms::Color color) {
   surface_.Line(left_, Y(y), right_, Y(y));
 }
 
-void Chart::Upright(double x, forms::Color color, const std::string& name) {
+void Chart::Upright(double x, forms::Color color, const std::string& name, int row) {
   if (x <= x_.low || x >= x_.high) return;
   DashedLine({x, y_.low}, {x, y_.high}, color);
   const double width = surface_.TextWidth(name);
   const double at = X(x) + kTickLength / 2;
-  surface_.Text(at + width > right_ ? X(x) - width - kTickLength / 2 : at, top_ + kTickLength / 2,
-                name);
+  surface_.Text(at + width > right_ ? X(x) - width - kTickLength / 2 : at,
+                top_ + kTickLength / 2 + row * surface_.TextHeight(), name);
 }
 
 void Chart::HatchLevels(double from, double to, forms::Color color) {
@@ -146,9 +146,12 @@ void Chart::HatchLevels(double from, double to, forms::Color color) {
   surface_.SetColor(color);
   surface_.SetLineWidth(0.4);
   // Strokes at 45 degrees, cut at the sides.
-  for (double x = left_ - (bottom - top); x < right_; x += kHatchPitch) {
+  const double height = bottom - top;
+  const int strokes = common::IntIndex((right_ - left_ + height) / kHatchPitch);
+  for (int i = 0; i <= strokes; ++i) {
+    const double x = left_ - height + i * kHatchPitch;
     const double x1 = std::max(x, left_);
-    const double x2 = std::min(x + bottom - top, right_);
+    const double x2 = std::min(x + height, right_);
     if (x1 < x2) surface_.Line(x1, bottom - (x1 - x), x2, bottom - (x2 - x));
   }
   surface_.DashedLine(left_, top, right_, top);
@@ -177,7 +180,8 @@ void Chart::Note(double x, double y, const std::string& text, forms::Color color
   if (atX + width > right_) atX = X(x) - width - kTickLength;
   const double above = Y(y) - line - kTickLength;
   const double below = Y(y) + kTickLength;
-  const bool goesBelow = side == Side::kBelow ? below + line < bottom_ : above < top_;
+  const bool goesBelow =
+      side == Side::kBelow ? below + line < bottom_ - kStripHeight : above < top_;
   surface_.SetColor(color);
   surface_.Text(std::max(atX, left_ + kTickLength), goesBelow ? below : above, text);
 }

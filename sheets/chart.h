@@ -26,8 +26,8 @@ class Chart {
   void DashedLine(std::pair<double, double> from, std::pair<double, double> to, forms::Color color);
   /// A level over the whole width.
   void Level(double y, forms::Color color);
-  /// A dashed upright over the whole height, with its name at the top.
-  void Upright(double x, forms::Color color, const std::string& name);
+  /// A dashed upright over the whole height, with its name in a row from the top (from 0).
+  void Upright(double x, forms::Color color, const std::string& name, int row = 0);
   /// Hatches the levels from one to the other.
   void HatchLevels(double from, double to, forms::Color color);
   /// A bar along the lower axis.

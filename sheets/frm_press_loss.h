@@ -2,12 +2,13 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "piping/pressure_loss.h"
 #include "sheets/calculation_page.h"
 #include "sheets/pipe_ends.h"
 #include "sheets/process_sheet.h"
-#include "sheets/tag_record.h"
 
 namespace sheets {
 
@@ -127,7 +128,9 @@ class frmPressLoss : public ProcessSheet, public PipeTarget {
   /// Calculates a recalled line once more for its diagram alone.
   void RestoreDiagram();
 
-  TagColumns RecordColumns();
+  std::vector<std::pair<int, ComboBox*>> SelectionColumns();
+  std::vector<std::pair<int, TextBox*>> EntryColumns();
+  std::vector<std::pair<int, Label*>> ResultColumns();
 
   void PrintConditions(CalculationPage& page);
   void PrintPipe(CalculationPage& page);
