@@ -404,6 +404,12 @@ TEST_F(CvTest, DialoguesFillPipeBoreAndWall) {
   Pick("cbo配管材質", 0);
   EXPECT_NEAR(Number("txtWallWeight"), 7850 * 6.0 / 1000, 0.1);
   EXPECT_EQ(TakeTexts(), Texts());
+  Type("txt温度", "2000");  // beyond the equation, which is told once
+  Pick("cbo配管材質", 0);
+  ASSERT_EQ(presenter.messages.shown.size(), 1U);
+  EXPECT_EQ(presenter.messages.shown[0].title, "材料密度");
+  EXPECT_EQ(Text("txtWallWeight"), "0");
+  TakeTexts();
   Pick("cboBodySize", -1);
   DblClick("txt弁口径");
   ASSERT_EQ(presenter.messages.shown.size(), 1U);
