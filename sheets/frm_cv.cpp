@@ -323,8 +323,7 @@ void frmCV::cbo配管材質_Click() {
     return;
   }
   // A temperature outside its range gives 0 and is told there.
-  const Real density =
-      data::MaterialDensity(materials, material, Process().temperatureC, User());
+  const Real density = data::MaterialDensity(materials, material, Process().temperatureC, User());
   txtWallWeight.SetText(NumberText(WallWeight(density, Val(txt下流配管厚.Text()))));
 }
 

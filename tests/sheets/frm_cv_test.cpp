@@ -527,6 +527,24 @@ TEST_F(CvTest, RecordBringsEverythingBack) {
   EXPECT_GT(sheet.Correction().fp, 0);  // worked out again for the detail
 }
 
+// Only a record can have a Cv without a flow. 0/0 counts as missing data in every rule.
+TEST_F(CvTest, RecalledTagWithoutAFlowMissesData) {
+  EnterWater();
+  Enter("txtTagNo=FV-1 txt粘性係数=200");
+  Rate();
+  shell::RegisterTag(Space());
+  Space().tags.SetText(1, 3, "");
+  auto& sheet = dynamic_cast<frmCV&>(*bench.Forms().Active());
+  for (const char* model : {"", "06-M 微少流量弁"}) {
+    SCOPED_TRACE(model);
+    Space().tags.SetText(1, 25, "本山（標準値）");
+    Space().tags.SetText(1, 27, model);
+    sheet.GetCV(1);
+    Click("cmdSizing");
+    EXPECT_EQ(TakeTexts(), kMissing);
+  }
+}
+
 TEST_F(CvTest, RecallOfAValveThatIsNoLongerListed) {
   EnterWater();
   Type("txtTagNo", "FV-1");
