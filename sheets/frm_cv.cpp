@@ -328,6 +328,7 @@ void frmCV::cbo配管材質_Click() {
 }
 
 void frmCV::cmdAllData消去_Click() {
+  txt比熱比.SetText("");  // not in silence: the caution of a doubtful estimate goes with it
   {
     const Quiet quiet(*this);
     for (forms::Control* control : Controls()) {

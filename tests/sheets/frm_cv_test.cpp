@@ -347,6 +347,21 @@ TEST_F(CvTest, FluidListFillsAllFourLiquidProperties) {
   EXPECT_NEAR(Number("txt臨界圧力"), 22.1, 0.1);
 }
 
+// The exponent of steam is estimated far too low, which colour and tool tip say of it alone.
+TEST_F(CvTest, CautionOfAnEstimateGoesWithIt) {
+  EnterSteam();
+  const std::string hint = Find("txt比熱比").ToolTip();
+  for (const char* entry : {"", "1.3"}) {
+    DblClick("txt比熱比");
+    EXPECT_EQ(Find("txt比熱比").ForeColor(), forms::kMagenta);
+    EXPECT_NE(Find("txt比熱比").ToolTip(), hint);
+    *entry == '\0' ? Click("cmdAllData消去") : Type("txt比熱比", entry);
+    EXPECT_EQ(Find("txt比熱比").ForeColor(), forms::kBlack);
+    EXPECT_EQ(Find("txt比熱比").ToolTip(), hint);
+    EnterSteam();
+  }
+}
+
 TEST_F(CvTest, CatalogueFillsTheValve) {
   Pick("cboMaker", 0);
   EXPECT_EQ(Find<forms::ComboBox>("cboValveModel").Index(), 0);
