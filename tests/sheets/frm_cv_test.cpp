@@ -160,6 +160,8 @@ TEST_F(CvTest, MarksFlashingAndChokedFlow) {
   Click("cmdCv計算");
   EXPECT_TRUE(Visible("lblFlash"));
   EXPECT_TRUE(Visible("lblCritical"));
+  Type("txtTagNo", "LV-1");
+  shell::RegisterTag(Space());
   Type("txt差圧", "1");
   EXPECT_FALSE(Visible("lblFlash") || Visible("lblCritical"));
   EnterAir();
@@ -173,6 +175,8 @@ TEST_F(CvTest, MarksFlashingAndChokedFlow) {
   EXPECT_TRUE(Visible("lblCritical"));  // 0.5 FL^2 p1 = 4.05
   Click("cmdSizingData消去");
   EXPECT_FALSE(Visible("lblCritical"));  // the Cv stage knows no FL
+  dynamic_cast<frmCV&>(*bench.Forms().Active()).GetCV(1);
+  EXPECT_TRUE(Visible("lblFlash") && Visible("lblCritical"));  // not stored, but known
 }
 
 TEST_F(CvTest, ALiquidWithoutVapourDataShowsTheFciResult) {
