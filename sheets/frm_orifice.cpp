@@ -22,6 +22,9 @@ constexpr const char* kExpansionUnit = "×10-6/℃";
 constexpr int kClearedElement = 10;
 constexpr int kClearedMaterial = 7;
 
+/// Stands before a distance that counts from the upstream face of the plate.
+constexpr const char* kFromUpstreamFace = "Uf ";
+
 /// Decimals of the differential and of the loss by unit: kPa, mmH2O, kgf/cm2, mmHg, psi, mbar.
 constexpr int kDifferentialDecimals[] = {3, 1, 5, 3, 4, 2};
 constexpr int kLossDecimals[] = {2, 0, 4, 2, 3, 1};
@@ -78,6 +81,9 @@ void frmOrifice::BindHandlers() {
       if (cbo配管呼称径.Index() >= 0 && cboSchedule.Index() >= 0) txt配管内径_DblClick();
     };
   }
+  pic断面.onPaint = [this](forms::DrawSurface& surface) {
+    DrawElementSection(Section(), surface, pic断面);
+  };
   cmdデータ消去.onClick = [this] { cmdデータ消去_Click(); };
   cmd計算.onClick = [this] { cmd計算_Click(); };
 }
@@ -143,6 +149,7 @@ void frmOrifice::SwitchMode() {
   enter(lbl設計差圧, txt設計差圧, !boreEntered);
   enter(lbl絞り径, txt絞り径, boreEntered);
   SetFocus(boreEntered ? txt絞り径 : txt設計差圧);
+  pic断面.Redraw();
 }
 
 void frmOrifice::FillExpansion(const ComboBox& material, TextBox& box) {
@@ -166,16 +173,7 @@ void frmOrifice::txt絞り部膨張率_DblClick() { FillExpansion(cbo絞り部�
 
 void frmOrifice::txt配管線膨張率_DblClick() { FillExpansion(cbo配管種類, txt配管線膨張率); }
 
-void frmOrifice::txt配管内径_DblClick() {
-  const std::optional<Real> bore =
-      Tables().pipes.InnerDiameter(cbo配管呼称径.Index(), cboSchedule.Index());
-  if (!bore || *bore <= 0) {
-    User().Show("該当の配管はありません。");
-    txt配管内径.SetText("0");
-    return;
-  }
-  txt配管内径.SetText(NumberText(*bore));
-}
+void frmOrifice::txt配管内径_DblClick() { FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径); }
 
 void frmOrifice::TakePipe(double, double, double bore) { txt配管内径.SetText(NumberText(bore)); }
 
@@ -212,6 +210,7 @@ void frmOrifice::ClearResults() {
   lbl外挿.SetText("");
   Space().calcDone = false;
   equationEdition_ = "1";
+  pic断面.Redraw();
 }
 
 bool frmOrifice::ReadInputs() {
@@ -279,6 +278,27 @@ void frmOrifice::ShowResults(const flow::SizingResult& result) {
   lbl使用上限.SetText(result.useHigh ? NumberText(100 * *result.useHigh) : "");
   lbl外挿.SetText(context_.extrapolationMark);
   equationEdition_ = "1";
+  pic断面.Redraw();
+}
+
+/// A bore stands in its field after a calculation that has been cleared, too; it counts while it is
+/// an entry or a result.
+ElementSection frmOrifice::Section() const {
+  const auto type = static_cast<flow::ElementType>(std::max(cbo絞り機構種類.Index(), 0));
+  const bool calculated = !lbl絞り径結果R.Text().empty();
+  ElementSection section;
+  section.shape = ShapeOf(type);
+  section.pipeBore = Val(txt配管内径.Text());
+  if (calculated || opt絞り径_差圧.Checked()) section.bore = Val(txt絞り径.Text());
+  section.radius = Val(lbl四分円半径R.Text());
+  if (!calculated || type > flow::kVenaContractaTapOrifice) return section;
+  const std::string& downstream = lbl下流Tap位置.Text();
+  section.downstreamFromUpstreamFace = downstream.starts_with(kFromUpstreamFace);
+  section.upstreamTap = Val(lbl上流Tap位置.Text());
+  section.downstreamTap = Val(section.downstreamFromUpstreamFace
+                                  ? downstream.substr(std::string(kFromUpstreamFace).size())
+                                  : downstream);
+  return section;
 }
 
 void frmOrifice::CautionLoss() {
@@ -306,7 +326,7 @@ void frmOrifice::ShowTaps(const flow::SizingResult& result) {
     return tap ? NumberText(*tap) : std::string(kNoTap);
   };
   lbl上流Tap位置.SetText(text(result.upstreamTap));
-  lbl下流Tap位置.SetText((distanceFromPlate ? "Uf " : "") + text(result.downstreamTap));
+  lbl下流Tap位置.SetText((distanceFromPlate ? kFromUpstreamFace : "") + text(result.downstreamTap));
 }
 
 void frmOrifice::DeclareLayout() {
@@ -315,7 +335,8 @@ void frmOrifice::DeclareLayout() {
       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
       forms::Stretched(forms::Row({
           forms::Stretched(ProcessBlock(), 7),
-          forms::Stretched(forms::Column({ElementBlock(), ModeBlock(), forms::Space()}), 7),
+          forms::Stretched(
+              forms::Column({ElementBlock(), ModeBlock(), forms::Stretched(SectionBlock())}), 7),
           forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
                                           forms::Buttons({{}, cmdデータ消去, cmd計算})}),
                            5),
@@ -365,6 +386,8 @@ forms::Block frmOrifice::ModeBlock() {
                                         {lbl絞り径, txt絞り径, "mm"},
                                     }));
 }
+
+forms::Block frmOrifice::SectionBlock() { return forms::Group("", forms::Table({{pic断面}})); }
 
 forms::Block frmOrifice::ResultBlock() {
   return forms::Results("計算結果", forms::Table({

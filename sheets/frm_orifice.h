@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "flow/differential_pressure.h"
+#include "sheets/element_section.h"
 #include "sheets/process_sheet.h"
 
 namespace sheets {
@@ -54,6 +55,8 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   ComboBox cbo設計差圧単位{*this, "cbo設計差圧単位"};
   Label lbl絞り径{*this, "lbl絞り径", "絞り径（20℃）"};
   TextBox txt絞り径{*this, "txt絞り径", forms::NumberKeys};
+
+  forms::Picture pic断面{*this, "pic断面", 6600, 1700};
 
   ResultLabel lblMaxReynolds{*this, "lblMaxReynolds"};
   ResultLabel lblNorReynolds{*this, "lblNorReynolds"};
@@ -104,6 +107,7 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   forms::Block ProcessBlock();
   forms::Block ElementBlock();
   forms::Block ModeBlock();
+  forms::Block SectionBlock();
   forms::Block ResultBlock();
 
   void cbo絞り機構種類_Click();
@@ -124,6 +128,8 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void ShowTaps(const flow::SizingResult& result);
   /// Marks a loss that the element's equations cannot tell.
   void CautionLoss();
+  /// What the picture shows: pipe and bore as far as they are entered or calculated.
+  ElementSection Section() const;
 
   /// Columns of the record that hold a text as it stands in a control.
   std::vector<std::pair<int, forms::Control*>> EntryColumns();

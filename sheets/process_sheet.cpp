@@ -41,6 +41,11 @@ BaseFields::BaseFields(Form& form)
       optWetBase(form, "optWetBase", "湿り基準（Wet Base）", "base"),
       optDryBase(form, "optDryBase", "乾燥基準（Dry Base）", "base") {}
 
+VapourPressureFields::VapourPressureFields(Form& form)
+    : lbl飽和蒸気圧(form, "lbl飽和蒸気圧", "飽和蒸気圧"),
+      txt飽和蒸気圧(form, "txt飽和蒸気圧", forms::NumberKeys),
+      cbo飽和蒸気圧単位(form, "cbo飽和蒸気圧単位") {}
+
 ProcessSheet::ProcessSheet(shell::Workspace& workspace, const std::string& kind,
                            std::string caption)
     : Sheet(workspace, kind, std::move(caption)) {
@@ -86,11 +91,18 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
     OfferEntry(*fields_.deviationLabel, *fields_.deviation,
                [this] { FillFromFluidOrSteam("偏差係数"); });
   }
+  if (fields_.vapourPressure != nullptr) UseVapourPressure(*fields_.vapourPressure);
   if (fields_.kappa != nullptr) {
     TextBox& kappa = *fields_.kappa;
     Watch(kappa);
     OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
   }
+}
+
+void ProcessSheet::UseVapourPressure(VapourPressureFields& fields) {
+  Watch(fields.txt飽和蒸気圧);
+  Watch(fields.cbo飽和蒸気圧単位);
+  OfferEntry(fields.lbl飽和蒸気圧, fields.txt飽和蒸気圧, [this] { FillVapourPressure(); });
 }
 
 void ProcessSheet::Watch(TextBox& box) {
@@ -139,6 +151,9 @@ void ProcessSheet::Load() {
   if (fields_.humidity != nullptr) {
     FillList(fields_.humidity->cbo飽和水蒸気圧単位, lists.vapourPressureUnits);
   }
+  if (fields_.vapourPressure != nullptr) {
+    FillList(fields_.vapourPressure->cbo飽和蒸気圧単位, lists.vapourPressureUnits);
+  }
   if (fields_.base != nullptr) fields_.base->optWetBase.SetChecked(true);
   ShowUnitsOfPhase();
 }
@@ -159,6 +174,23 @@ ComboBox& ProcessSheet::FlowUnitBox() {
 
 ComboBox& ProcessSheet::DensityUnitBox() {
   return IsGas() ? cbo密度単位G : IsSteam() ? cbo密度単位S : cbo密度単位L;
+}
+
+void ProcessSheet::FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore) {
+  const std::optional<Real> found = Tables().pipes.InnerDiameter(size.Index(), schedule.Index());
+  if (!found || *found <= 0) {
+    User().Show("該当の配管はありません。");
+    bore.SetText("0");
+    return;
+  }
+  bore.SetText(NumberText(*found));
+}
+
+void ProcessSheet::EmptyTextBoxes() {
+  const Quiet quiet(*this);
+  for (forms::Control* control : Controls()) {
+    if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
+  }
 }
 
 void ProcessSheet::SwitchField(TextBox& box, bool on) {
@@ -308,6 +340,14 @@ void ProcessSheet::StoreEntries() {
       process.flowBasis = data::kDryBase;
     }
   }
+  if (fields_.vapourPressure != nullptr) {
+    const VapourPressureFields& fields = *fields_.vapourPressure;
+    // The estimator writes a vapour pressure in the unit of the saturation pressure.
+    process.vapourPressureUnit = fields.cbo飽和蒸気圧単位.Index();
+    process.saturationPressureUnit = process.vapourPressureUnit;
+    process.vapourPressure =
+        data::VapourPressureToAbsolute(value(&fields.txt飽和蒸気圧), process.vapourPressureUnit);
+  }
   process.waterVapourDensity = Quietly([&] { return data::SaturatedWaterVapourDensity(process); });
   process.densityBase = Quietly([&] { return data::DensityToNormal(process, value(&txt密度)); });
   process.densityFlow = Quietly([&] { return data::NormalDensityAtFlowState(process); });
@@ -322,6 +362,9 @@ TextBox* ProcessSheet::FieldOf(const std::string& word) {
   if (word == "比熱比") return fields_.kappa;
   if (word == "飽和水蒸気圧" && fields_.humidity != nullptr) {
     return &fields_.humidity->txt飽和水蒸気圧;
+  }
+  if (word == "飽和蒸気圧" && fields_.vapourPressure != nullptr) {
+    return &fields_.vapourPressure->txt飽和蒸気圧;
   }
   return nullptr;
 }
@@ -342,6 +385,7 @@ std::optional<Real> ProcessSheet::Estimate(const std::string& word, int fluidInd
   }
   if (word == "偏差係数") return EstimateDeviation(estimator, fluidIndex);
   if (word == "比熱比") return estimator.EstimateIsentropicExponent(fluidIndex);
+  if (word == "飽和蒸気圧") return estimator.EstimateVapourPressure(fluidIndex);
   return std::nullopt;
 }
 
@@ -379,6 +423,11 @@ void ProcessSheet::FillSaturationPressure() {
     return;
   }
   fields.txt飽和水蒸気圧.SetText(NumberText(data::SaturatedVapourPressure(Process(), User())));
+}
+
+/// Only a liquid has one in the fluid table.
+void ProcessSheet::FillVapourPressure() {
+  if (IsLiquid()) FillFromFluidOrSteam("飽和蒸気圧");
 }
 
 void ProcessSheet::FillTemperature() {

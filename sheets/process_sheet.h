@@ -41,6 +41,14 @@ struct BaseFields {
   OptionButton optDryBase;
 };
 
+/// Vapour pressure of a liquid.
+struct VapourPressureFields {
+  explicit VapourPressureFields(Form& form);
+  Label lbl飽和蒸気圧;
+  TextBox txt飽和蒸気圧;
+  ComboBox cbo飽和蒸気圧単位;
+};
+
 /// A calculator sheet with the panel of process conditions. The panel's fields have the same names,
 /// units and reactions on all sheets; a sheet adds the fields of its own and hands the panel those
 /// that only some sheets have.
@@ -92,6 +100,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
     TextBox* kappa = nullptr;
     /// Shows the flow unit of the phase behind a second flow.
     Label* secondFlowUnit = nullptr;
+    VapourPressureFields* vapourPressure = nullptr;
   };
   /// To be called once, in the constructor of the sheet.
   void UseFields(const OptionalFields& fields);
@@ -111,6 +120,9 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   /// The selector of the current phase.
   ComboBox& FlowUnitBox();
   ComboBox& DensityUnitBox();
+  /// The selectors of all phases in one place.
+  Cell FlowUnits() { return Cell::OneOf({&cbo流量単位L, &cbo流量単位G, &cbo流量単位S}); }
+  Cell DensityUnits() { return Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S}); }
   data::ProcessState& Process() const { return Space().process; }
   const shell::Tables& Tables() const { return Space().tables; }
 
@@ -131,12 +143,18 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void FillTemperature();
   void FillFromFluidOrSteam(const std::string& word);
   void FillSaturationPressure();
+  void FillVapourPressure();
 
   /// Entry that calls ClearResults and stores the panel when it changes.
   void Watch(TextBox& box);
   void Watch(ComboBox& box);
   /// Makes a double click on the field and a click on its label run the same automatic entry.
   void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
+
+  /// Fills a pipe bore from the pipe table, or says that there is no such pipe.
+  void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
+  /// Empties every field of the sheet, without an event.
+  void EmptyTextBoxes();
 
   /// A field that is off shows so and loses its text.
   static void SwitchField(TextBox& box, bool on);
@@ -149,6 +167,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void cbo流量単位_Click();
   void ShowUnitsOfPhase();
   void SwitchHumidity();
+  void UseVapourPressure(VapourPressureFields& fields);
   void UpdateFluidList();
   TextBox* FieldOf(const std::string& word);
   std::optional<Real> Estimate(const std::string& word, int fluidIndex);

@@ -5,6 +5,7 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
@@ -26,6 +27,7 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmRO", std::type_identity<frmRO>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
