@@ -31,6 +31,11 @@ struct Range {
 constexpr Range kModelRange[] = {{500, 21000}, {120, 640}, {100, 21000}};
 constexpr Range kGroup2Range = {100, 40000};
 
+/// Volume flows at operating density, m3/h: at scale and at normal flow.
+struct Volumes {
+  Real Q, Qn;
+};
+
 /// Flow of water or air that makes the same differential, in l/min, and its bounds.
 struct Equivalent {
   double factor;   // sqrt(1/1000) for water, sqrt(1/1.293) or sqrt(1/1.223) for air
@@ -40,16 +45,17 @@ struct Equivalent {
 
 int TablePhase(const IntegralInputs& inputs) { return inputs.fluidPhase == kLiquid ? 0 : 1; }
 
-Real EquivalentFlow(const Equivalent& equivalent, Real flow, Real rho) {
-  return equivalent.factor * flow * sqrt(rho) * 1000 / 60;
+/// Of a volume flow in m3/h at operating density.
+Real EquivalentFlow(const Equivalent& equivalent, Real Q, Real rho) {
+  return equivalent.factor * Q * sqrt(rho) * 1000 / 60;
 }
 
 /// The equivalent flow and its two notes, which come first in groups 0 and 2. False: noted.
-bool RateFlow(const Equivalent& equivalent, const IntegralInputs& inputs, BoreRating& rating) {
-  rating.equivalentFlow = EquivalentFlow(equivalent, inputs.q, inputs.rho);
+bool RateFlow(const Equivalent& equivalent, const Volumes& volumes, Real rho, BoreRating& rating) {
+  rating.equivalentFlow = EquivalentFlow(equivalent, volumes.Q, rho);
   if (*rating.equivalentFlow > equivalent.largest) {
     rating.note = kScaleFlowTooLarge;
-  } else if (EquivalentFlow(equivalent, inputs.qNor, inputs.rho) < equivalent.least) {
+  } else if (EquivalentFlow(equivalent, volumes.Qn, rho) < equivalent.least) {
     rating.note = kNormalFlowTooSmall;
   }
   return rating.note.empty();
@@ -74,12 +80,12 @@ std::optional<Real> CoefficientRatio(const IntegralTable& table, int p, int i, R
   return kaf > 1 ? Real(1) : kaf;
 }
 
-void RateGroup0(const IntegralTable& table, const IntegralInputs& inputs, int i,
-                BoreRating& rating) {
+void RateGroup0(const IntegralTable& table, const IntegralInputs& inputs, const Volumes& volumes,
+                int i, BoreRating& rating) {
   constexpr Equivalent kWater = {0.03162, 33, 0.016};
   constexpr Equivalent kAir = {0.8794, 910, 0.45};  // at 0 degC
   const int p = TablePhase(inputs);
-  if (!RateFlow(p == 0 ? kWater : kAir, inputs, rating)) return;
+  if (!RateFlow(p == 0 ? kWater : kAir, volumes, inputs.rho, rating)) return;
   const Real a = At(At(At(table.integralA, inputs.model), p), i);
   const Real b = At(At(At(table.integralB, inputs.model), p), i);
   const Real dP = a * pow(*rating.equivalentFlow, b);
@@ -98,16 +104,16 @@ Real ThermalExpansion(Real T) {
   return pow(1 + aT * 1e-06 * (T - 20), 2);
 }
 
-void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, int i,
-                BoreRating& rating) {
+void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, const Volumes& volumes,
+                int i, BoreRating& rating) {
   // kg/h through the 14 mm pipe: 0.0125218 * 14.008^2.
   constexpr double kFlowConstant = 2.457;
   constexpr double kStartDifferential = 1000;  // mmH2O
   constexpr double kSettled = 0.0001;
   const Real rho = inputs.rho;
   const Real P = inputs.p;
-  const Real Wmax = inputs.q * rho;
-  const Real Wn = inputs.qNor * rho;
+  const Real Wmax = volumes.Q * rho;
+  const Real Wn = volumes.Qn * rho;
   if (rating.re < At(table.integralReLow, i)) {
     rating.note = kReynoldsTooLow;
     return;
@@ -141,12 +147,12 @@ void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, int i,
   if (rating.note.empty()) rating.alpha = At(kAlpha, i);
 }
 
-void RateGroup2(const IntegralTable& table, const IntegralInputs& inputs, int i,
-                BoreRating& rating) {
+void RateGroup2(const IntegralTable& table, const IntegralInputs& inputs, const Volumes& volumes,
+                int i, BoreRating& rating) {
   constexpr Equivalent kWater = {0.03164, 67, 0.016};
   constexpr Equivalent kAir = {0.9042, 1940, 0.42};  // at 288.75 K
   const int p = TablePhase(inputs);
-  if (!RateFlow(p == 0 ? kWater : kAir, inputs, rating)) return;
+  if (!RateFlow(p == 0 ? kWater : kAir, volumes, inputs.rho, rating)) return;
   // The exponents of this group's law stand in the file and are not used.
   const Real dP =
       (pow(*rating.equivalentFlow, 2) / At(At(At(table.integralA, kGroup2Law), p), i)) * 1000;
@@ -181,17 +187,18 @@ Real IntegralExpansion(Real x, Real beta, Real kappa) {
 
 BoreRating RateBore(const IntegralTable& table, const IntegralInputs& inputs, int i) {
   const int group = IntegralGroup(inputs.model);
+  const Volumes volumes = {inputs.flow / inputs.rho, inputs.normalFlow / inputs.rho};
   BoreRating rating;
-  rating.re = BoreReynolds(table, group, i, inputs.qNor * inputs.rho, inputs.mu);
+  rating.re = BoreReynolds(table, group, i, inputs.normalFlow, inputs.mu);
   switch (group) {
     case 0:
-      RateGroup0(table, inputs, i, rating);
+      RateGroup0(table, inputs, volumes, i, rating);
       break;
     case 1:
-      RateGroup1(table, inputs, i, rating);
+      RateGroup1(table, inputs, volumes, i, rating);
       break;
     default:
-      RateGroup2(table, inputs, i, rating);
+      RateGroup2(table, inputs, volumes, i, rating);
   }
   rating.dP = RoundDigits(rating.dP, 0);
   return rating;

@@ -18,8 +18,8 @@ struct IntegralInputs {
   common::Real rho;           // density at operating conditions, kg/m3
   common::Real mu;            // viscosity, cP
   common::Real kappa;         // isentropic exponent; gas and steam
-  common::Real q;             // Q: maximum scale flow, m3/h
-  common::Real qNor;          // Qn: normal flow, m3/h
+  common::Real flow;          // maximum scale flow, kg/h
+  common::Real normalFlow;    // kg/h
 };
 
 /// Group of a transmitter: models 0 to 2 are group 0, model 3 is group 1, model 4 is group 2.
@@ -59,8 +59,8 @@ common::Real BoreReynolds(const IntegralTable& table, int group, int i, common::
                           common::Real mu);
 
 /// Rates bore i: the differential that it makes, or why it cannot be used. The first note ends the
-/// rating. Raises a fault for a viscosity of 0, and in group 1 for gas and steam where the
-/// expansion factor has no value.
+/// rating. Raises a fault for a density or viscosity of 0, and in group 1 for gas and steam where
+/// the expansion factor has no value.
 BoreRating RateBore(const IntegralTable& table, const IntegralInputs& inputs, int i);
 
 /// Isentropic expansion factor of group 1: x is differential over absolute pressure, both at normal

@@ -3,10 +3,12 @@
 #include <memory>
 
 #include "sheets/frm_fluid_names.h"
+#include "sheets/frm_integral.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_vortex.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
@@ -27,7 +29,9 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmIntegral", std::type_identity<frmIntegral>());
   provide("frmRO", std::type_identity<frmRO>());
+  provide("frmVortex", std::type_identity<frmVortex>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());

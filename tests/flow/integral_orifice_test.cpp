@@ -36,8 +36,8 @@ IntegralInputs Service(int model, int phase, double litres) {
   inputs.rho = phase == kLiquid ? 1000 : phase == kGas ? 12.8 : 5.6;
   inputs.mu = phase == kLiquid ? 1.0 : 0.018;
   inputs.kappa = phase == kSteam ? 1.3 : 1.4;
-  inputs.q = litres * 0.06;
-  inputs.qNor = inputs.q * 0.8;
+  inputs.flow = litres * 0.06 * inputs.rho;
+  inputs.normalFlow = inputs.flow * 0.8;
   return inputs;
 }
 
@@ -123,7 +123,7 @@ TEST(RateBore, CoefficientRatioAndItsLimits) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.re);
     IntegralInputs inputs = Service(2, kLiquid, 1.2);
-    inputs.mu = 354 * inputs.qNor * 1000 / (row.re * 1.511);
+    inputs.mu = 354 * inputs.normalFlow / (row.re * 1.511);
     const BoreRating rating = RateBore(Table(), inputs, 2);
     EXPECT_EQ(rating.note, row.note);
     EXPECT_NEAR(rating.re, row.re, 1e-6 * row.re);
@@ -172,7 +172,7 @@ TEST(RateBore, FirstNoteEndsTheBore) {
     IntegralInputs inputs = Service(row.model, row.phase, row.litres);
     inputs.p = row.p;
     inputs.mu = row.mu;
-    inputs.qNor = inputs.q * row.normalShare;
+    inputs.normalFlow = inputs.flow * row.normalShare;
     const BoreRating rating = RateBore(Table(), inputs, row.i);
     EXPECT_EQ(rating.note, row.note);
     EXPECT_EQ(rating.dP > 0, row.hasDifferential);
@@ -225,7 +225,7 @@ TEST(RateBore, RaisesFaultsAndNeverLoops) {
   inputs.kappa = 1;
   EXPECT_EQ(fault(inputs, 5), Fault::kDivisionByZero);
   inputs = Service(3, kGas, 300);
-  inputs.qNor = inputs.q;
+  inputs.normalFlow = inputs.flow;
   inputs.p = 0.09;  // the start of the iteration lies above the pressure
   EXPECT_EQ(fault(inputs, 5), Fault::kInvalidArgument);
   inputs.p = 0;
