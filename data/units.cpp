@@ -110,7 +110,7 @@ Real SteamToMass(const ProcessState& state, Real value) {
 
 Real GasDensityToNormal(const ProcessState& state, Real value) {
   switch (state.densityUnit) {
-    case 0:
+    case kNormalDensityUnit:
       return value;
     case 1:
       return value * state.temperatureK / kNormalTemperature * kNormalAtmosphere /

@@ -18,6 +18,9 @@ inline constexpr double kPsiPerKgfCm2 = 14.22;        // psi
 inline constexpr double kMolarVolume = 22.415;        // Nm3/kmol
 inline constexpr double kNormalAirDensity = 1.2928;   // kg/Nm3
 
+/// Index of kg/Nm3 in the list of gas densities.
+inline constexpr int kNormalDensityUnit = 0;
+
 /// Standard temperature of a density in kg/Sm3, K (60 degF). A flow in Sm3/h has another one,
 /// 288.15 K (15 degC); the two are meant to differ.
 inline constexpr double kStandardDensityTemperature = 288.75;

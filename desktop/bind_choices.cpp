@@ -20,6 +20,9 @@ namespace desktop {
 
 namespace {
 
+/// Above and below a line of a list, as in the style sheet.
+constexpr double kListPaddingEm = 0.12;
+
 class ComboField : public Reporting<QComboBox, forms::ComboBox> {
  public:
   using Reporting::Reporting;
@@ -73,6 +76,15 @@ class ListField : public Reporting<QListWidget, forms::ListBox> {
 
  private:
   bool doubleClicked_ = false;
+};
+
+/// Its marks are set with a click on the box or with the space key.
+class CheckListField : public Reporting<QListWidget, forms::CheckList> {
+ public:
+  using Reporting::Reporting;
+
+ protected:
+  void PressEnter() override { Shown().PressEnter(); }
 };
 
 class OptionField : public Reporting<QRadioButton, forms::OptionButton> {
@@ -152,6 +164,20 @@ void ShowList(const forms::ListBox& box, QListWidget& list) {
   ShowCommon(box, list, Theme::Current().field, forms::kWhite);
 }
 
+void ShowCheckList(const forms::CheckList& list, QListWidget& field) {
+  const QSignalBlocker quiet(field);
+  const int count = list.Count();
+  while (field.count() > count) delete field.takeItem(field.count() - 1);
+  while (field.count() < count) field.addItem(new QListWidgetItem);
+  for (int row = 0; row < count; ++row) {
+    QListWidgetItem& item = *field.item(row);
+    item.setText(QString::fromStdString(list.Items()[static_cast<std::size_t>(row)]));
+    item.setCheckState(list.Marked(row) ? Qt::Checked : Qt::Unchecked);
+  }
+  field.setCurrentRow(list.Index());
+  ShowCommon(list, field, Theme::Current().field, forms::kWhite);
+}
+
 /// Columns that a list takes when the layout asks for none; one of fixed pitch holds a tag number
 /// and a service.
 int OwnColumns(const forms::ListBox& box) {
@@ -161,7 +187,6 @@ int OwnColumns(const forms::ListBox& box) {
 }
 
 void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
-  constexpr double kPaddingEm = 0.12;  // above and below a line, as in the style sheet
   const int columns = characters > 0 ? characters : OwnColumns(box);
   int width = scale.Digits(columns);
   QFont font = UiFont(scale.LetterPixels());
@@ -170,7 +195,7 @@ void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale
     list.setFont(font);
     width = FixedWidth(font, columns);
   }
-  const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kPaddingEm));
+  const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
   list.setMinimumWidth(width + scale.Em(2));
   list.setMinimumHeight(line * box.VisibleLines() + scale.Em(0.6));
 }
@@ -246,6 +271,29 @@ Bound Bind(forms::ListBox& list, QWidget& parent) {
   return {field, [&list, field] { ShowList(list, *field); },
           [&list, field](const Scale& scale, int characters) {
             ResizeList(list, *field, scale, characters);
+          }};
+}
+
+Bound Bind(forms::CheckList& list, QWidget& parent) {
+  constexpr int kOwnWidth = 42;
+  auto* const field = new CheckListField(list, parent);
+  field->setUniformItemSizes(true);
+  QObject::connect(field, &QListWidget::itemChanged, field,
+                   [&list, field](const QListWidgetItem* item) {
+                     list.SetMarked(field->row(item), item->checkState() == Qt::Checked);
+                   });
+  QObject::connect(field, &QListWidget::currentRowChanged, field, [&list](int row) {
+    if (row >= 0 && row < list.Count()) list.Pick(row);
+  });
+  return {field, [&list, field] { ShowCheckList(list, *field); },
+          [&list, field](const Scale& scale, int characters) {
+            const QFont font = FixedFont(scale.LetterPixels());
+            field->setFont(font);
+            field->setMinimumWidth(FixedWidth(font, characters > 0 ? characters : kOwnWidth) +
+                                   scale.Em(4));
+            const int line =
+                QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
+            field->setMinimumHeight(line * list.VisibleLines() + scale.Em(0.6));
           }};
 }
 

@@ -9,9 +9,10 @@
 #include <QTableWidget>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/binding.h"
-#include "desktop/draw_surface.h"
+#include "desktop/paper/draw_surface.h"
 #include "desktop/reporting.h"
 
 namespace desktop {
@@ -89,6 +90,46 @@ class PictureField : public Clickable<QWidget, forms::Picture> {
       // led to them has told the user.
     }
   }
+};
+
+/// The visible part of a page in its true size. It tells its control how much that is.
+class ViewportField : public Clickable<QWidget, forms::Viewport> {
+ public:
+  ViewportField(forms::Viewport& viewport, QWidget& parent)
+      : Clickable(viewport, parent),
+        preferred_(Pixels(viewport.Width()), Pixels(viewport.Height())) {}
+  QSize sizeHint() const override { return preferred_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    Clickable::resizeEvent(event);
+    Shown().Resize(width() * kTwipsPerPixel, height() * kTwipsPerPixel);
+  }
+
+  void wheelEvent(QWheelEvent* event) override {
+    constexpr int kLinesPerNotch = 3;
+    turned_ += event->angleDelta().y();
+    const int notches = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0) Shown().Wheel(-notches * kLinesPerNotch);
+    event->accept();
+  }
+
+  void paintEvent(QPaintEvent*) override {
+    if (!Shown().onPaint) return;
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::Current().window);
+    QtDrawSurface surface(painter, 1 / kTwipsPerPixel);
+    Shown().onPaint(surface);
+  }
+
+ private:
+  static constexpr double kTwipsPerPixel = 15;
+  static int Pixels(double twips) { return static_cast<int>(std::ceil(twips / kTwipsPerPixel)); }
+
+  QSize preferred_;
+  /// Parts of a notch that a fine wheel has turned.
+  int turned_ = 0;
 };
 
 class ScrollField : public Reporting<QScrollBar, forms::ScrollBar> {
@@ -295,6 +336,12 @@ Bound Bind(forms::Picture& picture, QWidget& parent) {
           }};
 }
 
+Bound Bind(forms::Viewport& viewport, QWidget& parent) {
+  auto* const widget = new ViewportField(viewport, parent);
+  widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  return {widget, [widget] { widget->update(); }, kOwnSize};
+}
+
 Bound Bind(forms::ScrollBar& bar, QWidget& parent) {
   auto* const widget = new ScrollField(bar, parent);
   const bool upright = bar.Orientation() == forms::ScrollBar::Direction::kVertical;
@@ -306,6 +353,7 @@ Bound Bind(forms::ScrollBar& bar, QWidget& parent) {
     const QSignalBlocker quiet(*widget);
     widget->setRange(0, bar.Maximum());
     widget->setPageStep(bar.LargeChange());
+    widget->setSingleStep(bar.SmallChange());
     widget->setValue(bar.Value());
     ShowCommon(bar, *widget, Theme::Current().card, forms::kWhite);
   };

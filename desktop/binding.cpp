@@ -50,8 +50,9 @@ QString ColorStyle(const forms::Control& control, const QColor& ground, forms::C
 
 Bound BindAny(forms::Control& control, QWidget& parent) {
   using namespace forms;
-  Bound bound = BindFirstOf<TextBox, ComboBox, ListBox, TabStrip, OptionButton, CheckBox, Label,
-                            Button, Frame, Picture, ScrollBar, Grid, ProgressBar>(control, parent);
+  Bound bound =
+      BindFirstOf<TextBox, ComboBox, ListBox, CheckList, TabStrip, OptionButton, CheckBox, Label,
+                  Button, Frame, Viewport, Picture, ScrollBar, Grid, ProgressBar>(control, parent);
   if (!bound.widget->property("look").isValid()) SetLook(*bound.widget, "field");
   return bound;
 }

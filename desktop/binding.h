@@ -25,6 +25,7 @@ struct Bound {
 Bound Bind(forms::TextBox& box, QWidget& parent);
 Bound Bind(forms::ComboBox& box, QWidget& parent);
 Bound Bind(forms::ListBox& list, QWidget& parent);
+Bound Bind(forms::CheckList& list, QWidget& parent);
 Bound Bind(forms::TabStrip& tabs, QWidget& parent);
 Bound Bind(forms::OptionButton& option, QWidget& parent);
 Bound Bind(forms::CheckBox& check, QWidget& parent);
@@ -32,6 +33,7 @@ Bound Bind(forms::Label& label, QWidget& parent);
 Bound Bind(forms::Button& button, QWidget& parent);
 Bound Bind(forms::Frame& frame, QWidget& parent);
 Bound Bind(forms::Picture& picture, QWidget& parent);
+Bound Bind(forms::Viewport& viewport, QWidget& parent);
 Bound Bind(forms::ScrollBar& bar, QWidget& parent);
 Bound Bind(forms::Grid& grid, QWidget& parent);
 Bound Bind(forms::ProgressBar& bar, QWidget& parent);

@@ -48,8 +48,8 @@ bool IsCaption(const forms::Cell& cell) {
 bool IsTall(const forms::Cell& cell) {
   return std::any_of(cell.Controls().begin(), cell.Controls().end(),
                      [](const forms::Control* control) {
-                       return Is<forms::ListBox>(control) || Is<forms::Grid>(control) ||
-                              Is<forms::Picture>(control);
+                       return Is<forms::ListBox>(control) || Is<forms::CheckList>(control) ||
+                              Is<forms::Grid>(control) || Is<forms::Picture>(control);
                      });
 }
 
@@ -59,7 +59,9 @@ bool IsWide(const forms::Cell& cell, const forms::Cell* before) {
   if (IsTall(cell)) return true;
   return std::any_of(
       cell.Controls().begin(), cell.Controls().end(), [&](const forms::Control* control) {
-        if (Is<forms::TextBox>(control) || IsResult(control)) return true;
+        if (Is<forms::TextBox>(control) || IsResult(control) || Is<forms::ProgressBar>(control)) {
+          return true;
+        }
         return Is<forms::ComboBox>(control) && (before == nullptr || IsCaption(*before));
       });
 }

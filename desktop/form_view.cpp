@@ -30,8 +30,32 @@ FormView::FormView(forms::Form& form, QWidget* parent) : QScrollArea(parent), fo
   for (const auto& [control, bound] : bound_) Show(*control);
   OrderTabs();
   SetLetters(kBaseLetterPixels);
-  natural_ = content_->layout()->totalMinimumSize();
+  natural_ = SizeWithPages();
   content_->installEventFilter(this);
+}
+
+/// A window onto a page would like to show much of it, but can do with little.
+QSize FormView::SizeWithPages() {
+  std::vector<QWidget*> pages;
+  for (const auto& [control, bound] : bound_) {
+    if (dynamic_cast<const forms::Viewport*>(control) != nullptr) pages.push_back(bound.widget);
+  }
+  pageTakesRoom_ = !pages.empty();
+  const auto smallest = [&](auto minimum) {
+    for (QWidget* page : pages) {
+      page->setMinimumSize(minimum(*page));
+      // The layouts between would otherwise hear of it with the next events only.
+      for (QWidget* box = page->parentWidget(); box != content_; box = box->parentWidget()) {
+        if (box->layout() != nullptr) box->layout()->invalidate();
+        box->updateGeometry();
+      }
+    }
+    content_->layout()->activate();
+    return content_->layout()->totalMinimumSize();
+  };
+  const QSize size = smallest([](const QWidget& page) { return page.sizeHint(); });
+  smallest([](const QWidget&) { return QSize(1, 1); });
+  return size;
 }
 
 QWidget* FormView::PlaceControl(forms::Control& control, int characters) {
@@ -151,7 +175,7 @@ int FormView::LettersThatFit() const {
 }
 
 void FormView::Grow() {
-  if (fitting_) return;
+  if (fitting_ || pageTakesRoom_) return;
   fitting_ = true;
   SetLetters(LettersThatFit());
   fitting_ = false;

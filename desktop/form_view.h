@@ -51,6 +51,7 @@ class FormView : public QScrollArea {
   void ShowAccessibleName(const forms::Control& control);
   void OrderTabs();
   void SetLetters(int pixels);
+  QSize SizeWithPages();
   bool Fits() const;
   int LettersThatFit() const;
   void Grow();
@@ -62,6 +63,8 @@ class FormView : public QScrollArea {
   std::vector<LayoutBuilder::Resize> resizes_;
   std::vector<Unit> units_;
   QSize natural_;
+  /// A window onto a page shows more of it where there is room; letters then stay as they are.
+  bool pageTakesRoom_ = false;
   int letterPixels_ = 0;
   bool fitting_ = false;
 };

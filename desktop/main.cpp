@@ -14,7 +14,7 @@ int main(int count, char** arguments) {
   desktop::Splash splash(QStringLiteral("Ver.") + QLatin1String(shell::kProgramVersion));
   splash.show();
   desktop::QtPresenter presenter;
-  desktop::QtPlatform platform;
+  desktop::QtPlatform platform(presenter);
   shell::FileSettings settings(shell::DefaultSettingsPath());
   sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(), settings,
                               &platform);

@@ -1,11 +1,62 @@
 #include "desktop/platform.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QUrl>
 
+#include "desktop/form_view.h"
+#include "desktop/paper/document.h"
+#include "desktop/presenter.h"
+#include "forms/form.h"
+
 namespace desktop {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+/// A printer that the user has chosen, which may be a file; null when he cancelled.
+std::unique_ptr<QPrinter> ChoosePrinter(QtPresenter& presenter) {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setCreator(QStringLiteral("ZEPHA"));
+  printer->setFullPage(true);
+  printer->setPageSize(QPageSize(QPageSize::A4));
+  printer->setPageOrientation(QPageLayout::Portrait);
+  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  if (presenter.Wait(dialog) != QDialog::Accepted) return nullptr;
+  // The pages are made for A4, whatever the dialogue says.
+  printer->setPageSize(QPageSize(QPageSize::A4));
+  printer->setPageOrientation(QPageLayout::Portrait);
+  printer->setFullPage(true);
+  return printer;
+}
+
+/// A document that the system's printing takes.
+class PrinterDocument : public PagedDocument {
+ public:
+  PrinterDocument(std::unique_ptr<QPrinter> printer, double unitsPerTwip, const std::string& path)
+      : PagedDocument(std::move(printer), unitsPerTwip, path) {}
+
+  bool Finish() override {
+    const bool finished = EndDrawing();
+    return finished && Printer().printerState() != QPrinter::Error;
+  }
+  void Abort() override {
+    Printer().abort();
+    PagedDocument::Abort();
+  }
+
+ private:
+  QPrinter& Printer() const { return static_cast<QPrinter&>(Device()); }
+};
+
+}  // namespace
 
 bool QtPlatform::OpenWithDesktop(const std::string& path) {
   const QFileInfo file(QString::fromStdString(path));
@@ -20,6 +71,42 @@ bool QtPlatform::StartProgram(const std::string& program,
   QStringList words;
   for (const std::string& argument : arguments) words.append(QString::fromStdString(argument));
   return QProcess::startDetached(QString::fromStdString(program), words);
+}
+
+std::unique_ptr<shell::PrintJob> QtPlatform::AskForPrinter() {
+  std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
+  if (!printer) return nullptr;
+  const double unitsPerTwip = printer->resolution() / kTwipsPerInch;
+  const std::string path = printer->outputFileName().toStdString();
+  auto document = std::make_unique<PrinterDocument>(std::move(printer), unitsPerTwip, path);
+  if (document->Begin()) return document;
+  presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
+                  common::Icon::kWarning);
+  return nullptr;
+}
+
+std::unique_ptr<shell::PrintJob> QtPlatform::StartPdf(const std::string& path) {
+  return desktop::StartPdf(path);
+}
+
+/// The form's window, as wide as the paper, at its top.
+void QtPlatform::PrintImage(forms::Form& form) {
+  FormView* const view = presenter_.ViewOf(form);
+  if (view == nullptr) return;
+  // Before the dialogue hides a part of it.
+  const QPixmap image = view->grab();
+  const std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
+  if (!printer) return;
+  QPainter painter;
+  if (!painter.begin(printer.get())) {
+    presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
+                    common::Icon::kWarning);
+    return;
+  }
+  const double width = printer->width();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawPixmap(QRectF(0, 0, width, width * image.height() / image.width()), image,
+                     image.rect());
 }
 
 }  // namespace desktop

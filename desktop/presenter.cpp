@@ -144,6 +144,27 @@ void QtPresenter::FocusMoved(forms::Control& control) {
 
 void QtPresenter::Beep() { QApplication::beep(); }
 
+/// The timer goes with the window of the form, so that closing it ends the work. It is started anew
+/// after each step, because a step may wait for a message box.
+void QtPresenter::RunSteps(forms::Form& form, std::function<bool()> step) {
+  FormView* const view = ViewOf(form);
+  if (view == nullptr) return;
+  auto* const timer = new QTimer(view);
+  timer->setSingleShot(true);
+  QObject::connect(timer, &QTimer::timeout, timer, [this, timer, &form, step = std::move(step)] {
+    if (ViewOf(form) == nullptr) return;
+    bool more = false;
+    form.RunEvent(nullptr, [&] { more = step(); });
+    if (ViewOf(form) == nullptr) return;
+    if (more) {
+      timer->start();
+    } else {
+      timer->deleteLater();
+    }
+  });
+  timer->start();
+}
+
 void QtPresenter::Activated(QMdiSubWindow* window) {
   for (const auto& [form, shown] : shown_) {
     if (shown.window == window && window != nullptr) {

@@ -44,6 +44,7 @@ class QtPresenter : public forms::Presenter {
   void ControlChanged(forms::Control& control) override;
   void FocusMoved(forms::Control& control) override;
   void Beep() override;
+  void RunSteps(forms::Form& form, std::function<bool()> step) override;
   std::optional<std::string> AskFile(const forms::FileQuestion& question) override;
 
  private:

@@ -2,10 +2,8 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace desktop {
@@ -20,13 +18,6 @@ double Luminance(const QColor& color) {
   };
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
          0.0722 * linear(color.blueF());
-}
-
-QString FirstInstalled(const std::array<const char*, 5>& families) {
-  for (const char* family : families) {
-    if (QFontDatabase::hasFamily(QString::fromUtf8(family))) return QString::fromUtf8(family);
-  }
-  return QApplication::font().family();
 }
 
 /// The text of a style sheet with its "@name" marks replaced.
@@ -104,10 +95,6 @@ double Contrast(const QColor& one, const QColor& other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-QColor PaperColor(forms::Color color) {
-  return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
-}
-
 QColor Ink(forms::Color color, const Theme& theme, const QColor& ground) {
   if (color == forms::kBlack || color < 0) {
     if (Contrast(theme.text, ground) >= kReadableContrast) return theme.text;
@@ -129,18 +116,6 @@ QColor Ground(forms::Color color, const Theme& theme) {
   if (color < 0) return theme.fieldOff;
   if (color == forms::kUnsaved) return {"#ffd98a"};
   return PaperColor(color);
-}
-
-QString UiFamily() {
-  static const QString family = FirstInstalled(
-      {"Noto Sans CJK JP", "Noto Sans JP", "IPAexGothic", "IPAPGothic", "IPAGothic"});
-  return family;
-}
-
-QString FixedFamily() {
-  static const QString family = FirstInstalled(
-      {"IPAGothic", "IPA Gothic", "Noto Sans Mono CJK JP", "TakaoGothic", "IPAexGothic"});
-  return family;
 }
 
 QFont UiFont(int pixels) {

@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QString>
 
+#include "desktop/paper/fonts.h"
 #include "forms/color.h"
 
 namespace desktop {
@@ -55,13 +56,6 @@ double Contrast(const QColor& one, const QColor& other);
 QColor Ink(forms::Color color, const Theme& theme, const QColor& ground);
 /// A colour of a form as the ground of a field.
 QColor Ground(forms::Color color, const Theme& theme);
-/// The colour as it is numbered, for paper.
-QColor PaperColor(forms::Color color);
-
-/// The family of the Japanese interface letters: the first of our list that is installed.
-QString UiFamily();
-/// The family whose full-width letters are exactly two half-width ones.
-QString FixedFamily();
 QFont UiFont(int pixels);
 /// Letters whose columns stand below each other.
 QFont FixedFont(int pixels);

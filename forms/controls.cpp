@@ -212,6 +212,33 @@ ListBox::ListBox(Form& form, std::string name, int visibleLines, bool fixedPitch
       visibleLines_(visibleLines),
       fixedPitch_(fixedPitch) {}
 
+CheckList::CheckList(Form& form, std::string name, int visibleLines)
+    : ListControl(form, std::move(name), {}), visibleLines_(visibleLines) {}
+
+bool CheckList::Marked(int index) const {
+  const auto at = static_cast<std::size_t>(index);
+  return at < marked_.size() && marked_[at];
+}
+
+void CheckList::SetMarked(int index, bool marked) {
+  common::At(Items(), index);
+  if (Marked(index) == marked) return;
+  marked_.resize(Items().size());
+  marked_[static_cast<std::size_t>(index)] = marked;
+  TellChanged();
+  Fire(onMark);
+}
+
+void CheckList::MarkAll(bool marked) {
+  for (int i = 0; i < Count(); ++i) SetMarked(i, marked);
+}
+
+int CheckList::MarkedCount() const {
+  int count = 0;
+  for (int i = 0; i < Count(); ++i) count += Marked(i) ? 1 : 0;
+  return count;
+}
+
 TabStrip::TabStrip(Form& form, std::string name) : ListControl(form, std::move(name), {}) {}
 
 CheckControl::CheckControl(Form& form, std::string name, std::string text)
@@ -269,6 +296,22 @@ Frame::Frame(Form& form, std::string name, std::string text) : Control(form, std
 Picture::Picture(Form& form, std::string name, double width, double height)
     : Control(form, std::move(name)), width_(width), height_(height) {}
 
+void Picture::SetSize(double width, double height) {
+  width_ = width;
+  height_ = height;
+  TellChanged();
+}
+
+void Viewport::Resize(double width, double height) {
+  if (width == Width() && height == Height()) return;
+  SetSize(width, height);
+  Fire(onResize);
+}
+
+void Viewport::Wheel(int lines) {
+  if (onWheel) Owner().RunEvent(this, [&] { onWheel(lines); });
+}
+
 ScrollBar::ScrollBar(Form& form, std::string name, Direction direction, int maximum)
     : Control(form, std::move(name)), direction_(direction), maximum_(maximum) {}
 
@@ -280,6 +323,11 @@ void ScrollBar::SetMaximum(int maximum) {
 
 void ScrollBar::SetLargeChange(int step) {
   largeChange_ = std::max(step, 1);
+  TellChanged();
+}
+
+void ScrollBar::SetSmallChange(int step) {
+  smallChange_ = std::max(step, 1);
   TellChanged();
 }
 

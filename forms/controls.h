@@ -138,6 +138,26 @@ class ListBox : public ListControl {
   bool fixedPitch_;
 };
 
+/// A list whose lines carry marks of their own, beside the selection.
+class CheckList : public ListControl {
+ public:
+  CheckList(Form& form, std::string name, int visibleLines = 12);
+  const char* Kind() const override { return "checklist"; }
+  int VisibleLines() const { return visibleLines_; }
+  /// Whether the line of that index is marked; lines are not, at first.
+  bool Marked(int index) const;
+  /// Marks a line or takes its mark, by code or by the user: fires onMark if that changed it.
+  void SetMarked(int index, bool marked);
+  void MarkAll(bool marked);
+  int MarkedCount() const;
+
+  std::function<void()> onMark;
+
+ private:
+  int visibleLines_;
+  std::vector<bool> marked_;
+};
+
 class TabStrip : public ListControl {
  public:
   TabStrip(Form& form, std::string name);
@@ -219,9 +239,28 @@ class Picture : public Control {
   /// Draws the picture on a surface of Width() by Height().
   std::function<void(DrawSurface&)> onPaint;
 
+ protected:
+  void SetSize(double width, double height);
+
  private:
   double width_;
   double height_;
+};
+
+/// A window onto something larger on paper: it is drawn in its true size and in the colours of
+/// paper, takes the room that there is, and is told how much that is.
+class Viewport : public Picture {
+ public:
+  /// width, height: the size that it would like to have, twips.
+  using Picture::Picture;
+  const char* Kind() const override { return "viewport"; }
+  /// Whoever shows it has this room for it: fires onResize if that is new.
+  void Resize(double width, double height);
+  /// The mouse wheel was turned over it, in lines, downwards positive.
+  void Wheel(int lines);
+
+  std::function<void()> onResize;
+  std::function<void(int lines)> onWheel;
 };
 
 class ScrollBar : public Control {
@@ -235,6 +274,8 @@ class ScrollBar : public Control {
   void SetMaximum(int maximum);
   int LargeChange() const { return largeChange_; }
   void SetLargeChange(int step);
+  int SmallChange() const { return smallChange_; }
+  void SetSmallChange(int step);
   int Value() const { return value_; }
   /// Moves the bar, by code or by the user; kept within 0 and Maximum. Fires onChange if it moved.
   void SetValue(int value);
@@ -245,6 +286,7 @@ class ScrollBar : public Control {
   Direction direction_;
   int maximum_;
   int largeChange_ = 1;
+  int smallChange_ = 1;
   int value_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -38,6 +39,10 @@ class Presenter : public common::Messages {
   /// The form has moved its focus to this control.
   virtual void FocusMoved(Control& control) = 0;
   virtual void Beep() = 0;
+
+  /// Runs a step again and again, with other events in between, until it returns false or the form
+  /// is closed: long work that the user can watch and stop.
+  virtual void RunSteps(Form& form, std::function<bool()> step) = 0;
 
   /// The file that the user chose, or nothing when he cancelled.
   virtual std::optional<std::string> AskFile(const FileQuestion& question) = 0;

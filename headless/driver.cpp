@@ -9,6 +9,8 @@
 #include "forms/controls.h"
 #include "headless/states.h"
 #include "shell/lifecycle.h"
+#include "shell/page_recorder.h"
+#include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 
@@ -46,7 +48,7 @@ std::vector<std::string> ControlNames(const forms::Form& form) {
 }  // namespace
 
 Driver::Driver(std::string installDir, shell::SettingsStore& settings)
-    : workbench_(presenter_, std::move(installDir), settings) {}
+    : workbench_(presenter_, std::move(installDir), settings, &platform_) {}
 
 const std::map<std::string, Driver::Action>& Driver::Actions() {
   static const std::map<std::string, Action> kActions = {
@@ -75,8 +77,8 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"recall", &Driver::Recall},
       {"load", &Driver::LoadFile},
       {"save", &Driver::SaveFile},
-      {"print", &Driver::NotThereYet},
-      {"printall", &Driver::NotThereYet},
+      {"print", &Driver::Print},
+      {"printall", &Driver::PrintAll},
       {"export", &Driver::NotThereYet},
       {"recalculate", &Driver::NotThereYet},
   };
@@ -393,6 +395,38 @@ void Driver::SaveFile(const std::string& object, const std::string& text, Json& 
     }
   });
   answer["TagModified"] = workbench_.Space().tags.tagModified;
+}
+
+/// Without a path it tells the page.
+void Driver::Print(const std::string& object, const std::string& text, Json& answer) {
+  shell::Workspace& space = workbench_.Space();
+  const std::string path = WholeLine(object, text);
+  if (!path.empty()) {
+    bool written = false;
+    RunGuarded([&] { written = shell::PrintToPdf(space, path); });
+    if (!written) throw Refusal{"Nothing was printed to " + path + "."};
+    return;
+  }
+  shell::PageRecorder page;
+  space.printScale = shell::kPaperScale;
+  RunGuarded([&] { shell::PrintSheet(space, page); });
+  answer["items"] = ItemsOf(page);
+}
+
+void Driver::PrintAll(const std::string& object, const std::string& text, Json& answer) {
+  shell::Workspace& space = workbench_.Space();
+  const std::string path = WholeLine(object, text);
+  if (path.empty()) Misunderstand("printall wants the path of a PDF file.");
+  std::unique_ptr<shell::PrintJob> job = platform_.StartPdf(path);
+  if (!job) throw Refusal{path + " cannot be written."};
+  std::vector<int> rows;
+  for (int row = 1; row <= space.tags.TagCount(); ++row) rows.push_back(row);
+  shell::TagPrinter printer(space, std::move(job), std::move(rows));
+  while (printer.Next()) continue;
+  const bool written = printer.Finish();
+  answer["pages"] = printer.Pages();
+  answer["left"] = printer.Left();
+  if (!written) throw Refusal{path + " could not be written whole."};
 }
 
 void Driver::CloseForm(const std::string&, const std::string&, Json&) {

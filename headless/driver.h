@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "headless/script_platform.h"
 #include "headless/script_presenter.h"
 #include "sheets/workbench.h"
 
@@ -77,11 +78,14 @@ class Driver {
   void Recall(const std::string& object, const std::string& text, Json& answer);
   void LoadFile(const std::string& object, const std::string& text, Json& answer);
   void SaveFile(const std::string& object, const std::string& text, Json& answer);
+  void Print(const std::string& object, const std::string& text, Json& answer);
+  void PrintAll(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
   void NotThereYet(const std::string& object, const std::string& text, Json& answer);
 
   ScriptPresenter presenter_;
+  ScriptPlatform platform_{presenter_};
   sheets::Workbench workbench_;
   bool misunderstood_ = false;
   bool ended_ = false;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "forms/form.h"
+
 namespace headless {
 
 namespace {
@@ -47,6 +49,15 @@ std::vector<ScriptPresenter::Shown> ScriptPresenter::TakeShown() {
 }
 
 int ScriptPresenter::TakeBeeps() { return std::exchange(beeps_, 0); }
+
+/// A script goes on when the work is done.
+void ScriptPresenter::RunSteps(forms::Form& form, std::function<bool()> step) {
+  bool more = true;
+  while (more) {
+    more = false;
+    form.RunEvent(nullptr, [&] { more = step(); });
+  }
+}
 
 std::optional<std::string> ScriptPresenter::AskFile(const forms::FileQuestion&) {
   if (files_.empty()) return std::nullopt;

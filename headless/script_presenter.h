@@ -32,6 +32,7 @@ class ScriptPresenter : public forms::Presenter {
   void ControlChanged(forms::Control&) override {}
   void FocusMoved(forms::Control&) override {}
   void Beep() override { ++beeps_; }
+  void RunSteps(forms::Form& form, std::function<bool()> step) override;
   std::optional<std::string> AskFile(const forms::FileQuestion& question) override;
 
  private:

@@ -96,7 +96,58 @@ Json ProcessOf(const data::ProcessState& process) {
           {"VapourPressureUnit", process.vapourPressureUnit}};
 }
 
+/// Adds what one recorded item shows to the list.
+class ItemTeller {
+ public:
+  explicit ItemTeller(Json& items) : items_(items) {}
+
+  void operator()(const shell::PageRecorder::TextItem& item) const {
+    items_.push_back({{"x", item.x},
+                      {"y", item.y},
+                      {"text", item.text},
+                      {"font", item.font},
+                      {"size", item.size},
+                      {"bold", item.bold},
+                      {"color", item.color}});
+  }
+  void operator()(const shell::PageRecorder::LineItem& item) const {
+    for (std::size_t i = 1; i < item.points.size(); ++i) {
+      AddLine(item.points[i - 1], item.points[i], item.pen.width);
+    }
+  }
+  void operator()(const shell::PageRecorder::BoxItem& item) const {
+    if (item.filled) {
+      items_.push_back(
+          {{"filled", {item.x1, item.y1, item.x2, item.y2}}, {"color", item.pen.color}});
+      return;
+    }
+    const std::pair<double, double> corners[] = {
+        {item.x1, item.y1}, {item.x2, item.y1}, {item.x2, item.y2}, {item.x1, item.y2}};
+    for (std::size_t i = 0; i < 4; ++i) AddLine(corners[i], corners[(i + 1) % 4], item.pen.width);
+  }
+  void operator()(const shell::PageRecorder::PolygonItem& item) const {
+    items_.push_back({{"polygon", item.points}, {"color", item.pen.color}});
+  }
+  void operator()(const shell::PageRecorder::EllipseItem& item) const {
+    items_.push_back(
+        {{"ellipse", {item.x, item.y, item.radiusX, item.radiusY}}, {"width", item.pen.width}});
+  }
+
+ private:
+  void AddLine(std::pair<double, double> from, std::pair<double, double> to, double width) const {
+    items_.push_back({{"line", {from.first, from.second, to.first, to.second}}, {"width", width}});
+  }
+
+  Json& items_;
+};
+
 }  // namespace
+
+Json ItemsOf(const shell::PageRecorder& page) {
+  Json items = Json::array();
+  for (const auto& item : page.Items()) std::visit(ItemTeller(items), item);
+  return items;
+}
 
 Json StateOf(const forms::Control& control) {
   Json state = {{"control", control.Name()},        {"kind", control.Kind()},

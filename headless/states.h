@@ -6,6 +6,7 @@
 
 #include "forms/control.h"
 #include "headless/script_presenter.h"
+#include "shell/page_recorder.h"
 #include "shell/workspace.h"
 
 namespace headless {
@@ -20,6 +21,9 @@ Json StateOf(const ScriptPresenter::Shown& shown);
 
 /// The workspace's values by name.
 Json StateOf(const shell::Workspace& workspace);
+
+/// What stands on a printed page, in the order of drawing: texts and lines; a frame is four lines.
+Json ItemsOf(const shell::PageRecorder& page);
 
 /// Word of an answer, and the answer of a word; nothing for a word that is none.
 std::string WordOf(common::Answer answer);

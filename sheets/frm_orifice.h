@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "flow/differential_pressure.h"
+#include "sheets/calculation_page.h"
 #include "sheets/element_section.h"
 #include "sheets/process_sheet.h"
 
@@ -90,10 +91,13 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddOrifice(row); }
   void GetFrom(int row) override { GetOrifice(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintOrifice(target); }
   /// Writes entries and results into a row of the tag store.
   void AddOrifice(int row);
   /// Fills the sheet from a row of its kind: selections first, then texts, then results.
   void GetOrifice(int row);
+  /// Prints entries and results as they stand on the sheet.
+  bool PrintOrifice(shell::PrintSurface& target);
 
  protected:
   std::vector<std::string> PropertyOrder() const override;
@@ -138,6 +142,12 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void GetEntries(const shell::TagRow& record);
   void GetResults(const shell::TagRow& record);
   void ShowUpstreamTapOf(const shell::TagRow& record);
+
+  std::string CitedDocument() const;
+  void PrintConditions(CalculationPage& page);
+  void PrintDensities(CalculationPage& page);
+  void PrintElement(CalculationPage& page);
+  void PrintResults(CalculationPage& page);
 
   flow::Context context_;
   /// Normal density at the last reading, kg/m3; the operating one stands in the context.

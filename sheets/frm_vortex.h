@@ -27,7 +27,7 @@ class frmVortex : public ProcessSheet {
   Label lblMaker{*this, "lblMaker", "メーカー"};
   ComboBox cboMaker{*this, "cboMaker"};
 
-  forms::Picture Picture4{*this, "Picture4", 4700, 6200};
+  forms::Picture Picture4{*this, "Picture4", 4300, 5800};
 
   Label lbl最少流量比{*this, "lbl最少流量比", "最少流量／目盛流量"};
   ResultLabel lblScale{*this, "lblScale"};

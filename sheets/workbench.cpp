@@ -6,6 +6,8 @@
 #include "sheets/frm_integral.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_preview.h"
+#include "sheets/frm_print_all.h"
 #include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_vortex.h"
@@ -34,6 +36,8 @@ void Workbench::ProvideForms() {
   provide("frmVortex", std::type_identity<frmVortex>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
+  provide(frmPreview::kName, std::type_identity<frmPreview>());
+  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());

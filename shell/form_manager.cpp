@@ -23,12 +23,16 @@ forms::Form* FormManager::Find(const std::string& name) const {
   return found == open_.end() ? nullptr : found->get();
 }
 
+std::unique_ptr<forms::Form> FormManager::Create(const std::string& name) const {
+  const auto factory = factories_.find(name);
+  if (factory == factories_.end()) throw std::logic_error("no form " + name);
+  return factory->second();
+}
+
 forms::Form& FormManager::Show(const std::string& name) {
   forms::Form* form = Find(name);
   if (form == nullptr) {
-    const auto factory = factories_.find(name);
-    if (factory == factories_.end()) throw std::logic_error("no form " + name);
-    open_.push_back(factory->second());
+    open_.push_back(Create(name));
     form = open_.back().get();
     form->SetPresenter(&presenter_);
     form->RunEvent(nullptr, [&] { form->Load(); });

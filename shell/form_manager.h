@@ -27,6 +27,9 @@ class FormManager {
   bool Knows(const std::string& name) const { return factories_.contains(name); }
   std::vector<std::string> KnownNames() const;
 
+  /// A form of that name that nobody shows and that is not among the open ones. An unknown name is
+  /// our own mistake and throws.
+  std::unique_ptr<forms::Form> Create(const std::string& name) const;
   /// Opens the form, or brings the open one to the front, and activates it. An unknown name is our
   /// own mistake and throws.
   forms::Form& Show(const std::string& name);

@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
+#include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
@@ -108,8 +109,9 @@ void AddFileMenu(MenuBuilder& menu) {
   menu.Separator();
   menu.Add("mnuExcel", "EXCELデータ生成(&E)", {}, {}, "excel");
   menu.Separator();
-  menu.Add("mnuPrint", "印刷(&P)", {}, "Ctrl+P", "print");
-  menu.Add("mnuHCopy", "画面ハードコピー");
+  menu.Add("mnuPrint", "印刷(&P)", menu.Calls(Print), "Ctrl+P", "print");
+  menu.AddForm("mnuPrintAll", "一括印刷(&A)", kPrintAllForm, "print");
+  menu.Add("mnuHCopy", "画面ハードコピー", menu.Calls(HardCopy));
   menu.Separator();
 }
 
@@ -135,7 +137,7 @@ void AddDisplayMenu(MenuBuilder& menu) {
   menu.Add("mnuSingle", "シングルウィンドウ(&S)", menu.WindowMode(false));
   menu.Add("mnuMulti", "マルチウインドウ(&M)", menu.WindowMode(true));
   menu.In("mnuDisplay");
-  menu.Add("mnuPreview", "プレビュー", {}, {}, "preview");
+  menu.Add("mnuPreview", "プレビュー", menu.Calls(ShowPreview), {}, "preview");
 }
 
 void AddProgramMenu(MenuBuilder& menu) {
@@ -164,10 +166,10 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(1, "新規データシート作成", "new", menu.Calls(NewFile));
   menu.Button(2, "既存データファイルを開く", "open", menu.Calls(OpenFile));
   menu.Button(3, "上書き保存", "save", menu.Calls(SaveFile));
-  menu.Button(4, "印刷", "print");
+  menu.Button(4, "印刷", "print", menu.Calls(Print));
   menu.Button(5, "データリスト", "taglist", menu.Calls(RefreshTagList));
   menu.Button(6, "データシートをEXCELに変換", "excel");
-  menu.Button(7, "プレビュー", "preview");
+  menu.Button(7, "プレビュー", "preview", menu.Calls(ShowPreview));
   menu.Button(8, "修正前の値に戻す", "undo", menu.Calls(UndoEntry));
   menu.SeparatorButton(9);
   menu.SeparatorButton(10);

@@ -34,6 +34,8 @@ void Sheet::AddTo(int) {}
 
 void Sheet::GetFrom(int) {}
 
+bool Sheet::PrintBody(PrintSurface&) { return false; }
+
 bool Sheet::HasData(const std::vector<std::string>& fileNames) const {
   std::string missing;
   for (const std::string& name : fileNames) {

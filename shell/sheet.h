@@ -25,6 +25,9 @@ class Sheet : public forms::Form {
   virtual void AddTo(int row);
   /// Fills the sheet from a row of the tag store. Only for rows of this sheet's kind.
   virtual void GetFrom(int row);
+  /// Prints the sheet's own part of a page, from the texts that stand on it. False for a sheet that
+  /// has none.
+  virtual bool PrintBody(PrintSurface& target);
 
  protected:
   Workspace& Space() const { return workspace_; }

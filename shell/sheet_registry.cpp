@@ -6,13 +6,6 @@
 
 namespace shell {
 
-namespace {
-
-constexpr int kPrintButton = 4;
-constexpr int kPreviewButton = 7;
-
-}  // namespace
-
 const std::vector<SheetEntry>& SheetRegistry() {
   static const std::vector<SheetEntry> kSheets = {
       {"⊿P Flow", "frmOrifice", {"mnuOrifice", "mnuFlownozzle", "mnuVenturi"}, 11, true, false},

@@ -7,6 +7,10 @@ namespace shell {
 
 struct Workspace;
 
+/// Buttons of the tool bar that follow the sheet on top.
+inline constexpr int kPrintButton = 4;
+inline constexpr int kPreviewButton = 7;
+
 /// A sheet as the main window knows it.
 struct SheetEntry {
   std::string kind;                    // sheet name, also in tag rows

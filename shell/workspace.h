@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "shell/form_manager.h"
 #include "shell/main_window.h"
 #include "shell/platform.h"
+#include "shell/print_surface.h"
 #include "shell/settings.h"
 #include "shell/tables.h"
 #include "shell/tag_store.h"
@@ -17,6 +19,9 @@ namespace shell {
 
 /// What a calculation left to be told with its results.
 inline constexpr const char* kExtrapolated = "（外挿計算）";
+
+/// Today's date where the user is.
+std::chrono::year_month_day LocalDate();
 
 /// The state that all sheets of one run share. It is created once by the program, outlives all
 /// forms, and is handed to them by reference; everything runs on one thread.
@@ -45,6 +50,10 @@ struct Workspace {
   int elementKind = 0;
   /// Printed at the foot of every report.
   std::string issuerName;
+  /// Letters and lines of the last page: kPaperScale or kPreviewScale.
+  float printScale = kPaperScale;
+  /// The date on a report, in the local time zone unless a test fixes it.
+  std::function<std::chrono::year_month_day()> today = LocalDate;
   UserPrograms userPrograms;
   /// The cable duct file that was open when the last run ended.
   std::string ductFileName;

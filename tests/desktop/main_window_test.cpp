@@ -227,7 +227,8 @@ TEST(SplashTest, EndsOnceAtAKeyAClickOrTheTimer) {
 }
 
 TEST(Platform, StartsWhatIsThereAndNothingElse) {
-  QtPlatform platform;
+  QtPresenter presenter;
+  QtPlatform platform(presenter);
   const QTemporaryDir folder;
   const QString mark = folder.filePath(QStringLiteral("a b"));
   EXPECT_TRUE(platform.StartProgram("touch", {mark.toStdString()}));

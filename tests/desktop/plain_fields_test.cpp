@@ -6,7 +6,7 @@
 #include <QTableWidget>
 
 #include "desk.h"
-#include "desktop/draw_surface.h"
+#include "desktop/paper/draw_surface.h"
 #include "desktop/theme.h"
 
 namespace desktop {

@@ -1,7 +1,8 @@
 // Takes a picture of the workbench in a state that a script describes:
 //   take_picture OUT.png [--size WIDTHxHEIGHT] [--dark] [--form NAME] < SCRIPT
-// Lines of the script: menu NAME, type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click,
-// dblclick, rclick CONTROL. --form takes the picture of that form's own window alone.
+// Lines of the script: load PATH, recall ROW, menu NAME, type CONTROL TEXT, pick CONTROL N or
+// =TEXT, choose, click, dblclick, rclick CONTROL, close FORM. --form takes the picture of that
+// form's own window alone.
 #include <QApplication>
 #include <QTimer>
 #include <cstdlib>
@@ -16,6 +17,7 @@
 #include "desktop/theme.h"
 #include "forms/controls.h"
 #include "sheets/workbench.h"
+#include "shell/tag_commands.h"
 
 namespace {
 
@@ -29,6 +31,19 @@ void Run(sheets::Workbench& workbench, const std::string& line) {
   std::getline(words, text);
   if (verb == "menu") {
     workbench.Window().Run(object);
+    return;
+  }
+  if (verb == "load") {
+    shell::OpenFileNamed(workbench.Space(), object);
+    return;
+  }
+  if (verb == "recall") {
+    workbench.Space().tags.SelectLine(common::IntIndex(common::Val(object)) - 1);
+    shell::RecallSelectedTag(workbench.Space());
+    return;
+  }
+  if (verb == "close") {
+    workbench.Forms().Unload(*workbench.Forms().Find(object));
     return;
   }
   forms::Form* const form = workbench.Forms().Active();

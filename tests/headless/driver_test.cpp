@@ -41,9 +41,9 @@ TEST_F(DriverTest, NamesWhatItDoesNotKnow) {
     const char* line;
     const char* named;
   } rows[] = {
-      {"open frmOrifise", "frmOrifice"},  {"get txtTag", "No form"}, {"jump txtTagNo", "jump"},
-      {"menu mnuOrifices", "mnuOrifice"}, {"button 99", "99"},       {"open CV", "not there yet"},
-      {"answer maybe", "maybe"},          {"print", "not there yet"}};
+      {"open frmOrifise", "frmOrifice"},  {"get txtTag", "No form"},  {"jump txtTagNo", "jump"},
+      {"menu mnuOrifices", "mnuOrifice"}, {"button 99", "99"},        {"open CV", "not there yet"},
+      {"answer maybe", "maybe"},          {"export", "not there yet"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.line);
     const Json answer = Do(row.line);
@@ -134,6 +134,75 @@ TEST_F(DriverTest, DumpsTheActiveForm) {
   EXPECT_EQ(Do("forms")["forms"], Json::array());
   Do("quit");
   EXPECT_TRUE(driver.Ended());
+}
+
+/// What another program prints about a file.
+std::string OutputOf(const std::string& command) {
+  std::string output;
+  FILE* const pipe = popen(command.c_str(), "r");
+  if (pipe == nullptr) return output;
+  char part[4096];
+  while (const std::size_t count = std::fread(part, 1, sizeof part, pipe)) {
+    output.append(part, count);
+  }
+  EXPECT_EQ(pclose(pipe), 0) << command;
+  return output;
+}
+
+TEST_F(DriverTest, TellsThePageOfTheSheetOnTop) {
+  EXPECT_EQ(Do("print")["messages"][0]["text"], "印刷対象がありません。");
+  Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
+  Do("recall 1");
+  const Json items = Do("print")["items"];
+  int lines = 0;
+  std::string title;
+  for (const Json& item : items) {
+    if (item.contains("line")) {
+      ++lines;
+      EXPECT_EQ(item["line"].size(), 4U);
+      EXPECT_EQ(item["width"], 1);
+    } else if (item["bold"] == true) {
+      title = item["text"];
+      EXPECT_EQ(item["font"], "ＭＳ 明朝");
+      EXPECT_EQ(item["size"], 11);
+      EXPECT_EQ(item["color"], 0);
+    }
+  }
+  EXPECT_EQ(lines, 8);  // frame, heading, foot, date box
+  EXPECT_EQ(title, "ＯＲＩＦＩＣＥ　ＰＬＡＴＥ　ＣＡＬＣＵＬＡＴＩＯＮ ＳＨＥＥＴ");
+}
+
+TEST_F(DriverTest, PdfReadsBackAsTextWithItsFonts) {
+  const std::string pdf = testing::TempDir() + "page.pdf";
+  Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
+  Do("recall 8");
+  ASSERT_EQ(Do("print " + pdf)["ok"], true);
+  const std::string text = OutputOf("pdftotext -layout " + pdf + " -");
+  for (const char* part : {"入 力 デ ー タ", "JIS Z 8762-2007", "FE-1204", "燃焼用空気（湿り）",
+                           "飽和水蒸気圧", "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ 指数", "0.69835", "343.71"}) {
+    EXPECT_NE(text.find(part), std::string::npos) << part << "\n" << text;
+  }
+  const std::string fonts = OutputOf("pdffonts " + pdf);
+  EXPECT_NE(fonts.find("Mincho"), std::string::npos) << fonts;
+  EXPECT_NE(fonts.find("Identity-H       yes no  yes"), std::string::npos) << fonts;  // embedded
+  EXPECT_NE(OutputOf("pdfinfo " + pdf).find("(A4)"), std::string::npos);
+  EXPECT_EQ(Do("print /no/such/folder/page.pdf")["ok"], false);
+}
+
+TEST_F(DriverTest, PrintsEveryTagIntoOneFile) {
+  const std::string pdf = testing::TempDir() + "all.pdf";
+  Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
+  const int tags = Do("workspace")["TagCount"];
+  const Json answer = Do("printall " + pdf);
+  EXPECT_EQ(answer["pages"], tags);
+  EXPECT_EQ(answer["left"], Json::array());
+  EXPECT_NE(OutputOf("pdfinfo " + pdf).find("Pages:           " + std::to_string(tags)),
+            std::string::npos);
+  EXPECT_EQ(Do("printall /no/such/folder/all.pdf")["ok"], false);
+  Do("recall 1");
+  Do("file " + pdf);
+  EXPECT_EQ(Do("menu mnuPrint")["ok"], true);
+  EXPECT_NE(OutputOf("pdfinfo " + pdf).find("Pages:           1\n"), std::string::npos);
 }
 
 }  // namespace

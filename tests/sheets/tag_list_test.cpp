@@ -5,6 +5,7 @@
 #include "shell/lifecycle.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
+#include "tests/support/fake_platform.h"
 
 namespace sheets {
 namespace {
@@ -286,16 +287,7 @@ TEST_F(SheetTest, SmallDialoguesKeepWhatTheyAreTold) {
 }
 
 TEST_F(SheetTest, UserProgramsAreStoredWithoutQuotesAndStarted) {
-  struct FakeDesktop : shell::Platform {
-    std::vector<std::string> started;
-    bool OpenWithDesktop(const std::string&) override { return false; }
-    bool StartProgram(const std::string& program,
-                      const std::vector<std::string>& arguments) override {
-      started = {program};
-      started.insert(started.end(), arguments.begin(), arguments.end());
-      return program != "missing";
-    }
-  } desktop;
+  tests::FakePlatform desktop;
   const std::string folder = testing::TempDir() + "user-programs";
   std::filesystem::create_directories(folder);
   Workbench own(presenter, folder, settings, &desktop);

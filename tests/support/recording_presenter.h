@@ -29,6 +29,13 @@ class RecordingPresenter : public forms::Presenter {
   void ControlChanged(forms::Control& control) override { changed.push_back(control.Name()); }
   void FocusMoved(forms::Control& control) override { events.push_back("focus " + control.Name()); }
   void Beep() override { ++beeps; }
+  void RunSteps(forms::Form& form, std::function<bool()> step) override {
+    bool more = true;
+    while (more) {
+      more = false;
+      form.RunEvent(nullptr, [&] { more = step(); });
+    }
+  }
   std::optional<std::string> AskFile(const forms::FileQuestion&) override { return std::nullopt; }
 };
 

@@ -37,11 +37,15 @@ class QtDrawSurface : public forms::DrawSurface {
   QPen Pen() const;
   void FillNothing();
   void FillWithColor();
+  void DrawLetters(double x, double baseline, const QString& letters);
+  void DrawOnGrid(double x, double baseline, const std::string& text);
 
   QPainter& painter_;
   ColorRule rule_;
   QColor color_ = Qt::black;
   double lineWidthTwips_ = 15;
+  /// Width of a half-width letter where texts are set in columns, else 0.
+  double columnWidth_ = 0;
 };
 
 }  // namespace desktop

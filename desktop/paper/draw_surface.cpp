@@ -1,10 +1,13 @@
-#include "desktop/draw_surface.h"
+#include "desktop/paper/draw_surface.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPolygonF>
 #include <cmath>
 
-#include "desktop/theme.h"
+#include "common/text.h"
+#include "desktop/paper/fonts.h"
+#include "shell/print_surface.h"
 
 namespace desktop {
 
@@ -35,12 +38,14 @@ QtDrawSurface::~QtDrawSurface() { painter_.restore(); }
 
 void QtDrawSurface::SetFont(const std::string& name, double size, bool bold) {
   QFont font;
-  font.setFamilies({QString::fromStdString(name), FixedFamily()});
+  font.setFamilies({PaperFamily(name), FixedFamily()});
   // In twips, so that the metrics are the same at every resolution.
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(size * kTwipsPerPoint))));
   font.setBold(bold);
   font.setHintingPreference(QFont::PreferNoHinting);
   painter_.setFont(font);
+  const bool onGrid = name == shell::kMincho || name == shell::kGothic;
+  columnWidth_ = onGrid ? font.pixelSize() / 2.0 : 0;
 }
 
 void QtDrawSurface::SetColor(forms::Color color) { color_ = rule_(color); }
@@ -101,8 +106,36 @@ void QtDrawSurface::Ellipse(double centreX, double centreY, double radiusX, doub
 
 void QtDrawSurface::Text(double x, double y, const std::string& text) {
   painter_.setPen(color_);
-  const double ascent = QFontMetricsF(painter_.font()).ascent();
-  painter_.drawText(QPointF(x, y + ascent), QString::fromStdString(text));
+  const QFontMetricsF metrics(painter_.font());
+  const QString letters = QString::fromStdString(text);
+  const double baseline = y + metrics.ascent();
+  constexpr double kTolerance = 0.02;  // of a column
+  const double columns = columnWidth_ * common::Cp932Length(text);
+  if (columnWidth_ == 0 ||
+      std::abs(metrics.horizontalAdvance(letters) - columns) < kTolerance * columnWidth_) {
+    DrawLetters(x, baseline, letters);
+  } else {
+    DrawOnGrid(x, baseline, text);
+  }
+}
+
+/// The families have no bold letters of their own; paper gets them stroked, but the screen draws
+/// large letters as plain outlines.
+void QtDrawSurface::DrawLetters(double x, double baseline, const QString& letters) {
+  painter_.drawText(QPointF(x, baseline), letters);
+  constexpr double kStroke = 0.04;  // of the letter height
+  if (painter_.font().bold() && painter_.paintEngine()->type() == QPaintEngine::Raster) {
+    painter_.drawText(QPointF(x + kStroke * painter_.font().pixelSize(), baseline), letters);
+  }
+}
+
+/// A font whose letters are not exactly one or two columns wide is set letter by letter.
+void QtDrawSurface::DrawOnGrid(double x, double baseline, const std::string& text) {
+  for (const char32_t letter : common::CodePoints(text)) {
+    const std::u32string_view one(&letter, 1);
+    if (letter != U' ') DrawLetters(x, baseline, QString::fromUcs4(one.data(), 1));
+    x += columnWidth_ * common::Cp932Length(common::Utf8(one));
+  }
 }
 
 double QtDrawSurface::TextWidth(const std::string& text) {

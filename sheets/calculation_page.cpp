@@ -1,0 +1,87 @@
+#include "sheets/calculation_page.h"
+
+#include <algorithm>
+
+#include "common/text.h"
+#include "shell/page_frame.h"
+
+namespace sheets {
+
+namespace {
+
+constexpr int kSectionColumn = 13;
+constexpr int kLineColumn = 18;
+constexpr int kLabelBytes = 18;
+constexpr int kValueBytes = 38;
+constexpr const char* kSeparator = "：";
+constexpr const char* kBeforeUnit = "    ";
+/// Gap between two lines, points.
+constexpr double kLineGap = 6;
+
+/// The text without blanks at its ends.
+std::string WithoutBlanks(const std::string& text) {
+  const auto begin = text.find_first_not_of(' ');
+  if (begin == std::string::npos) return {};
+  return text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+}
+
+}  // namespace
+
+void CalculationPage::Title(const std::string& text) {
+  target_.SetBold(true);
+  target_.Print(text);
+  target_.SetBold(false);
+  const shell::PageGeometry page;
+  target_.MoveTo(0, page.headingBottom + page.charHeight);
+}
+
+void CalculationPage::Section(const std::string& text) {
+  target_.Tab(kSectionColumn);
+  target_.Print(text);
+  shell::PrintLineFeed(target_, kLineGap);
+}
+
+void CalculationPage::Line(const std::string& label, const std::string& value,
+                           const std::string& unit) {
+  const std::string shown = WithoutBlanks(value);
+  // Units come with blanks of their own or without; all stand in one column.
+  const std::string bareUnit = shown.empty() ? "" : WithoutBlanks(unit);
+  PrintInFrame(common::PadToBytes(label, kLabelBytes) + kSeparator +
+               common::PadLeftToBytes(shown, kValueBytes) +
+               (bareUnit.empty() ? "" : kBeforeUnit + bareUnit));
+}
+
+void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }
+
+void CalculationPage::PrintInFrame(const std::string& text) {
+  const shell::PageGeometry page;
+  target_.Tab(kLineColumn);
+  const double room = page.right - page.charHeight - target_.X();
+  const double needed = target_.TextWidth(text);
+  if (needed > room) {
+    const double scale = static_cast<double>(target_.PrintScale());
+    target_.SetFontSize(shell::kBodySize * scale * room / needed);
+    const double y = target_.Y();
+    target_.Print(text);
+    target_.SetFontSize(shell::kBodySize * scale);
+    target_.MoveTo(0, y + page.charHeight);
+  } else {
+    target_.Print(text);
+  }
+  shell::PrintLineFeed(target_, kLineGap);
+}
+
+void CalculationPage::Gap() { shell::PrintLineFeed(target_, kLineGap); }
+
+void CalculationPage::Picture(const forms::Picture& picture, double width) {
+  const shell::PageGeometry page;
+  target_.Draw(picture, (page.left + page.right - width) / 2, target_.Y(), width);
+  target_.MoveTo(0, target_.Y() + picture.Height() * width / picture.Width());
+}
+
+double CalculationPage::Room() const {
+  const shell::PageGeometry page;
+  return page.footTop - target_.Y();
+}
+
+}  // namespace sheets

@@ -1,0 +1,179 @@
+#include <QFileInfo>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include "desk.h"
+#include "desktop/paper/draw_surface.h"
+#include "desktop/paper/fonts.h"
+#include "desktop/platform.h"
+#include "sheets/frm_preview.h"
+#include "sheets/frm_print_all.h"
+#include "sheets/workbench.h"
+#include "shell/tag_commands.h"
+
+namespace desktop {
+namespace {
+
+/// The real workbench on the sample plant, with a scripted file box.
+class Paper : public testing::Test {
+ protected:
+  class FilePresenter : public RecordingPresenter {
+   public:
+    std::string file;
+    std::optional<std::string> AskFile(const forms::FileQuestion&) override { return file; }
+  };
+
+  Paper() {
+    presenter_.Attach(window_, bench_.Forms());
+    window_.resize(1280, 800);
+    window_.show();
+    bench_.Start();
+    shell::OpenFileNamed(bench_.Space(), ZEPHA_SOURCE_DIR "/samples/plant.zph");
+    bench_.Space().tags.SelectLine(0);
+    shell::RecallSelectedTag(bench_.Space());
+    QApplication::processEvents();
+  }
+  ~Paper() override { presenter_.CloseAll(); }
+
+  template <class Widget>
+  Widget& Find(const char* name) {
+    const FormView* const view = presenter_.ViewOf(*bench_.Forms().Active());
+    auto* const widget = view->findChild<Widget*>(QString::fromUtf8(name));
+    if (widget == nullptr) throw std::logic_error(name);
+    return *widget;
+  }
+  std::string Temporary(const char* name) { return folder_.filePath(name).toStdString(); }
+
+  QTemporaryDir folder_;
+  FilePresenter presenter_;
+  QtPlatform platform_{presenter_};
+  shell::MemorySettings settings_;
+  sheets::Workbench bench_{presenter_, ZEPHA_BUILD_DIR, settings_, &platform_};
+  MainWindow window_{bench_.Window()};
+};
+
+TEST_F(Paper, PreviewShowsThePageAndScrolls) {
+  bench_.Window().Run("mnuPreview");
+  QApplication::processEvents();
+  auto& page = Find<QWidget>("picPage");
+  auto& bar = Find<QScrollBar>("VScroll1");
+  EXPECT_GT(page.width(), 700);  // nearly the whole width of the paper, on a screen of 800
+  EXPECT_GT(bar.maximum(), 0);
+  EXPECT_EQ(bar.maximum(), 16840 - page.height() * 15);
+  const auto darkness = [&page](int x, int y) {
+    return 255 - qGray(page.grab().toImage().pixel(x, y));
+  };
+  const int left = std::max(0, (page.width() - 794) / 2) +
+                   75;  // frame: 1134 twips from the edge, 553 from the top
+  EXPECT_GT(std::max(darkness(left, 60), darkness(left + 1, 60)), 60);
+  EXPECT_LT(darkness(left - 5, 60), 10);
+  QWheelEvent wheel(QPointF(10, 10), page.mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, -120),
+                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&page, &wheel);
+  EXPECT_EQ(bar.value(), 3 * 340);
+  QTest::mouseClick(&Find<QPushButton>("cmdClose"), Qt::LeftButton);
+  QTest::qWait(1);
+  EXPECT_EQ(bench_.Forms().Find("frmPreview"), nullptr);
+}
+
+TEST_F(Paper, MarkedTagsGoIntoOnePdf) {
+  bench_.Window().Run("mnuPrintAll");
+  QApplication::processEvents();
+  auto& list = Find<QListWidget>("lstTag");
+  ASSERT_EQ(list.count(), bench_.Space().tags.TagCount());
+  list.setFocus();
+  list.setCurrentRow(0);
+  QTest::keyClick(&list, Qt::Key_Space);  // takes the mark of the first tag
+  auto* const form = dynamic_cast<sheets::frm一括印刷*>(bench_.Forms().Active());
+  EXPECT_FALSE(form->lstTag.Marked(0));
+  presenter_.file = Temporary("tags.pdf");
+  QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !presenter_.messages.empty(); }));
+  EXPECT_EQ(presenter_.messages,
+            std::vector<std::string>{std::to_string(list.count() - 1) + "件を印刷しました。"});
+  EXPECT_GT(QFileInfo(folder_.filePath("tags.pdf")).size(), 10000);
+  EXPECT_EQ(Find<QProgressBar>("prg進行").value(), list.count() - 1);
+}
+
+TEST_F(Paper, StoppedPrintingLeavesNoFile) {
+  bench_.Window().Run("mnuPrintAll");
+  QApplication::processEvents();
+  presenter_.file = Temporary("stopped.pdf");
+  QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
+  QTest::mouseClick(&Find<QPushButton>("cmdCancel"), Qt::LeftButton);
+  QTest::qWait(20);
+  EXPECT_EQ(presenter_.messages, std::vector<std::string>{"一括印刷を中止しました。"});
+  EXPECT_FALSE(QFileInfo::exists(folder_.filePath("stopped.pdf")));
+  // Closing the window in the middle ends the work as well.
+  QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
+  bench_.Forms().Unload(*bench_.Forms().Active());
+  QTest::qWait(20);
+  EXPECT_FALSE(QFileInfo::exists(folder_.filePath("stopped.pdf")));
+}
+
+/// Answers the printer dialogue: a file to print into, or Cancel with none.
+void AnswerPrinterDialogue(const QString& file) {
+  QTimer::singleShot(50, [file] {
+    auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    if (file.isEmpty()) {
+      dialog->reject();
+      return;
+    }
+    dialog->printer()->setOutputFileName(file);
+    for (QLineEdit* edit : dialog->findChildren<QLineEdit*>(QStringLiteral("filename"))) {
+      edit->setText(file);
+    }
+    dialog->accept();
+  });
+}
+
+TEST_F(Paper, PrinterDialogueOffersAFileWhereThereIsNoPrinter) {
+  AnswerPrinterDialogue({});
+  bench_.Window().Run("mnuPrint");
+  EXPECT_TRUE(presenter_.messages.empty());
+  const QString path = folder_.filePath("printed.pdf");
+  AnswerPrinterDialogue(path);
+  bench_.Window().Run("mnuPrint");
+  EXPECT_TRUE(presenter_.messages.empty());
+  EXPECT_GT(QFileInfo(path).size(), 5000);
+  const QString image = folder_.filePath("image.pdf");
+  bench_.Window().SetCommandEnabled("mnuHCopy", true);
+  AnswerPrinterDialogue(image);
+  bench_.Window().Run("mnuHCopy");
+  EXPECT_GT(QFileInfo(image).size(), 5000);
+}
+
+// The families behind the sheets have letters of exactly one or two columns, and where one has not,
+// the letters are set on their columns one by one.
+TEST(PaperFonts, TextsKeepTheirColumns) {
+  for (const char* family : {"ＭＳ 明朝", "ＭＳ ゴシック"}) {
+    const QString name = PaperFamily(family);
+    QImage image(1200, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    {
+      QtDrawSurface surface(painter, 1.0 / 15);
+      surface.SetFont(family, 11, false);
+      for (const char* text : {"ABC123", "入力データ", "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ", "αβ×⊿㎜～℃"}) {
+        EXPECT_NEAR(surface.TextWidth(text), shell::FixedTextWidth(text, 11), 2)
+            << name.toStdString() << " " << text;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace desktop
