@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "flow/integral_orifice.h"
+#include "sheets/calculation_page.h"
 #include "sheets/process_sheet.h"
 #include "sheets/tag_record.h"
 
@@ -67,11 +68,14 @@ class frmIntegral : public ProcessSheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddIntegral(row); }
   void GetFrom(int row) override { GetIntegral(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintIntegral(target); }
   /// Writes entries, the list of bores and the detail into a row of the tag store.
   void AddIntegral(int row);
   /// Fills the sheet from a row of its kind. The results stand to be read; another bore can be
   /// picked after a calculation.
   void GetIntegral(int row);
+  /// Prints entries and results as they stand on the sheet.
+  bool PrintIntegral(shell::PrintSurface& target);
 
  protected:
   std::vector<std::string> PropertyOrder() const override;
@@ -98,6 +102,10 @@ class frmIntegral : public ProcessSheet {
   void ShowBore(int i, const flow::BoreRating& rating);
   void ShowDetail(int i, const flow::BoreRating& rating);
   void CautionGas();
+
+  void PrintEntries(CalculationPage& page);
+  void PrintBores(CalculationPage& page, shell::PrintSurface& target);
+  void PrintDetail(CalculationPage& page);
 
   TagColumns RecordColumns();
   void GetDetail(const shell::TagRow& record);

@@ -145,7 +145,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
 
   std::string CitedDocument() const;
   void PrintConditions(CalculationPage& page);
-  void PrintDensities(CalculationPage& page);
   void PrintElement(CalculationPage& page);
   void PrintResults(CalculationPage& page);
 

@@ -22,9 +22,6 @@ constexpr double kNewtonPerKgf = 9.80665;  // 0.99999961 times the reciprocal; b
 constexpr int kMmHgAbsolute = 4;           // unit of a pressure that counts no atmosphere
 constexpr int kClearedMaterial = 7;
 
-constexpr const char* kTangential = "(円周方向)";
-constexpr const char* kRadial = "(半径方向)";
-
 /// A stress or modulus in kgf/mm2.
 Real ReadStress(const TextBox& box, const ComboBox& unit) {
   const Real value = Val(box.Text());

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "flow/restriction_orifice.h"
+#include "sheets/calculation_page.h"
 #include "sheets/element_section.h"
 #include "sheets/process_sheet.h"
 #include "sheets/tag_record.h"
@@ -76,16 +77,23 @@ class frmRO : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddRO(row); }
   void GetFrom(int row) override { GetRO(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintRO(target); }
   /// Writes entries, results and the colours of the judgements into a row of the tag store.
   void AddRO(int row);
   /// Fills the sheet from a row of its kind.
   void GetRO(int row);
+  /// Prints entries and results as they stand on the sheet.
+  bool PrintRO(shell::PrintSurface& target);
 
  protected:
   std::vector<std::string> PropertyOrder() const override;
   Real EstimateDeviation(data::PropertyEstimator& estimator, int fluidIndex) override;
 
  private:
+  // Direction of the greatest stress.
+  static constexpr const char* kTangential = "(円周方向)";
+  static constexpr const char* kRadial = "(半径方向)";
+
   using MaterialProperty = Real (*)(const data::MaterialTable& table, int material,
                                     const data::ProcessState& state, common::Messages& messages);
 
@@ -113,6 +121,9 @@ class frmRO : public ProcessSheet, public PipeTarget {
   void CautionResults();
   void ShowThicknessHint();
   ElementSection Section() const;
+
+  void PrintEntries(CalculationPage& page);
+  void PrintResults(CalculationPage& page, shell::PrintSurface& target);
 
   TagColumns RecordColumns();
   /// The judged results with the columns of their colours; their texts stand one column behind.

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "sheets/calculation_page.h"
 #include "sheets/process_sheet.h"
 #include "sheets/tag_record.h"
 #include "sheets/vortex_chart.h"
@@ -52,10 +53,13 @@ class frmVortex : public ProcessSheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddVortex(row); }
   void GetFrom(int row) override { GetVortex(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintVortex(target); }
   /// Writes the entries into a row of the tag store, and the recommended size with its numbers.
   void AddVortex(int row);
   /// Fills the entries from a row of its kind; the results are calculated anew.
   void GetVortex(int row);
+  /// Prints entries and results as they stand on the sheet.
+  bool PrintVortex(shell::PrintSurface& target);
 
  protected:
   std::vector<std::string> PropertyOrder() const override;
@@ -73,6 +77,9 @@ class frmVortex : public ProcessSheet {
   void ShowResults();
   void ShowSize(int i);
   void CautionResults();
+
+  void PrintEntries(CalculationPage& page);
+  std::string PageLine(int i) const;
 
   TagColumns RecordColumns();
   /// The recommended size and "low;high;loss;frequency;remark" of it, both "" without one.

@@ -22,6 +22,8 @@ using forms::OptionButton;
 using forms::ResultLabel;
 using forms::TextBox;
 
+class CalculationPage;
+
 /// Humidity of a gas and the saturation pressure that goes with it.
 struct HumidityFields {
   explicit HumidityFields(Form& form);
@@ -150,6 +152,12 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void Watch(ComboBox& box);
   /// Makes a double click on the field and a click on its label run the same automatic entry.
   void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
+
+  /// Prints the density, for a gas that at normal conditions and that in the pipe, as they were
+  /// worked out last; 0 leaves a blank.
+  void PrintDensities(CalculationPage& page, Real normal, Real operating);
+  /// Prints the viscosity and, for gas and steam, the panel's fields that a liquid has not.
+  void PrintGas(CalculationPage& page, const std::string& deviationLabel);
 
   /// Fills a pipe bore from the pipe table, or says that there is no such pipe.
   void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
