@@ -207,7 +207,7 @@ void frmIntegral::CautionGas() {
     if (text.empty() || IsNote(text)) continue;
     if (Val(text) <= kSmallShare * 10000 * Process().pressureAbs) continue;
     lbl注意.SetForeColor(forms::kMagenta);
-    lbl注意.SetText("差圧が圧力の 1 割を超える口径では、膨張補正がないため差圧が小さく出ます。");
+    lbl注意.SetText("差圧が圧力の 1 割を超える口径では、\n膨張補正がないため差圧が小さく出ます。");
     return;
   }
 }

@@ -272,19 +272,19 @@ void frmRO::CautionResults() {
     }
   };
   if (beta >= 1) {
-    caution("絞り径が配管内径以上です。この条件では製作できません。", {&lbl絞り径, &lblβ});
+    caution("絞り径が配管内径以上です。\nこの条件では製作できません。", {&lbl絞り径, &lblβ});
   } else if (beta > 0.8) {
     caution("β が 0.8 を超え、応力・たわみの式の範囲外です。", {&lblβ, &lblたわみ係数});
   } else if (Val(lblたわみ係数.Text()) == 0) {
-    caution("このβではたわみの式が 0 になり、変形量は目安になりません。", {&lblたわみ係数});
+    caution("このβではたわみの式が 0 になり、\n変形量は目安になりません。", {&lblたわみ係数});
   }
   if (Differential() >= Process().pressureAbs) {
     caution("差圧が上流の絶対圧力以上です。", {&lbl絞り径});
   }
   if (IsSteam()) {
-    caution("蒸気は使用状態の密度から分子量を求めるため、絞り径が小さく出ます。");
+    caution("蒸気は使用状態の密度から分子量を求めるため、\n絞り径が小さく出ます。");
   } else if (IsLiquid() && Val(txtThickness.Text()) >= bore) {
-    caution("板厚が絞り径以上です。流量係数 1 は実際（約 0.8）より大きめです。");
+    caution("板厚が絞り径以上です。\n流量係数 1 は実際（約 0.8）より大きめです。");
   }
   lbl注意.SetForeColor(forms::kMagenta);
   lbl注意.SetText(note);

@@ -165,7 +165,7 @@ void frmVortex::CautionResults() {
   std::string note;
   if (!any) note = "このメーカーに適用できるサイズはありません。";
   if (noLowerLimit)
-    note = "密度が低く、測定下限を決める式がありません（下限 0 は目安になりません）。";
+    note = "密度が低く、測定下限を決める式がありません\n（下限 0 は目安になりません）。";
   lbl注意.SetForeColor(forms::kMagenta);
   lbl注意.SetText(note);
 }
