@@ -66,11 +66,6 @@ void frmIntegral::Load() {
   SetFocus(txtTagNo);
 }
 
-void frmIntegral::OnFault(const forms::Control* source, const common::RuntimeFault& fault) {
-  if (source == &cmd計算) ClearResults();
-  ProcessSheet::OnFault(source, fault);
-}
-
 std::vector<std::string> frmIntegral::PropertyOrder() const {
   if (IsLiquid()) return {"密度", "粘性係数"};
   return {"比熱比", "密度", "粘性係数", "飽和水蒸気圧", "偏差係数"};
@@ -96,11 +91,8 @@ void frmIntegral::ShowBoresOfGroup() {
 }
 
 void frmIntegral::cmdデータ消去_Click() {
-  EmptyTextBoxes();
   if (cbo計器型式.Count() > 0) cbo計器型式.Pick(0);
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
-  ClearResults();
-  SetFocus(txtTagNo);
+  ClearData();
 }
 
 void frmIntegral::ClearResults() {
@@ -278,27 +270,17 @@ TagColumns frmIntegral::RecordColumns() {
 
 void frmIntegral::AddIntegral(int row) {
   shell::TagStore& tags = Space().tags;
-  RecordColumns().Put(tags, row);
+  PutRecord(row, kFluidColumn, RecordColumns());
   for (const int column : kUnusedColumns) tags.SetText(row, column, "");
-  tags.SetText(row, kFluidColumn, std::to_string(cbo流体.Index()));
   tags.SetText(row, kBoreColumn, std::to_string(cboOrificeNo.Index()));
   tags.SetText(row, kPlainDPColumn, detailDP_);
   tags.SetText(row, kPlainLossColumn, detailLoss_);
-  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
 }
 
 void frmIntegral::GetIntegral(int row) {
-  const shell::TagRow record = Space().tags.Row(row);
-  if (sheets::At(record, shell::kKindColumn) != kKind) return;
-  ClearResults();
-  SelectStored(cbo流体, sheets::At(record, kFluidColumn));
-  const TagColumns columns = RecordColumns();  // those of the phase
-  columns.GetSelections(record);
-  columns.GetEntries(record);
-  StoreEntries();
-  columns.GetResults(record);
-  GetDetail(record);
+  const shell::TagRow* const record =
+      GetRecord(row, kFluidColumn, [this] { return RecordColumns(); });
+  if (record != nullptr) GetDetail(*record);
 }
 
 /// The list of bores holds mmH2O or notes; all else follows from it.
@@ -325,17 +307,15 @@ void frmIntegral::GetDetail(const shell::TagRow& record) {
 }
 
 void frmIntegral::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
-          forms::Stretched(ProcessBlock(), 7),
-          forms::Stretched(forms::Column({BoresBlock(), forms::Space()}), 7),
-          forms::Stretched(forms::Column({DetailBlock(), forms::Space(),
-                                          forms::Buttons({{}, cmdデータ消去, cmd計算})}),
-                           7),
-      })),
-  }));
+  SetLayout(
+      SheetBlock(lblタイトル,
+                 forms::Row({
+                     forms::Stretched(ProcessBlock(), 7),
+                     forms::Stretched(forms::Column({BoresBlock(), forms::Space()}), 7),
+                     forms::Stretched(forms::Column({DetailBlock(), forms::Space(),
+                                                     forms::Buttons({{}, cmdデータ消去, cmd計算})}),
+                                      7),
+                 })));
 }
 
 forms::Block frmIntegral::ProcessBlock() {

@@ -7,7 +7,6 @@
 #include "flow/integral_orifice.h"
 #include "sheets/calculation_page.h"
 #include "sheets/process_sheet.h"
-#include "sheets/tag_record.h"
 
 namespace sheets {
 
@@ -61,7 +60,6 @@ class frmIntegral : public ProcessSheet {
   explicit frmIntegral(shell::Workspace& workspace);
 
   void Load() override;
-  void OnFault(const forms::Control* source, const common::RuntimeFault& fault) override;
 
   void ClearResults() override;
 

@@ -3,7 +3,6 @@
 #include "common/number.h"
 #include "data/material_table.h"
 #include "data/units.h"
-#include "sheets/frm_pipe_dia.h"
 #include "sheets/list_texts.h"
 
 namespace sheets {
@@ -62,9 +61,8 @@ void frmOrifice::BindHandlers() {
   opt絞り径_差圧.onClick = [this] { SwitchMode(); };
   OfferEntry(lbl絞り部膨張率, txt絞り部膨張率, [this] { txt絞り部膨張率_DblClick(); });
   OfferEntry(lbl配管線膨張率, txt配管線膨張率, [this] { txt配管線膨張率_DblClick(); });
-  OfferEntry(lbl配管内径, txt配管内径, [this] { txt配管内径_DblClick(); });
-  txt配管内径.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
-  for (ComboBox* box : {&cbo絞り部材質, &cbo配管種類, &cbo配管呼称径, &cboSchedule}) {
+  OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
+  for (ComboBox* box : {&cbo絞り部材質, &cbo配管種類}) {
     box->onChange = [this] { ClearResults(); };
   }
   cbo絞り部材質.onClick = [this] {
@@ -75,12 +73,6 @@ void frmOrifice::BindHandlers() {
     ClearResults();
     if (cbo配管種類.Index() >= 0) txt配管線膨張率_DblClick();
   };
-  for (ComboBox* box : {&cbo配管呼称径, &cboSchedule}) {
-    box->onClick = [this] {
-      ClearResults();
-      if (cbo配管呼称径.Index() >= 0 && cboSchedule.Index() >= 0) txt配管内径_DblClick();
-    };
-  }
   pic断面.onPaint = [this](forms::DrawSurface& surface) {
     DrawElementSection(Section(), surface, pic断面);
   };
@@ -109,11 +101,6 @@ void frmOrifice::Load() {
   SwitchMode();
   StoreEntries();
   SetFocus(txtTagNo);
-}
-
-void frmOrifice::OnFault(const forms::Control* source, const common::RuntimeFault& fault) {
-  if (source == &cmd計算) ClearResults();
-  ProcessSheet::OnFault(source, fault);
 }
 
 std::vector<std::string> frmOrifice::PropertyOrder() const {
@@ -172,8 +159,6 @@ void frmOrifice::FillExpansion(const ComboBox& material, TextBox& box) {
 void frmOrifice::txt絞り部膨張率_DblClick() { FillExpansion(cbo絞り部材質, txt絞り部膨張率); }
 
 void frmOrifice::txt配管線膨張率_DblClick() { FillExpansion(cbo配管種類, txt配管線膨張率); }
-
-void frmOrifice::txt配管内径_DblClick() { FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径); }
 
 void frmOrifice::TakePipe(double, double, double bore) { txt配管内径.SetText(NumberText(bore)); }
 
@@ -330,32 +315,28 @@ void frmOrifice::ShowTaps(const flow::SizingResult& result) {
 }
 
 void frmOrifice::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル[0]}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
+  SetLayout(SheetBlock(
+      lblタイトル[0],
+      forms::Row({
           forms::Stretched(ProcessBlock(), 7),
           forms::Stretched(
               forms::Column({ElementBlock(), ModeBlock(), forms::Stretched(SectionBlock())}), 7),
           forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
                                           forms::Buttons({{}, cmdデータ消去, cmd計算})}),
                            5),
-      })),
-  }));
+      })));
 }
 
 forms::Block frmOrifice::ProcessBlock() {
-  const Cell flowUnits = Cell::OneOf({&cbo流量単位L, &cbo流量単位G, &cbo流量単位S});
-  const Cell densityUnits = Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S});
   return forms::Group(
       "プロセス条件",
       forms::Table({
           {lbl流体, Cell(cbo流体).Over(2)},
-          {lbl目盛流量, txt目盛流量, flowUnits},
+          {lbl目盛流量, txt目盛流量, FlowUnits()},
           {lbl常用流量, txt常用流量, lbl常用流量単位},
           {lbl圧力, txt圧力, cbo圧力単位},
           {lbl温度, txt温度, cbo温度単位},
-          {lbl密度, txt密度, densityUnits},
+          {lbl密度, txt密度, DensityUnits()},
           {lbl粘性係数, txt粘性係数, cbo粘性係数単位},
           {humidity.lbl相対湿度, humidity.txt相対湿度, humidity.lbl相対湿度単位},
           {base.lbl計算基準, Cell(base.optWetBase).Over(2)},

@@ -84,7 +84,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
 
   void Load() override;
   void TakePipe(double outsideDiameter, double wallThickness, double bore) override;
-  void OnFault(const forms::Control* source, const common::RuntimeFault& fault) override;
 
   void ClearResults() override;
 
@@ -119,7 +118,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void SwitchMode();
   void txt絞り部膨張率_DblClick();
   void txt配管線膨張率_DblClick();
-  void txt配管内径_DblClick();
   void FillExpansion(const ComboBox& material, TextBox& box);
   void cmdデータ消去_Click();
 

@@ -34,8 +34,6 @@ enum Column {
 /// A flag of an old file may also be a number.
 bool IsSet(const std::string& text) { return text == "True" || Val(text) != 0; }
 
-void Select(ComboBox& box, const std::string& index) { box.SetIndex(common::IntIndex(Val(index))); }
-
 }  // namespace
 
 void frmOrifice::AddOrifice(int row) {
@@ -112,15 +110,15 @@ void frmOrifice::GetOrifice(int row) {
 }
 
 void frmOrifice::GetSelections(const shell::TagRow& record) {
-  Select(cbo絞り機構種類, record[kElementType]);
-  Select(cbo流体, record[kFluid]);
-  Select(FlowUnitBox(), record[kFlowUnit]);
-  Select(cbo圧力単位, record[kPressureUnit]);
-  Select(cbo温度単位, record[kTemperatureUnit]);
-  Select(DensityUnitBox(), record[kDensityUnit]);
-  Select(cbo粘性係数単位, record[kViscosityUnit]);
-  Select(humidity.cbo飽和水蒸気圧単位, record[kSaturationUnit]);
-  Select(cbo設計差圧単位, record[kDifferentialUnit]);
+  SelectStored(cbo絞り機構種類, record[kElementType]);
+  SelectStored(cbo流体, record[kFluid]);
+  SelectStored(FlowUnitBox(), record[kFlowUnit]);
+  SelectStored(cbo圧力単位, record[kPressureUnit]);
+  SelectStored(cbo温度単位, record[kTemperatureUnit]);
+  SelectStored(DensityUnitBox(), record[kDensityUnit]);
+  SelectStored(cbo粘性係数単位, record[kViscosityUnit]);
+  SelectStored(humidity.cbo飽和水蒸気圧単位, record[kSaturationUnit]);
+  SelectStored(cbo設計差圧単位, record[kDifferentialUnit]);
   (IsSet(record[kWetBase]) ? base.optWetBase : base.optDryBase).SetChecked(true);
 }
 

@@ -3,7 +3,6 @@
 #include "common/number.h"
 #include "data/material_table.h"
 #include "data/units.h"
-#include "sheets/frm_pipe_dia.h"
 #include "sheets/list_texts.h"
 
 namespace sheets {
@@ -53,26 +52,14 @@ void frmRO::BindHandlers() {
   };
   OfferEntry(lblヤング率, txtヤング率, [this] { txtヤング率_DblClick(); });
   OfferEntry(lbl許容応力, txt許容応力, [this] { txt許容応力_DblClick(); });
-  OfferEntry(lbl配管内径, txt配管内径,
-             [this] { FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径); });
-  txt配管内径.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
-  for (ComboBox* box : {&cboRO材質, &cbo配管呼称径, &cboSchedule}) {
-    box->onChange = [this] { ClearResults(); };
-  }
+  OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
+  cboRO材質.onChange = [this] { ClearResults(); };
   cboRO材質.onClick = [this] {
     ClearResults();
     if (cboRO材質.Index() < 0) return;
     txtヤング率_DblClick();
     txt許容応力_DblClick();
   };
-  for (ComboBox* box : {&cbo配管呼称径, &cboSchedule}) {
-    box->onClick = [this] {
-      ClearResults();
-      if (cbo配管呼称径.Index() >= 0 && cboSchedule.Index() >= 0) {
-        FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径);
-      }
-    };
-  }
   pic断面.onPaint = [this](forms::DrawSurface& surface) {
     DrawElementSection(Section(), surface, pic断面);
   };
@@ -161,14 +148,11 @@ void frmRO::txt許容応力_DblClick() {
 void frmRO::TakePipe(double, double, double bore) { txt配管内径.SetText(NumberText(bore)); }
 
 void frmRO::cmdデータ消去_Click() {
-  EmptyTextBoxes();
   {
     const Quiet quiet(*this);
     if (kClearedMaterial < cboRO材質.Count()) cboRO材質.SetIndex(kClearedMaterial);
   }
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
-  ClearResults();
-  SetFocus(txtTagNo);
+  ClearData();
 }
 
 void frmRO::ClearResults() {
@@ -355,29 +339,20 @@ std::vector<std::pair<int, Label*>> frmRO::JudgedColumns() {
 
 void frmRO::AddRO(int row) {
   shell::TagStore& tags = Space().tags;
-  RecordColumns().Put(tags, row);
+  PutRecord(row, kFluidColumn, RecordColumns());
   for (const auto& [column, label] : JudgedColumns()) {
     tags.SetText(row, column, std::to_string(label->ForeColor()));
   }
   tags.SetText(row, kUnusedColumn, "");
-  tags.SetText(row, kFluidColumn, std::to_string(cbo流体.Index()));
-  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
 }
 
 void frmRO::GetRO(int row) {
-  const shell::TagRow record = Space().tags.Row(row);
-  if (At(record, shell::kKindColumn) != kKind) return;
-  ClearResults();
-  SelectStored(cbo流体, At(record, kFluidColumn));
-  const TagColumns columns = RecordColumns();  // those of the phase
-  columns.GetSelections(record);
-  columns.GetEntries(record);
-  columns.GetResults(record);
+  const shell::TagRow* const record =
+      GetRecord(row, kFluidColumn, [this] { return RecordColumns(); });
+  if (record == nullptr) return;
   for (const auto& [column, label] : JudgedColumns()) {
-    label->SetForeColor(common::IntIndex(Val(At(record, column))));
+    label->SetForeColor(common::IntIndex(Val(At(*record, column))));
   }
-  StoreEntries();
   const bool calculated = !lblβ.Text().empty();
   Space().calcDone = calculated;
   if (calculated) {
@@ -389,10 +364,9 @@ void frmRO::GetRO(int row) {
 }
 
 void frmRO::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
+  SetLayout(SheetBlock(
+      lblタイトル,
+      forms::Row({
           forms::Stretched(ProcessBlock(), 7),
           forms::Stretched(forms::Column({PlateBlock(), forms::Stretched(forms::Group(
                                                             "断面図", forms::Table({{pic断面}})))}),
@@ -400,8 +374,7 @@ void frmRO::DeclareLayout() {
           forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
                                           forms::Buttons({{}, cmdデータ消去, cmd計算})}),
                            6),
-      })),
-  }));
+      })));
 }
 
 forms::Block frmRO::ProcessBlock() {

@@ -7,7 +7,6 @@
 #include "sheets/calculation_page.h"
 #include "sheets/element_section.h"
 #include "sheets/process_sheet.h"
-#include "sheets/tag_record.h"
 
 namespace sheets {
 

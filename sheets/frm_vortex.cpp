@@ -55,25 +55,17 @@ void frmVortex::Load() {
   SetFocus(txtTagNo);
 }
 
-void frmVortex::OnFault(const forms::Control* source, const common::RuntimeFault& fault) {
-  if (source == &cmd計算) ClearResults();
-  ProcessSheet::OnFault(source, fault);
-}
-
 std::vector<std::string> frmVortex::PropertyOrder() const {
   if (IsLiquid()) return {"密度", "粘性係数", "飽和蒸気圧"};
   return {"密度", "粘性係数", "偏差係数"};
 }
 
 void frmVortex::cmdデータ消去_Click() {
-  EmptyTextBoxes();
   {
     const Quiet quiet(*this);
     if (cboMaker.Count() > 0) cboMaker.SetIndex(0);
   }
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
-  ClearResults();
-  SetFocus(txtTagNo);
+  ClearData();
 }
 
 void frmVortex::ClearResults() {
@@ -204,39 +196,26 @@ std::pair<std::string, std::string> frmVortex::Recommended() const {
 }
 
 void frmVortex::AddVortex(int row) {
-  shell::TagStore& tags = Space().tags;
-  RecordColumns().Put(tags, row);
+  PutRecord(row, kFluidColumn, RecordColumns());
   const auto [size, figures] = Recommended();
-  tags.SetText(row, kSizeColumn, size);
-  tags.SetText(row, kFiguresColumn, figures);
-  tags.SetText(row, kFluidColumn, std::to_string(cbo流体.Index()));
-  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
+  Space().tags.SetText(row, kSizeColumn, size);
+  Space().tags.SetText(row, kFiguresColumn, figures);
 }
 
 void frmVortex::GetVortex(int row) {
-  const shell::TagRow record = Space().tags.Row(row);
-  if (At(record, shell::kKindColumn) != kKind) return;
-  ClearResults();
-  SelectStored(cbo流体, At(record, kFluidColumn));
-  const TagColumns columns = RecordColumns();  // those of the phase
-  columns.GetSelections(record);
-  columns.GetEntries(record);
-  StoreEntries();
+  GetRecord(row, kFluidColumn, [this] { return RecordColumns(); });
 }
 
 void frmVortex::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
-          forms::Stretched(ProcessBlock(), 5),
-          forms::Stretched(forms::Group("測定範囲", forms::Table({{Picture4}})), 5),
-          forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
-                                          forms::Buttons({{}, cmdデータ消去, cmd計算})}),
-                           7),
-      })),
-  }));
+  SetLayout(
+      SheetBlock(lblタイトル,
+                 forms::Row({
+                     forms::Stretched(ProcessBlock(), 5),
+                     forms::Stretched(forms::Group("測定範囲", forms::Table({{Picture4}})), 5),
+                     forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
+                                                     forms::Buttons({{}, cmdデータ消去, cmd計算})}),
+                                      7),
+                 })));
 }
 
 forms::Block frmVortex::ProcessBlock() {

@@ -5,7 +5,6 @@
 
 #include "sheets/calculation_page.h"
 #include "sheets/process_sheet.h"
-#include "sheets/tag_record.h"
 #include "sheets/vortex_chart.h"
 
 namespace sheets {
@@ -46,7 +45,6 @@ class frmVortex : public ProcessSheet {
   explicit frmVortex(shell::Workspace& workspace);
 
   void Load() override;
-  void OnFault(const forms::Control* source, const common::RuntimeFault& fault) override;
 
   void ClearResults() override;
 
