@@ -30,7 +30,7 @@ frmVortex::frmVortex(shell::Workspace& workspace)
   UseFields({.deviationLabel = &lbl偏差係数,
              .deviation = &txt偏差係数,
              .secondFlowUnit = &lbl最少流量単位,
-             .vapourPressure = &vapour});
+             .vapour = &vapour});
   BindHandlers();
   DeclareLayout();
 }

@@ -7,6 +7,7 @@
 #include "data/units.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/record_fields.h"
 
 namespace sheets {
 
@@ -37,15 +38,20 @@ HumidityFields::HumidityFields(Form& form)
       txt飽和水蒸気圧(form, "txt飽和水蒸気圧", forms::NumberKeys),
       cbo飽和水蒸気圧単位(form, "cbo飽和水蒸気圧単位") {}
 
-BaseFields::BaseFields(Form& form)
-    : lbl計算基準(form, "lbl計算基準", "計算基準"),
-      optWetBase(form, "optWetBase", "湿り基準（Wet Base）", "base"),
-      optDryBase(form, "optDryBase", "乾燥基準（Dry Base）", "base") {}
-
 VapourPressureFields::VapourPressureFields(Form& form)
     : lbl飽和蒸気圧(form, "lbl飽和蒸気圧", "飽和蒸気圧"),
       txt飽和蒸気圧(form, "txt飽和蒸気圧", forms::NumberKeys),
       cbo飽和蒸気圧単位(form, "cbo飽和蒸気圧単位") {}
+
+CriticalPressureFields::CriticalPressureFields(Form& form)
+    : lbl臨界圧力(form, "lbl臨界圧力", "臨界圧力"),
+      txt臨界圧力(form, "txt臨界圧力", forms::NumberKeys),
+      cbo臨界圧力単位(form, "cbo臨界圧力単位") {}
+
+BaseFields::BaseFields(Form& form)
+    : lbl計算基準(form, "lbl計算基準", "計算基準"),
+      optWetBase(form, "optWetBase", "湿り基準（Wet Base）", "base"),
+      optDryBase(form, "optDryBase", "乾燥基準（Dry Base）", "base") {}
 
 ProcessSheet::ProcessSheet(shell::Workspace& workspace, const std::string& kind,
                            std::string caption)
@@ -92,18 +98,25 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
     OfferEntry(*fields_.deviationLabel, *fields_.deviation,
                [this] { FillFromFluidOrSteam("偏差係数"); });
   }
-  if (fields_.vapourPressure != nullptr) UseVapourPressure(*fields_.vapourPressure);
   if (fields_.kappa != nullptr) {
     TextBox& kappa = *fields_.kappa;
     Watch(kappa);
     OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
   }
-}
-
-void ProcessSheet::UseVapourPressure(VapourPressureFields& fields) {
-  Watch(fields.txt飽和蒸気圧);
-  Watch(fields.cbo飽和蒸気圧単位);
-  OfferEntry(fields.lbl飽和蒸気圧, fields.txt飽和蒸気圧, [this] { FillVapourPressure(); });
+  if (fields_.vapour != nullptr) {
+    VapourPressureFields& vapour = *fields_.vapour;
+    Watch(vapour.txt飽和蒸気圧);
+    Watch(vapour.cbo飽和蒸気圧単位);
+    OfferEntry(vapour.lbl飽和蒸気圧, vapour.txt飽和蒸気圧,
+               [this] { FillFromFluidOrSteam("飽和蒸気圧"); });
+  }
+  if (fields_.critical != nullptr) {
+    CriticalPressureFields& critical = *fields_.critical;
+    Watch(critical.txt臨界圧力);
+    Watch(critical.cbo臨界圧力単位);
+    OfferEntry(critical.lbl臨界圧力, critical.txt臨界圧力,
+               [this] { FillFromFluidOrSteam("臨界圧力"); });
+  }
 }
 
 void ProcessSheet::Watch(TextBox& box) {
@@ -152,10 +165,13 @@ void ProcessSheet::Load() {
   if (fields_.humidity != nullptr) {
     FillList(fields_.humidity->cbo飽和水蒸気圧単位, lists.vapourPressureUnits);
   }
-  if (fields_.vapourPressure != nullptr) {
-    FillList(fields_.vapourPressure->cbo飽和蒸気圧単位, lists.vapourPressureUnits);
-  }
   if (fields_.base != nullptr) fields_.base->optWetBase.SetChecked(true);
+  if (fields_.vapour != nullptr) {
+    FillList(fields_.vapour->cbo飽和蒸気圧単位, lists.vapourPressureUnits);
+  }
+  if (fields_.critical != nullptr) {
+    FillList(fields_.critical->cbo臨界圧力単位, lists.vapourPressureUnits);
+  }
   ShowUnitsOfPhase();
 }
 
@@ -215,8 +231,9 @@ void ProcessSheet::ClearData() {
 void ProcessSheet::PutRecord(int row, int fluidColumn, const TagColumns& columns) {
   shell::TagStore& tags = Space().tags;
   columns.Put(tags, row);
-  tags.SetText(row, fluidColumn, std::to_string(cbo流体.Index()));
-  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
+  RecordWriter record(tags, row);
+  record.PutIndex(fluidColumn, cbo流体);
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
   tags.tagModified = true;
 }
 
@@ -225,7 +242,7 @@ const shell::TagRow* ProcessSheet::GetRecord(int row, int fluidColumn,
   const shell::TagRow& record = Space().tags.Row(row);
   if (At(record, shell::kKindColumn) != Entry().kind) return nullptr;
   ClearResults();
-  SelectStored(cbo流体, At(record, fluidColumn));
+  Select(cbo流体, At(record, fluidColumn));
   const TagColumns named = columns();
   named.GetSelections(record);
   named.GetEntries(record);
@@ -266,6 +283,15 @@ void ProcessSheet::ShowUnitsOfPhase() {
   }
   if (fields_.deviation != nullptr) SwitchField(*fields_.deviation, IsGas());
   if (fields_.kappa != nullptr) SwitchField(*fields_.kappa, IsGas() || IsSteam());
+  // A pressure left over from a liquid would be taken for one of the gas.
+  if (fields_.vapour != nullptr) {
+    SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
+    fields_.vapour->cbo飽和蒸気圧単位.SetEnabled(IsLiquid());
+  }
+  if (fields_.critical != nullptr) {
+    SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
+    fields_.critical->cbo臨界圧力単位.SetEnabled(IsLiquid());
+  }
   show(cbo流量単位L, cbo流量単位G, cbo流量単位S);
   show(cbo密度単位L, cbo密度単位G, cbo密度単位S);
   if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
@@ -377,37 +403,52 @@ void ProcessSheet::StoreEntries() {
   process.temperatureUnit = cbo温度単位.Index();
   process.densityUnit = DensityUnitBox().Index();
   process.viscosityUnit = cbo粘性係数単位.Index();
-  process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
-  process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
+  process.pressureAbs =
+      Quietly([&] { return data::PressureToAbsolute(value(&txt圧力), process.pressureUnit); });
+  process.temperatureC =
+      Quietly([&] { return data::TemperatureToCelsius(process, value(&txt温度)); });
   process.temperatureK = process.temperatureC + 273.15;
   process.compressibilityZ =
       IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
-  process.relativeHumidity = 0;
-  process.saturationPressure = 0;
-  process.flowBasis = data::kWetBase;
-  if (IsGas() && fields_.humidity != nullptr) {
-    const HumidityFields& fields = *fields_.humidity;
-    process.relativeHumidity = Quietly([&] { return common::Single(value(&fields.txt相対湿度)); });
-    process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
-    process.saturationPressure = data::VapourPressureToAbsolute(value(&fields.txt飽和水蒸気圧),
-                                                                process.saturationPressureUnit);
-    if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
-      process.flowBasis = data::kDryBase;
-    }
-  }
-  if (fields_.vapourPressure != nullptr) {
-    const VapourPressureFields& fields = *fields_.vapourPressure;
-    // The estimator writes a vapour pressure in the unit of the saturation pressure.
-    process.vapourPressureUnit = fields.cbo飽和蒸気圧単位.Index();
-    process.saturationPressureUnit = process.vapourPressureUnit;
-    process.vapourPressure =
-        data::VapourPressureToAbsolute(value(&fields.txt飽和蒸気圧), process.vapourPressureUnit);
-  }
+  StoreHumidity();
   process.waterVapourDensity = Quietly([&] { return data::SaturatedWaterVapourDensity(process); });
   process.densityBase = Quietly([&] { return data::DensityToNormal(process, value(&txt密度)); });
   process.densityFlow = Quietly([&] { return data::NormalDensityAtFlowState(process); });
   process.viscosityCp =
       Quietly([&] { return data::ViscosityToPoise(process, value(&txt粘性係数)); });
+}
+
+/// Humidity and its base; of the two pressures in the vapour pressure list a sheet has one.
+void ProcessSheet::StoreHumidity() {
+  data::ProcessState& process = Process();
+  process.relativeHumidity = 0;
+  process.saturationPressure = 0;
+  process.flowBasis = data::kWetBase;
+  if (fields_.vapour != nullptr) {
+    const VapourPressureFields& fields = *fields_.vapour;
+    // The estimator writes a vapour pressure in the unit of the saturation pressure.
+    process.saturationPressureUnit = fields.cbo飽和蒸気圧単位.Index();
+    process.vapourPressureUnit = process.saturationPressureUnit;
+    process.vapourPressure = Quietly([&] {
+      return data::VapourPressureToAbsolute(Val(fields.txt飽和蒸気圧.Text()),
+                                            process.vapourPressureUnit);
+    });
+  }
+  if (fields_.critical != nullptr) {
+    process.vapourPressureUnit = fields_.critical->cbo臨界圧力単位.Index();
+  }
+  if (!IsGas() || fields_.humidity == nullptr) return;
+  const HumidityFields& fields = *fields_.humidity;
+  process.relativeHumidity =
+      Quietly([&] { return common::Single(Val(fields.txt相対湿度.Text())); });
+  process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
+  process.saturationPressure = Quietly([&] {
+    return data::VapourPressureToAbsolute(Val(fields.txt飽和水蒸気圧.Text()),
+                                          process.saturationPressureUnit);
+  });
+  if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
+    process.flowBasis = data::kDryBase;
+  }
 }
 
 TextBox* ProcessSheet::FieldOf(const std::string& word) {
@@ -418,9 +459,8 @@ TextBox* ProcessSheet::FieldOf(const std::string& word) {
   if (word == "飽和水蒸気圧" && fields_.humidity != nullptr) {
     return &fields_.humidity->txt飽和水蒸気圧;
   }
-  if (word == "飽和蒸気圧" && fields_.vapourPressure != nullptr) {
-    return &fields_.vapourPressure->txt飽和蒸気圧;
-  }
+  if (word == "飽和蒸気圧" && fields_.vapour != nullptr) return &fields_.vapour->txt飽和蒸気圧;
+  if (word == "臨界圧力" && fields_.critical != nullptr) return &fields_.critical->txt臨界圧力;
   return nullptr;
 }
 
@@ -441,6 +481,7 @@ std::optional<Real> ProcessSheet::Estimate(const std::string& word, int fluidInd
   if (word == "偏差係数") return EstimateDeviation(estimator, fluidIndex);
   if (word == "比熱比") return estimator.EstimateIsentropicExponent(fluidIndex);
   if (word == "飽和蒸気圧") return estimator.EstimateVapourPressure(fluidIndex);
+  if (word == "臨界圧力") return estimator.LiquidCriticalPressureInUnit(fluidIndex);
   return std::nullopt;
 }
 
@@ -480,11 +521,6 @@ void ProcessSheet::FillSaturationPressure() {
   fields.txt飽和水蒸気圧.SetText(NumberText(data::SaturatedVapourPressure(Process(), User())));
 }
 
-/// Only a liquid has one in the fluid table.
-void ProcessSheet::FillVapourPressure() {
-  if (IsLiquid()) FillFromFluidOrSteam("飽和蒸気圧");
-}
-
 void ProcessSheet::FillTemperature() {
   if (!IsSteam()) return;
   StoreEntries();
@@ -508,6 +544,8 @@ std::optional<Real> ProcessSheet::EstimateSteam(const std::string& word) {
 }
 
 void ProcessSheet::FillFromFluidOrSteam(const std::string& word) {
+  const bool ofLiquids = word == "飽和蒸気圧" || word == "臨界圧力";
+  if (ofLiquids && !IsLiquid()) return;
   StoreEntries();
   Space().propertyWord = word;
   if (!IsSteam()) {

@@ -36,20 +36,28 @@ struct HumidityFields {
   ComboBox cbo飽和水蒸気圧単位;
 };
 
+/// Saturated vapour pressure of a liquid.
+struct VapourPressureFields {
+  explicit VapourPressureFields(Form& form);
+  Label lbl飽和蒸気圧;
+  TextBox txt飽和蒸気圧;
+  ComboBox cbo飽和蒸気圧単位;
+};
+
+/// Critical pressure of a liquid.
+struct CriticalPressureFields {
+  explicit CriticalPressureFields(Form& form);
+  Label lbl臨界圧力;
+  TextBox txt臨界圧力;
+  ComboBox cbo臨界圧力単位;
+};
+
 /// Whether a humid gas flow counts its moisture.
 struct BaseFields {
   explicit BaseFields(Form& form);
   Label lbl計算基準;
   OptionButton optWetBase;
   OptionButton optDryBase;
-};
-
-/// Vapour pressure of a liquid.
-struct VapourPressureFields {
-  explicit VapourPressureFields(Form& form);
-  Label lbl飽和蒸気圧;
-  TextBox txt飽和蒸気圧;
-  ComboBox cbo飽和蒸気圧単位;
 };
 
 /// A calculator sheet with the panel of process conditions. The panel's fields have the same names,
@@ -105,7 +113,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
     TextBox* kappa = nullptr;
     /// Shows the flow unit of the phase behind a second flow.
     Label* secondFlowUnit = nullptr;
-    VapourPressureFields* vapourPressure = nullptr;
+    VapourPressureFields* vapour = nullptr;
+    CriticalPressureFields* critical = nullptr;
   };
   /// To be called once, in the constructor of the sheet.
   void UseFields(const OptionalFields& fields);
@@ -148,7 +157,6 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void FillTemperature();
   void FillFromFluidOrSteam(const std::string& word);
   void FillSaturationPressure();
-  void FillVapourPressure();
 
   /// Entry that calls ClearResults and stores the panel when it changes.
   void Watch(TextBox& box);
@@ -192,9 +200,9 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void cbo流量単位_Click();
   void ShowUnitsOfPhase();
   void SwitchHumidity();
-  void UseVapourPressure(VapourPressureFields& fields);
   void UpdateFluidList();
   void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
+  void StoreHumidity();
   TextBox* FieldOf(const std::string& word);
   std::optional<Real> Estimate(const std::string& word, int fluidIndex);
   std::optional<Real> EstimateSteam(const std::string& word);

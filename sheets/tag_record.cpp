@@ -1,7 +1,8 @@
 #include "sheets/tag_record.h"
 
-#include "common/number.h"
+#include "common/real.h"
 #include "forms/form.h"
+#include "sheets/record_fields.h"
 
 namespace sheets {
 
@@ -9,20 +10,15 @@ const std::string& At(const shell::TagRow& record, int column) {
   return common::At(record, column);
 }
 
-void SelectStored(forms::ComboBox& box, const std::string& position) {
-  box.SetIndex(common::IntIndex(common::Val(position)));
-}
-
 void TagColumns::Put(shell::TagStore& tags, int row) const {
-  for (const auto& [column, box] : selections) {
-    tags.SetText(row, column, std::to_string(box->Index()));
-  }
-  for (const auto& [column, control] : entries) tags.SetText(row, column, control->Text());
-  for (const auto& [column, label] : results) tags.SetText(row, column, label->Text());
+  RecordWriter record(tags, row);
+  for (const auto& [column, box] : selections) record.PutIndex(column, *box);
+  record.PutTexts(entries);
+  record.PutTexts(results);
 }
 
 void TagColumns::GetSelections(const shell::TagRow& record) const {
-  for (const auto& [column, box] : selections) SelectStored(*box, At(record, column));
+  for (const auto& [column, box] : selections) Select(*box, At(record, column));
 }
 
 void TagColumns::GetEntries(const shell::TagRow& record) const {

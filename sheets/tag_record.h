@@ -26,10 +26,6 @@ struct TagColumns {
   void GetResults(const shell::TagRow& record) const;
 };
 
-/// Selects the entry whose position a column holds; a position that the list has not raises
-/// kIndexOutOfRange.
-void SelectStored(forms::ComboBox& box, const std::string& position);
-
 /// Text of a column.
 const std::string& At(const shell::TagRow& record, int column);
 

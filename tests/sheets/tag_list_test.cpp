@@ -328,10 +328,14 @@ TEST_F(SheetTest, SamplePlantStandsAsCalculated) {
     tags.SelectLine(row - 1);
     shell::RecallSelectedTag(bench.Space());
     auto& sheet = dynamic_cast<shell::Sheet&>(*bench.Forms().ActiveSheet());
-    if (kind == "⊿P Flow") {
-      Choose(stored[0] == "FE-1501" ? "opt絞り径→差圧" : "opt差圧→絞り径");
+    if (kind == "CV") {
+      for (const char* button : {"cmdCvData消去", "cmdCv計算", "cmdSizing"}) Click(button);
+    } else {
+      if (kind == "⊿P Flow") {
+        Choose(stored[0] == "FE-1501" ? "opt絞り径→差圧" : "opt差圧→絞り径");
+      }
+      Click("cmd計算");
     }
-    Click("cmd計算");
     if (kind == "Integral") Pick("cboOrificeNo", common::IntIndex(common::Val(stored[31])));
     EXPECT_EQ(TakeTexts(), Texts());
     for (int column = 0; column < shell::kTagColumns; ++column) {
