@@ -171,6 +171,7 @@ void frmIntegral::cmd計算_Click() {
   }
   const int bores = flow::IntegralBores(Group());
   std::vector<flow::BoreRating> ratings;
+  ratings.reserve(static_cast<std::size_t>(bores));
   for (int i = 0; i < bores; ++i) {
     ratings.push_back(flow::RateBore(Tables().integral, inputs, i));
   }
