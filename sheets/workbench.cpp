@@ -14,8 +14,11 @@
 #include "sheets/frm_rating.h"
 #include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_te.h"
+#include "sheets/frm_tw.h"
 #include "sheets/frm_vortex.h"
 #include "sheets/small_dialogues.h"
+#include "sheets/thermowell_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 
@@ -40,6 +43,11 @@ void Workbench::ProvideForms() {
   provide("frmVortex", std::type_identity<frmVortex>());
   provide("frmCV", std::type_identity<frmCV>());
   provide(frmCvSet::kName, std::type_identity<frmCvSet>());
+  provide("frmTW", std::type_identity<frmTW>());
+  provide(frm形状係数::kName, std::type_identity<frm形状係数>());
+  provide(frmTW判定条件::kName, std::type_identity<frmTW判定条件>());
+  provide(frm振動数判定::kName, std::type_identity<frm振動数判定>());
+  provide("frmTE", std::type_identity<frmTE>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmRating::kName, std::type_identity<frmRating>());
