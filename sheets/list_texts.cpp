@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/number.h"
 #include "data/pipe_table.h"
 
 namespace sheets {
@@ -10,6 +11,11 @@ std::vector<std::string> NominalSizeTexts(const data::ConvertLists& lists) {
   std::vector<std::string> texts = lists.nominalSizes;
   for (std::string& text : texts) text += "in";
   return texts;
+}
+
+common::Real GroupedNumber(std::string text) {
+  std::erase(text, ',');
+  return common::Val(text);
 }
 
 std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists) {
