@@ -6,12 +6,16 @@
 #include "sheets/frm_cv_correction.h"
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
+#include "sheets/frm_material.h"
+#include "sheets/frm_move.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_unit_converter.h"
+#include "sheets/frm_unit_edit.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
@@ -44,6 +48,10 @@ void Workbench::ProvideForms() {
   provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
   provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
   provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
+  provide("frmMaterial", std::type_identity<frmMaterial>());
+  provide(frm単位換算::kName, std::type_identity<frm単位換算>());
+  provide(frmUnitEdit::kName, std::type_identity<frmUnitEdit>());
+  provide(frmMove::kName, std::type_identity<frmMove>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
