@@ -114,12 +114,13 @@ void frmMaterial::Unload() {
 }
 
 void frmMaterial::LayOut() {
-  constexpr int kTemperatureColumns = 7;
-  constexpr int kCoefficientColumns = 15;
   constexpr int kOptionsInLine = 4;
   // A nameless material is still told apart by its number.
   constexpr const char* kNumbers[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
-  constexpr const char* kColumns[] = {"下限 ℃", "上限 ℃", "c0", "c1", "c2", "c3"};
+  const struct {
+    const char* title;
+    int characters;
+  } kColumns[] = {{"下限 ℃", 7}, {"上限 ℃", 7}, {"c0", 10}, {"c1", 11}, {"c2", 14}, {"c3", 17}};
   // The units in which the sheets read the results.
   constexpr const char* kProperties[] = {"密度　kg/m3", "ヤング率　kgf/mm2", "許容応力　kgf/mm2",
                                          "線膨張係数　1e-6/℃"};
@@ -131,7 +132,7 @@ void frmMaterial::LayOut() {
   }
   std::vector<forms::Line> lines = {{{}, {}}};
   for (int column = 0; column < lblColumn.Count(); ++column) {
-    lblColumn[column].SetText(kColumns[column]);
+    lblColumn[column].SetText(kColumns[column].title);
     lines[0].emplace_back(lblColumn[column]);
   }
   int row = 0;
@@ -140,9 +141,7 @@ void frmMaterial::LayOut() {
     forms::Line line = {low ? forms::Cell(kProperties[row / 2]) : forms::Cell(),
                         low ? "低温側" : "高温側"};
     for (int column = 0; column < boxes->Count(); ++column) {
-      const bool temperature = column < 2;
-      line.push_back(forms::Cell((*boxes)[column])
-                         .Wide(temperature ? kTemperatureColumns : kCoefficientColumns));
+      line.push_back(forms::Cell((*boxes)[column]).Wide(kColumns[column].characters));
     }
     if (!low) (*boxes)[0].SetToolTip("推算には使用しません（低温側の上限が境界です）。");
     lines.push_back(std::move(line));

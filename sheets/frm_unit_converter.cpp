@@ -263,25 +263,19 @@ void frm単位換算::Unload() {
   }
 }
 
+/// Made to be seen whole in the place that it wishes for, with the smallest letters.
 void frm単位換算::LayOut() {
-  constexpr int kCategoryColumns = 14;
-  constexpr int kUnitColumns = 13;
+  constexpr int kListColumns = 12;
   SetLayout(forms::Column({
       forms::Table({{TabStrip1}}),
       forms::Stretched(forms::Table({
           {lblCategory, lblLeft, lblRightUnit},
-          {forms::Cell(lstCategory).Wide(kCategoryColumns), forms::Cell(lstLeft).Wide(kUnitColumns),
-           forms::Cell(lstRight).Wide(kUnitColumns)},
+          {forms::Cell(lstCategory).Wide(kListColumns), forms::Cell(lstLeft).Wide(kListColumns),
+           forms::Cell(lstRight).Wide(kListColumns)},
           {{}, txtLeft, lblRight},
       })),
       forms::Table({
-          {lblEditCategory,
-           cmd分類挿入,
-           cmd分類修正,
-           cmdCategory削除,
-           cmdMoveCategory,
-           {},
-           cmdSave},
+          {lblEditCategory, cmd分類挿入, cmd分類修正, cmdCategory削除, cmdMoveCategory, cmdSave},
           {lblEditUnit, cmd単位挿入, cmd単位修正, cmdDelete, cmdMoveUnit, cmdSort},
       }),
   }));

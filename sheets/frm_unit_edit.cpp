@@ -81,6 +81,10 @@ void frmUnitEdit::FillFields(const frm単位換算& converter) {
 /// The first unit of a category is its base.
 void frmUnitEdit::ShowEquation() {
   if (edit_ == UnitEdit::kInsertCategory) txtBaseUnit.SetText(txtAddUnit.Text());
+  if (txtAddUnit.Text().empty()) {
+    lblEquation.SetText("");
+    return;
+  }
   lblEquation.SetText("[" + txtBaseUnit.Text() + "] ＝ [" + txtAddUnit.Text() +
                       "] × 換算係数 ＋ 定数項");
 }
