@@ -139,6 +139,20 @@ int Cp932Length(std::string_view text) {
   return static_cast<int>(ascii ? text.size() : ToCp932(text).size());
 }
 
+std::string UpperCase(std::string_view text) {
+  std::u32string points = CodePoints(text);
+  for (char32_t& c : points) {
+    const auto within = [c](char32_t first, char32_t last) { return c >= first && c <= last; };
+    if (within(U'a', U'z') || within(U'ａ', U'ｚ') || within(U'а', U'я') ||
+        (within(U'α', U'ω') && c != U'ς')) {
+      c -= 0x20;
+    } else if (c == U'ё') {
+      c = U'Ё';
+    }
+  }
+  return Utf8(points);
+}
+
 std::string TruncateToBytes(std::string_view text, int n) {
   int bytes = 0;
   std::size_t end = 0;

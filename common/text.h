@@ -32,6 +32,10 @@ std::string CodePageForm(const std::string& text);
 /// full-width character, one for a half-width one.
 int Cp932Length(std::string_view text);
 
+/// The text in capital letters: Latin, Greek and Cyrillic, half-width and full-width. Independent
+/// of the locale; two such texts compare by code point.
+std::string UpperCase(std::string_view text);
+
 /// The text cut for a limit of n CP932 bytes: the first prefix that has n bytes or more. A
 /// double-byte character that crosses the limit stays, so the result may have n + 1 bytes.
 std::string TruncateToBytes(std::string_view text, int n);

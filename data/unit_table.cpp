@@ -1,5 +1,8 @@
 #include "data/unit_table.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "common/fields.h"
 #include "common/number.h"
 #include "common/text.h"
@@ -46,6 +49,26 @@ std::optional<UnitCategory> NextCategory(common::FieldReader& reader) {
   return category;
 }
 
+/// Runs an edit of a category's units that may move its base.
+template <class Edit>
+void EditUnits(UnitCategory& category, Edit edit) {
+  const std::string base = common::At(category.units, category.baseUnitIndex).unitName;
+  edit(category.units);
+  const auto found = std::find_if(category.units.begin(), category.units.end(),
+                                  [&base](const UnitEntry& unit) { return unit.unitName == base; });
+  if (found == category.units.end()) return;
+  category.baseUnitIndex = static_cast<int>(found - category.units.begin());
+}
+
+/// Where to insert in a list.
+template <class Entry>
+auto PlaceIn(std::vector<Entry>& entries, int place) {
+  if (place < 0 || place > static_cast<int>(entries.size())) {
+    common::RaiseFault(common::Fault::kIndexOutOfRange);
+  }
+  return entries.begin() + place;
+}
+
 }  // namespace
 
 bool ReadUnitTable(std::string bytes, UnitTable& table) {
@@ -75,6 +98,53 @@ std::string WriteUnitTable(const UnitTable& table) {
     }
   }
   return common::ToCp932(text);
+}
+
+std::string CutCategoryName(std::string_view name) {
+  constexpr int kBytes = 20;
+  return common::TruncateToBytes(name, kBytes + 1);
+}
+
+void InsertCategory(UnitTable& table, int place, std::string name, std::string unitName) {
+  if (table.categories.size() >= UnitTable::kMaxCategories) {
+    common::RaiseFault(common::Fault::kIndexOutOfRange);
+  }
+  UnitCategory category{std::move(name), 0, {{std::move(unitName), 1, 0}}};
+  table.categories.insert(PlaceIn(table.categories, place), std::move(category));
+}
+
+void InsertUnit(UnitCategory& category, int place, UnitEntry unit) {
+  if (category.units.size() >= UnitTable::kMaxUnits) {
+    common::RaiseFault(common::Fault::kIndexOutOfRange);
+  }
+  EditUnits(category, [&](std::vector<UnitEntry>& units) {
+    units.insert(PlaceIn(units, place), std::move(unit));
+  });
+}
+
+void RemoveUnit(UnitCategory& category, int unit) {
+  common::At(category.units, unit);
+  EditUnits(category, [&](std::vector<UnitEntry>& units) { units.erase(units.begin() + unit); });
+}
+
+void ExchangeUnits(UnitCategory& category, int one, int other) {
+  std::swap(common::At(category.units, one), common::At(category.units, other));
+  if (category.baseUnitIndex == one) {
+    category.baseUnitIndex = other;
+  } else if (category.baseUnitIndex == other) {
+    category.baseUnitIndex = one;
+  }
+}
+
+bool SortUnits(UnitCategory& category) {
+  constexpr int kFewest = 3;
+  if (category.LastUnitIndex() + 1 < kFewest) return false;
+  EditUnits(category, [](std::vector<UnitEntry>& units) {
+    std::stable_sort(units.begin(), units.end(), [](const UnitEntry& one, const UnitEntry& other) {
+      return common::UpperCase(one.unitName) < common::UpperCase(other.unitName);
+    });
+  });
+  return true;
 }
 
 std::optional<std::string> ConvertUnit(const UnitCategory& category, int before, int after,

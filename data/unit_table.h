@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/process_state.h"
@@ -42,6 +43,30 @@ bool ReadUnitTable(std::string bytes, UnitTable& table);
 /// The file of a table as CP932 bytes: texts in quotes, numbers bare with up to 15 digits, a record
 /// a line.
 std::string WriteUnitTable(const UnitTable& table);
+
+// Edits. The base unit is found again by its name after an insertion, a removal and a sort; of two
+// units with that name the first one becomes the base. A place outside the list raises
+// kIndexOutOfRange.
+
+/// A category name as the table takes it: the first prefix that has more than 20 CP932 bytes, so 21
+/// or 22 of them, or the whole of a shorter name.
+std::string CutCategoryName(std::string_view name);
+
+/// Puts a new category at a place, which the one there and those behind it make free. Its only unit
+/// is its base. The table must have room.
+void InsertCategory(UnitTable& table, int place, std::string name, std::string unitName);
+
+/// Puts a unit at a place in front of those that stand there. The category must have room.
+void InsertUnit(UnitCategory& category, int place, UnitEntry unit);
+
+void RemoveUnit(UnitCategory& category, int unit);
+
+/// Exchanges two units; the base stays the same one.
+void ExchangeUnits(UnitCategory& category, int one, int other);
+
+/// Sorts the units by name without regard to capitals, equal ones in their order. Fewer than three
+/// units stay as they are; false then.
+bool SortUnits(UnitCategory& category);
 
 /// Characters that the value and the result of the converter may have.
 inline constexpr std::size_t kConverterCharacters = 16;

@@ -74,6 +74,12 @@ class ListField : public Reporting<QListWidget, forms::ListBox> {
     Reporting::mouseDoubleClickEvent(event);
   }
 
+  /// The right button takes the line under it along, so that its command means that line.
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    if (currentRow() >= 0 && currentRow() != Shown().Index()) Shown().Pick(currentRow());
+    Reporting::contextMenuEvent(event);
+  }
+
  private:
   bool doubleClicked_ = false;
 };

@@ -84,7 +84,7 @@ QWidget* QtPresenter::ShowOwnWindow(forms::Form& form, FormView& view) {
   window->onClose = [this, &form] { UserCloses(form); };
   window->onActivate = [this, &form] { Activated(form); };
   const auto place = toolPlaces_.find(form.Name());
-  if (place != toolPlaces_.end()) {
+  if (place != toolPlaces_.end() && !form.WantedPlace()) {
     const QRect kept = OnScreen(place->second);
     window->move(kept.topLeft());
     window->resize(kept.size());

@@ -7,6 +7,7 @@
 
 #include "desktop/icons.h"
 #include "desktop/main_window.h"
+#include "desktop/scale.h"
 #include "forms/controls.h"
 
 namespace desktop {
@@ -30,11 +31,17 @@ int LeftOfTool(int width, const QRect& owner) {
   return owner.right() - kInside - width;
 }
 
-/// Tools stand beside their owner, dialogues in its middle.
-QRect PlaceOf(forms::FormRole role, const QSize& size, const QRect& owner) {
+int Pixels(int twips) { return qRound(twips / Scale::kTwipsPerPixel); }
+
+/// A form stands where it wishes to; without a wish tools stand beside their owner, dialogues in
+/// its middle.
+QRect PlaceOf(const forms::Form& form, const QSize& size, const QRect& owner) {
   constexpr int kFromTop = 90;
   QRect place(QPoint(0, 0), size);
-  if (role == forms::FormRole::kTool) {
+  if (const auto& wish = form.WantedPlace()) {
+    place.setSize({Pixels(wish->width), Pixels(wish->height)});
+    place.moveTopLeft(owner.topLeft() + QPoint(Pixels(wish->fromLeft), Pixels(wish->fromTop)));
+  } else if (form.Role() == forms::FormRole::kTool) {
     place.moveTopLeft({LeftOfTool(size.width(), owner), owner.top() + kFromTop});
   } else {
     place.moveCenter(owner.center());
@@ -62,7 +69,9 @@ OwnWindow::OwnWindow(FormView& view, QWidget& owner)
   layout->addWidget(&view);
   setWindowIcon(IconNamed("app"));
   if (view.Shown().Role() == forms::FormRole::kDialog) setWindowModality(Qt::WindowModal);
-  setGeometry(PlaceOf(view.Shown().Role(), view.NaturalSize(), owner.frameGeometry()));
+  const QRect place = PlaceOf(view.Shown(), view.NaturalSize(), owner.frameGeometry());
+  move(place.topLeft());
+  resize(place.size());
 }
 
 void OwnWindow::closeEvent(QCloseEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,15 @@ class Control;
 /// dialogue locks the others while it is open.
 enum class FormRole { kSheet, kTool, kDialog };
 
+/// Where a tool or dialogue would like to stand: its top left corner off that of the main window,
+/// and its size, all in twips.
+struct PlaceWish {
+  int fromLeft = 0;
+  int fromTop = 0;
+  int width = 0;
+  int height = 0;
+};
+
 /// A form: named controls, handlers, a declared layout and a focus, without a toolkit.
 class Form {
  public:
@@ -28,6 +38,10 @@ class Form {
   FormRole Role() const { return role_; }
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption);
+
+  /// The place that the form wishes for each time it is opened; without a wish whoever shows it
+  /// finds one.
+  const std::optional<PlaceWish>& WantedPlace() const { return wantedPlace_; }
 
   /// All controls in the order of their declaration.
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -81,6 +95,8 @@ class Form {
  protected:
   /// Declares the layout, once, at the end of the constructor.
   void SetLayout(Block layout);
+  /// Declares the place, in the constructor.
+  void WishPlace(const PlaceWish& wish) { wantedPlace_ = wish; }
 
  private:
   friend class Control;
@@ -92,6 +108,7 @@ class Form {
   std::vector<Control*> controls_;
   std::vector<Control*> tabOrder_;
   Block layout_;
+  std::optional<PlaceWish> wantedPlace_;
   Control* focused_ = nullptr;
   Presenter* presenter_ = nullptr;
   int quiet_ = 0;

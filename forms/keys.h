@@ -15,6 +15,8 @@ bool AnyKey(char32_t key);
 bool NumberKeys(char32_t key);
 /// Keys of a number that may be negative: from "-" to "9".
 bool SignedNumberKeys(char32_t key);
+/// The same with an exponent ("1E-06").
+bool ExponentKeys(char32_t key);
 /// Digits and the point alone.
 bool DigitKeys(char32_t key);
 /// Digits "0" to "4", the kinds of inlet shape.

@@ -52,6 +52,7 @@ frmCV::frmCV(shell::Workspace& workspace) : ProcessSheet(workspace, kKind, "Cont
   fields.vapour = &vapour;
   fields.critical = &critical;
   UseFields(fields);
+  FollowMaterials({&cbo配管材質});
   BindHandlers();
   BindValveHandlers();
   DeclareLayout();

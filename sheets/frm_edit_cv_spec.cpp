@@ -1,8 +1,8 @@
 #include "sheets/frm_edit_cv_spec.h"
 
-#include "common/file.h"
 #include "common/text.h"
 #include "sheets/valve_targets.h"
+#include "shell/data_file.h"
 #include "shell/instrument_file.h"
 
 namespace sheets {
@@ -10,8 +10,6 @@ namespace sheets {
 namespace {
 
 using valve::ValveCatalogue;
-
-constexpr const char* kFile = "ValveSpec.dat";
 
 /// Refuses what the file cannot hold, with the maker that has it.
 void CheckStorable(const ValveCatalogue& catalogue) {
@@ -208,20 +206,12 @@ void frmEditCVspec::cmdDeleteModel_Click() {
   ShowModel();
 }
 
-/// A failed save is told and gives nothing up: the edits stay in the table, marked as unsaved, even
-/// when the form is about to go.
 void frmEditCVspec::Save() {
   if (!Space().valvesModified) return;
-  try {
+  shell::SaveDataFile(Space(), "ValveSpec.dat", Space().valvesModified, [this] {
     CheckStorable(Catalogue());
-    common::WriteFile(common::JoinPath(Space().installDir, kFile),
-                      valve::WriteValveCatalogue(Catalogue()));
-  } catch (const common::RuntimeFault& fault) {
-    User().Show(fault.Text(), {}, common::Icon::kWarning);
-    return;
-  }
-  Space().valvesModified = false;
-  std::erase(Space().tables.unread, kFile);
+    return valve::WriteValveCatalogue(Catalogue());
+  });
   ShowModified();
 }
 

@@ -46,6 +46,7 @@ frmOrifice::frmOrifice(shell::Workspace& workspace)
     : ProcessSheet(workspace, kKind, "Orifice Plates, Nozzles, Venturi-Tubes Calculation") {
   UseFields(
       {&humidity, &base, &lbl偏差係数, &txt偏差係数, &lbl比熱比, &txt比熱比, &lbl常用流量単位});
+  FollowMaterials({&cbo絞り部材質, &cbo配管種類});
   BindHandlers();
   DeclareLayout();
 }

@@ -36,6 +36,7 @@ frmRO::frmRO(shell::Workspace& workspace)
              .deviation = &txt圧縮係数,
              .kappaLabel = &lbl比熱比,
              .kappa = &txt比熱比});
+  FollowMaterials({&cboRO材質});
   BindHandlers();
   DeclareLayout();
 }

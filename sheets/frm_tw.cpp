@@ -79,6 +79,7 @@ const char* NoteOf(FrequencyMethod method) {
 
 frmTW::frmTW(shell::Workspace& workspace)
     : ProcessSheet(workspace, kKind, "Thermo-Well Calculation") {
+  FollowMaterials({&cbo保護管材質});
   BindHandlers();
   DeclareLayout();
 }

@@ -153,6 +153,11 @@ void ProcessSheet::FillList(ComboBox& box, const std::vector<std::string>& items
   if (box.Count() > 0) box.SetIndex(0);
 }
 
+void ProcessSheet::MaterialsChanged() {
+  const Quiet quiet(*this);
+  for (ComboBox* list : materialLists_) ShowMaterialNames(*list, Tables().materials);
+}
+
 void ProcessSheet::Load() {
   const Quiet quiet(*this);
   const data::ConvertLists& lists = Tables().lists;

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "data/property_estimator.h"
 #include "forms/controls.h"
+#include "sheets/material_user.h"
 #include "sheets/property_target.h"
 #include "sheets/tag_record.h"
 #include "shell/sheet.h"
@@ -63,7 +65,7 @@ struct BaseFields {
 /// A calculator sheet with the panel of process conditions. The panel's fields have the same names,
 /// units and reactions on all sheets; a sheet adds the fields of its own and hands the panel those
 /// that only some sheets have.
-class ProcessSheet : public shell::Sheet, public PropertyTarget {
+class ProcessSheet : public shell::Sheet, public PropertyTarget, public MaterialUser {
  public:
   Label lblTagNo{*this, "lblTagNo", "Tag No."};
   TextBox txtTagNo{*this, "txtTagNo", forms::AnyKey, kTagNumberBytes};
@@ -99,6 +101,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
 
   void FillProperty(const std::string& word, int fluidIndex) override;
   void FillAllProperties(int fluidIndex) override;
+  void MaterialsChanged() override;
 
  protected:
   static constexpr int kTagNumberBytes = 26;
@@ -118,6 +121,9 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   };
   /// To be called once, in the constructor of the sheet.
   void UseFields(const OptionalFields& fields);
+  /// The sheet's lists of materials, which take over every new name of one. To be called once, in
+  /// the constructor of the sheet, which fills them itself.
+  void FollowMaterials(std::vector<ComboBox*> lists) { materialLists_ = std::move(lists); }
 
   /// Empties the sheet's results; every change of an entry calls it.
   virtual void ClearResults() = 0;
@@ -214,6 +220,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void WriteProperty(const std::string& word, std::optional<Real> value);
 
   OptionalFields fields_;
+  std::vector<ComboBox*> materialLists_;
 };
 
 }  // namespace sheets

@@ -7,6 +7,8 @@
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_integral.h"
+#include "sheets/frm_material.h"
+#include "sheets/frm_move.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_press_loss.h"
@@ -17,6 +19,8 @@
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_te.h"
 #include "sheets/frm_tw.h"
+#include "sheets/frm_unit_converter.h"
+#include "sheets/frm_unit_edit.h"
 #include "sheets/frm_vortex.h"
 #include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
@@ -61,6 +65,10 @@ void Workbench::ProvideForms() {
   provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
   provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
   provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
+  provide("frmMaterial", std::type_identity<frmMaterial>());
+  provide(frm単位換算::kName, std::type_identity<frm単位換算>());
+  provide(frmUnitEdit::kName, std::type_identity<frmUnitEdit>());
+  provide(frmMove::kName, std::type_identity<frmMove>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
   provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());

@@ -39,6 +39,9 @@ struct Workspace {
   Tables tables;
   /// The valve catalogue has been edited since its file was read or written.
   bool valvesModified = false;
+  /// The same of the converter's units and of the materials.
+  bool unitsModified = false;
+  bool materialsModified = false;
   data::ProcessState process;
   TagStore tags;
 

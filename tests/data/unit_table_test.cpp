@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "common/number.h"
 #include "common/text.h"
 #include "tests/data/shipped_data.h"
 
@@ -60,6 +61,10 @@ TEST(UnitTable, ShippedFactorsAgreeWithPublishedOnes) {
               {"速度", "knot", "km/h", 1, "1.852"},
               {"角度", "rad", "度", 1, "57.2958"},
               {"弁容量係数", "Kv", "Cv", 1, "1.1561"},
+              {"面積", "acre", "m2", 1, "4,046.86"},
+              {"面積", "ft2", "m2", 1, "0.092903"},
+              {"比熱", "Btu/(lb･°F)", "kJ/(kg･K)", 1, "4.1868"},
+              {"時間", "年(365日)", "s", 1, "31,536,000"},
               {"計装信号", "mA(4-20)", "%", 12, "50"},
               {"計装信号", "V(1-5)", "mA(4-20)", 3, "12"}};
   const UnitTable table = Shipped();
@@ -83,6 +88,89 @@ TEST(UnitTable, ShippedCategoriesAreSound) {
       EXPECT_GT(unit.factor, 0) << unit.unitName;
     }
   }
+}
+
+// Forth and back through the base, to the six digits of the display. What is shown is rounded half
+// up in the sixth digit, so the way back may differ by one unit of it.
+TEST(UnitTable, EveryUnitComesBack) {
+  for (const UnitCategory& category : Shipped().categories) {
+    for (int unit = 0; unit <= category.LastUnitIndex(); ++unit) {
+      for (const double value : {1.0, 37.5, 640.0}) {
+        SCOPED_TRACE(category.categoryName + " " + common::At(category.units, unit).unitName);
+        std::string there =
+            ConvertUnit(category, unit, category.baseUnitIndex, value).value_or("does not fit");
+        std::erase(there, ',');
+        std::string back = ConvertUnit(category, category.baseUnitIndex, unit, common::Val(there))
+                               .value_or("does not fit");
+        std::erase(back, ',');
+        const UnitEntry& entry = common::At(category.units, unit);
+        // Near the zero of a scale with an offset the digits of the difference count.
+        const double sixthDigit = 1e-5 * (value + std::abs(entry.offset / entry.factor));
+        EXPECT_NEAR(common::Val(back), value, sixthDigit) << there;
+      }
+    }
+  }
+}
+
+UnitCategory Letters(const char* names) {
+  UnitCategory category{"c", 0, {}};
+  double factor = 1;
+  for (const char* name = names; *name != 0; ++name) {
+    category.units.push_back({std::string(1, *name), factor, 0});
+    factor *= 10;
+  }
+  return category;
+}
+
+std::string Names(const UnitCategory& category) {
+  std::string names;
+  for (const UnitEntry& unit : category.units) names += unit.unitName;
+  return names + " " + common::At(category.units, category.baseUnitIndex).unitName;
+}
+
+TEST(UnitEdits, KeepTheBase) {
+  UnitCategory category = Letters("cabD");
+  category.baseUnitIndex = 1;
+  InsertUnit(category, 0, {"x", 5, 6});
+  EXPECT_EQ(Names(category), "xcabD a");
+  InsertUnit(category, 5, {"y", 5, 6});
+  EXPECT_EQ(Names(category), "xcabDy a");
+  RemoveUnit(category, 0);
+  EXPECT_EQ(Names(category), "cabDy a");
+  ExchangeUnits(category, 1, 0);
+  EXPECT_EQ(Names(category), "acbDy a");
+  ExchangeUnits(category, 3, 0);
+  EXPECT_EQ(Names(category), "Dcbay a");
+  EXPECT_TRUE(SortUnits(category));
+  EXPECT_EQ(Names(category), "abcDy a");  // capitals make no difference
+  EXPECT_EQ(category.units[0].factor, 10);
+  EXPECT_EQ(category.units[3].factor, 1000);
+  InsertUnit(category, 0, {"a", 7, 0});  // of two units with the base's name the first one is it
+  EXPECT_EQ(category.baseUnitIndex, 0);
+
+  EXPECT_THROW(InsertUnit(category, 8, {}), common::RuntimeFault);
+  while (category.units.size() < UnitTable::kMaxUnits) InsertUnit(category, 1, {"v", 2, 0});
+  EXPECT_THROW(InsertUnit(category, 1, {"v", 2, 0}), common::RuntimeFault);
+  EXPECT_THROW(RemoveUnit(category, 51), common::RuntimeFault);
+
+  UnitCategory two = Letters("ba");
+  EXPECT_FALSE(SortUnits(two));
+  EXPECT_EQ(Names(two), "ba b");
+  UnitCategory mixed{"c", 0, {{"m", 1, 0}, {"ｋ", 1, 0}, {"μ", 1, 0}, {"Ｊ", 1, 0}, {"M", 2, 0}}};
+  EXPECT_TRUE(SortUnits(mixed));
+  EXPECT_EQ(Names(mixed), "mMμＪｋ m");  // equal names keep their order
+}
+
+TEST(UnitEdits, CutACategoryName) {
+  const struct {
+    const char *name, *cut;
+  } rows[] = {{"一二三四五六七八九十", "一二三四五六七八九十"},        // 20 bytes
+              {"一二三四五六七八九十一", "一二三四五六七八九十一"},    // 22
+              {"一二三四五六七八九十一二", "一二三四五六七八九十一"},  // 24
+              {"a一二三四五六七八九十二", "a一二三四五六七八九十"},    // 21
+              {"abcdefghijklmnopqrstuvwx", "abcdefghijklmnopqrstu"},
+              {"ｱｲｳｴｵｶｷｸｹｺｱｲｳｴｵｶｷｸｹｺｱｲ", "ｱｲｳｴｵｶｷｸｹｺｱｲｳｴｵｶｷｸｹｺｱ"}};
+  for (const auto& row : rows) EXPECT_EQ(CutCategoryName(row.name), row.cut);
 }
 
 TEST(UnitTable, WritesWhatItReads) {

@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -132,6 +133,18 @@ TEST_F(Choices, ListPicksByKeyAndMouse) {
   dialog.lst流体.SetItems({"a", "b"});
   EXPECT_EQ(list.count(), 2);
   EXPECT_EQ(list.currentRow(), -1);
+}
+
+TEST_F(Choices, RightButtonTakesTheLineUnderItAlong) {
+  DemoDialog& dialog = ShowDialog();
+  auto& list = Find<QListWidget>(dialog, "lst流体");
+  int lineOfCommand = -1;
+  dialog.lst流体.onRightClick = [&] { lineOfCommand = dialog.lst流体.Index(); };
+  const QPoint second = list.visualItemRect(list.item(1)).center();
+  QTest::mousePress(list.viewport(), Qt::RightButton, {}, second);
+  QContextMenuEvent event(QContextMenuEvent::Mouse, second, list.viewport()->mapToGlobal(second));
+  QApplication::sendEvent(list.viewport(), &event);
+  EXPECT_EQ(lineOfCommand, 1);
 }
 
 TEST_F(Choices, FixedPitchListKeepsItsColumns) {

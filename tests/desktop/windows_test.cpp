@@ -119,6 +119,36 @@ TEST_F(Windows, ToolKeepsItsPlaceWhileTheProgramRuns) {
   EXPECT_EQ(second.size(), QSize(500, 333));
 }
 
+TEST_F(Windows, FormStandsWhereItWishesOnTheScreen) {
+  class Wishing : public forms::Form {
+   public:
+    Wishing() : Form("frmWishing", "", forms::FormRole::kTool) {
+      SetLayout(forms::Table({{button}}));
+      WishPlace({150, 300, 5472, 4056});  // twips, 15 to the pixel
+    }
+    forms::Button button{*this, "cmd", "cmd"};
+  };
+  forms_.Provide("frmWishing", [] { return std::make_unique<Wishing>(); });
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize size(365, 270);
+  const struct {
+    QPoint mainWindow, expected;
+  } rows[] = {{{70, 40}, {80, 60}},
+              {{-200, -100}, screen.topLeft()},
+              {{screen.right() - 30, screen.bottom() - 30},
+               screen.bottomRight() + QPoint(1, 1) - QPoint(size.width(), size.height())}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.mainWindow.x());
+    window_->move(row.mainWindow);
+    QWidget& tool = *presenter_.ViewOf(forms_.Show("frmWishing"))->window();
+    EXPECT_EQ(tool.pos(), row.expected);
+    EXPECT_EQ(tool.size(), size);
+    tool.move(5, 5);
+    tool.close();  // and is asked for anew
+    QTest::qWait(1);
+  }
+}
+
 TEST_F(Windows, SheetsFillTheAreaAndFollowTheUser) {
   class Second : public forms::Form {
    public:

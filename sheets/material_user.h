@@ -1,0 +1,24 @@
+#pragma once
+
+#include "data/material_table.h"
+#include "forms/controls.h"
+
+namespace sheets {
+
+/// A form that lists the materials.
+class MaterialUser {
+ public:
+  virtual ~MaterialUser() = default;
+  /// The materials have been edited while the form is open: its lists are to show their names. What
+  /// the user has chosen and entered stays.
+  virtual void MaterialsChanged() = 0;
+};
+
+/// Brings a list of the materials to their names; the selection stays.
+inline void ShowMaterialNames(forms::ListControl& list, const data::MaterialTable& materials) {
+  for (int i = 0; i < list.Count() && i < data::MaterialTable::kMaterials; ++i) {
+    list.SetItem(i, common::At(materials.names, i));
+  }
+}
+
+}  // namespace sheets
