@@ -17,6 +17,7 @@ constexpr const char* kSeparator = "：";
 constexpr const char* kBeforeUnit = "    ";
 /// Gap between two lines, points.
 constexpr double kLineGap = 6;
+constexpr double kRowGap = 3;
 
 /// The text without blanks at its ends.
 std::string WithoutBlanks(const std::string& text) {
@@ -47,15 +48,18 @@ void CalculationPage::Line(const std::string& label, const std::string& value,
   // Units come with blanks of their own or without; all stand in one column.
   const std::string bareUnit = shown.empty() ? "" : WithoutBlanks(unit);
   PrintInFrame(common::PadToBytes(label, kLabelBytes) + kSeparator +
-               common::PadLeftToBytes(shown, kValueBytes) +
-               (bareUnit.empty() ? "" : kBeforeUnit + bareUnit));
+                   common::PadLeftToBytes(shown, kValueBytes) +
+                   (bareUnit.empty() ? "" : kBeforeUnit + bareUnit),
+               kLineColumn, kLineGap);
 }
 
-void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }
+void CalculationPage::Text(const std::string& text) { PrintInFrame(text, kLineColumn, kLineGap); }
 
-void CalculationPage::PrintInFrame(const std::string& text) {
+void CalculationPage::Row(const std::string& text) { PrintInFrame(text, kSectionColumn, kRowGap); }
+
+void CalculationPage::PrintInFrame(const std::string& text, int column, double gap) {
   const shell::PageGeometry page;
-  target_.Tab(kLineColumn);
+  target_.Tab(column);
   const double room = page.right - page.charHeight - target_.X();
   const double needed = target_.TextWidth(text);
   if (needed > room) {
@@ -68,7 +72,7 @@ void CalculationPage::PrintInFrame(const std::string& text) {
   } else {
     target_.Print(text);
   }
-  shell::PrintLineFeed(target_, kLineGap);
+  shell::PrintLineFeed(target_, gap);
 }
 
 void CalculationPage::Gap() { shell::PrintLineFeed(target_, kLineGap); }

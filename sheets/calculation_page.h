@@ -22,6 +22,8 @@ class CalculationPage {
   void Line(const std::string& label, const std::string& value, const std::string& unit = {});
   /// A text of its own at the column of the lines, for tables and remarks.
   void Text(const std::string& text);
+  /// A line of a table, from the column of the section headings and closer to its neighbours.
+  void Row(const std::string& text);
   /// Half a line of room.
   void Gap();
   /// A picture in the middle of the page, below what has been printed, that wide (twips).
@@ -31,7 +33,7 @@ class CalculationPage {
   double Room() const;
 
  private:
-  void PrintInFrame(const std::string& text);
+  void PrintInFrame(const std::string& text, int column, double gap);
 
   shell::PrintSurface& target_;
 };

@@ -2,6 +2,9 @@
 
 #include <memory>
 
+#include "sheets/duct_dialogues.h"
+#include "sheets/frm_cable.h"
+#include "sheets/frm_duct_list.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
@@ -28,6 +31,11 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide(frmCable::kName, std::type_identity<frmCable>());
+  provide(frmDataInput::kName, std::type_identity<frmDataInput>());
+  provide(frmSetDuctSize::kName, std::type_identity<frmSetDuctSize>());
+  provide(frmDuctDraw::kName, std::type_identity<frmDuctDraw>());
+  provide(frmDuctList::kName, std::type_identity<frmDuctList>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
