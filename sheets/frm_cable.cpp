@@ -64,10 +64,7 @@ void frmCable::BindHandlers() {
   cmd計算.onClick = [this] { cmd計算_Click(); };
 }
 
-void frmCable::Load() {
-  cmdDuct初期化_Click();
-  SetFocus(txtTagNo);
-}
+void frmCable::Load() { cmdDuct初期化_Click(); }
 
 void frmCable::Unload() {
   for (const char* const name :
@@ -98,6 +95,7 @@ void frmCable::SetCable(int row, const CableEntry& entry) {
   txt本数[row].SetText(entry.quantity);
   ClearRowResults(row);
   TellUncalculated();
+  SetFocus(txt本数[row]);
 }
 
 void frmCable::ClearRowResults(int row) {
@@ -139,6 +137,7 @@ void frmCable::cmdDuct初期化_Click() {
   }
   lbl区分.SetText("");
   lbl未計算.SetText("");
+  SetFocus(txtTagNo);
   SetSagColor(forms::kBlack);
   Space().calcDone = false;
   ShowDrawing(std::nullopt);

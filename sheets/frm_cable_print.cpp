@@ -56,7 +56,7 @@ void frmCable::PrintCableList(shell::PrintSurface& target) const {
   PrintCables(page);
   page.Gap();
   page.Section("ケーブルダクト");
-  constexpr double kPictureWidth = 5000;
+  constexpr double kPictureWidth = 4700;
   const shell::PageGeometry frame;
   target.Draw(pic断面, frame.right - kPictureWidth - 2 * frame.charHeight, target.Y(),
               kPictureWidth);
@@ -99,6 +99,7 @@ void frmCable::PrintDuct(CalculationPage& page) const {
   PrintValue(page, "ダクト自重", lblDuctWeight.Text(), "　kg");
   PrintValue(page, "作業員重量", workerWeight, "　kg");
   PrintValue(page, "ダクト撓み", lbl撓み.Text(), "　mm");
+  if (!lbl未計算.Text().empty()) page.Text(lbl未計算.Text());
 }
 
 }  // namespace sheets
