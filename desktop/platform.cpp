@@ -44,7 +44,7 @@ class PrinterDocument : public PagedDocument {
       : PagedDocument(std::move(printer), unitsPerTwip, path) {}
 
   bool Finish() override {
-    const bool finished = PagedDocument::Finish();
+    const bool finished = EndDrawing();
     return finished && Printer().printerState() != QPrinter::Error;
   }
   void Abort() override {

@@ -57,7 +57,7 @@ class KeptValues {
         calcDone_(workspace.calcDone) {}
   ~KeptValues() {
     workspace_.process = process_;
-    workspace_.tables.orifice = std::move(orifice_);
+    workspace_.tables.orifice = orifice_;
     workspace_.activeSheetKind = std::move(activeSheetKind_);
     workspace_.calcNote = std::move(calcNote_);
     workspace_.elementKind = elementKind_;

@@ -18,7 +18,7 @@ PagedDocument::PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double u
                              std::string path)
     : device_(std::move(device)), unitsPerTwip_(unitsPerTwip), path_(std::move(path)) {}
 
-PagedDocument::~PagedDocument() { Finish(); }
+PagedDocument::~PagedDocument() { EndDrawing(); }
 
 bool PagedDocument::Begin() {
   failed_ = !painter_.begin(device_.get());
@@ -32,7 +32,9 @@ forms::DrawSurface& PagedDocument::NewPage() {
   return surface_.emplace(painter_, unitsPerTwip_);
 }
 
-bool PagedDocument::Finish() {
+bool PagedDocument::Finish() { return EndDrawing(); }
+
+bool PagedDocument::EndDrawing() {
   surface_.reset();
   if (painter_.isActive() && !painter_.end()) failed_ = true;
   return !failed_;
@@ -51,10 +53,10 @@ class PdfDocument : public PagedDocument {
   /// file: what the writer writes to and owns.
   PdfDocument(QFile& file, std::unique_ptr<QPdfWriter> writer, const std::string& path)
       : PagedDocument(std::move(writer), kPdfResolution / kTwipsPerInch, path), file_(file) {}
-  ~PdfDocument() override { PagedDocument::Finish(); }
+  ~PdfDocument() override { EndDrawing(); }
 
   bool Finish() override {
-    const bool drawn = PagedDocument::Finish();
+    const bool drawn = EndDrawing();
     const bool flushed = !file_.isOpen() || file_.flush();
     const bool written = drawn && flushed && file_.error() == QFileDevice::NoError;
     file_.close();

@@ -26,6 +26,8 @@ class PagedDocument : public shell::PrintJob {
 
  protected:
   QPagedPaintDevice& Device() const { return *device_; }
+  /// False when a page could not be drawn.
+  bool EndDrawing();
 
  private:
   std::unique_ptr<QPagedPaintDevice> device_;

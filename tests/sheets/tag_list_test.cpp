@@ -323,13 +323,22 @@ TEST_F(SheetTest, SamplePlantStandsAsCalculated) {
     tags.SelectLine(row - 1);
     shell::RecallSelectedTag(bench.Space());
     forms::Form& sheet = *bench.Forms().ActiveSheet();
-    const std::string beta = sheet.Find("lbl表示β")->Text();
-    const bool boreKnown = tags.Text(row, 0) == "FE-1501";
-    dynamic_cast<forms::OptionButton&>(*sheet.Find(boreKnown ? "opt絞り径→差圧" : "opt差圧→絞り径"))
-        .Choose();
-    sheet.Find("cmd計算")->Click();
-    EXPECT_NE(beta, "");
-    EXPECT_EQ(sheet.Find("lbl表示β")->Text(), beta);
+    const bool isValve = tags.Text(row, shell::kKindColumn) == "CV";
+    const char* const result = isValve ? "lblSizingCv" : "lbl表示β";
+    const std::string stored = sheet.Find(result)->Text();
+    if (isValve) {
+      sheet.Find("cmdCvData消去")->Click();
+      sheet.Find("cmdCv計算")->Click();
+      sheet.Find("cmdSizing")->Click();
+    } else {
+      const bool boreKnown = tags.Text(row, 0) == "FE-1501";
+      dynamic_cast<forms::OptionButton&>(
+          *sheet.Find(boreKnown ? "opt絞り径→差圧" : "opt差圧→絞り径"))
+          .Choose();
+      sheet.Find("cmd計算")->Click();
+    }
+    EXPECT_NE(stored, "");
+    EXPECT_EQ(sheet.Find(result)->Text(), stored);
     EXPECT_EQ(TakeTexts(), Texts());
   }
 }

@@ -1,0 +1,160 @@
+// The tag record of the valve sheet.
+
+#include "common/number.h"
+#include "sheets/frm_cv.h"
+#include "sheets/record_fields.h"
+
+namespace sheets {
+
+namespace {
+
+using common::Val;
+
+/// Columns of the record. What is not named here is a text in the order of the tables below.
+enum Column : std::size_t {
+  kFluid = 2,
+  kFlowUnit = 4,
+  kSecondary = 7,
+  kPressureKind = 8,
+  kDensityUnit = 14,
+  kMaker = 25,
+  kModel = 27,
+  kFlangeRating = 28,
+  kCharacteristic = 35,
+  kCharacteristicIndex = 36,
+  kBodySize = 37,
+  kMaterial = 42,
+  kMaterialIndex = 43,
+  kVelocityColour = 49,
+};
+
+}  // namespace
+
+std::vector<std::pair<int, TextBox*>> frmCV::EntryColumns() {
+  return {{0, &txtTagNo},
+          {1, &txt用途},
+          {3, &txt流量},
+          {5, &txt圧力},
+          {9, &txt差圧},
+          {11, &txt温度},
+          {13, &txt密度},
+          {15, &txt粘性係数},
+          {17, &vapour.txt飽和蒸気圧},
+          {19, &critical.txt臨界圧力},
+          {21, &txt偏差係数},
+          {22, &txt比熱比},
+          {26, &txt弁口径},
+          {29, &txtFL},
+          {30, &txtN係数},
+          {31, &txtValveSize},
+          {32, &txt弁Fd},
+          {33, &txtCvv},
+          {34, &txtRangeability},
+          {38, &txt上流配管外径},
+          {39, &txt上流配管厚},
+          {40, &txt下流配管外径},
+          {41, &txt下流配管厚},
+          {44, &txtWallWeight}};
+}
+
+std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
+  return {{6, &cbo圧力単位},
+          {10, &cbo差圧単位},
+          {12, &cbo温度単位},
+          {16, &cbo粘性係数単位},
+          {18, &vapour.cbo飽和蒸気圧単位},
+          {20, &critical.cbo臨界圧力単位}};
+}
+
+std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
+  return {{23, &lblFCI計算Cv}, {24, &lblISA計算Cv}, {45, &lblSizingCv},
+          {46, &lblOpening},   {47, &lblVelocity},  {48, &lblNoise}};
+}
+
+void frmCV::AddCV(int row) {
+  RecordWriter record(Space().tags, row);
+  record.PutTexts(EntryColumns());
+  for (const auto& [column, box] : UnitColumns()) record.PutIndex(column, *box);
+  record.PutTexts(ResultColumns());
+  record.PutIndex(kFluid, cbo流体);
+  record.PutIndex(kFlowUnit, FlowUnitBox());
+  record.PutIndex(kDensityUnit, DensityUnitBox());
+  record.PutFlag(kSecondary, secondaryPressure_);
+  record.Put(kPressureKind, lbl差圧.Text());
+  record.Put(kMaker, cboMaker.Text());
+  record.Put(kModel, cboValveModel.Text());
+  record.Put(kFlangeRating, flangeRating_);
+  record.Put(kCharacteristic, cboCharact.Text());
+  record.PutIndex(kCharacteristicIndex, cboCharact);
+  record.Put(kBodySize, cboBodySize.Text());
+  record.Put(kMaterial, cbo配管材質.Text());
+  record.PutIndex(kMaterialIndex, cbo配管材質);
+  record.Put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  Space().tags.tagModified = true;
+}
+
+void frmCV::GetCV(int row) {
+  const shell::TagRow record = Space().tags.Row(row);
+  if (record[shell::kKindColumn] != kKind) return;
+  ClearResults();
+  GetSelections(record);
+  GetValve(record);
+  GetEntries(record);
+  StoreEntries();
+  GetResults(record);
+}
+
+void frmCV::GetSelections(const shell::TagRow& record) {
+  Select(cbo流体, record[kFluid]);
+  Select(FlowUnitBox(), record[kFlowUnit]);
+  Select(DensityUnitBox(), record[kDensityUnit]);
+  for (const auto& [column, box] : UnitColumns()) {
+    Select(*box, record[static_cast<std::size_t>(column)]);
+  }
+  ShowPressureKind(IsSet(record[kSecondary]));
+}
+
+/// A maker, model or material that is no longer listed keeps its text without a selection, and
+/// nothing is looked up: what was stored holds.
+void frmCV::GetValve(const shell::TagRow& record) {
+  const Quiet quiet(*this);
+  cboMaker.SetText(record[kMaker]);
+  FillModels();
+  cboValveModel.SetText(record[kModel]);
+  const int characteristic = valve::CharacteristicIndex(record[kCharacteristicIndex]);
+  if (characteristic >= 0) {
+    cboCharact.SetIndex(characteristic);
+  } else {
+    cboCharact.SetText(record[kCharacteristic]);
+  }
+  cboBodySize.SetText(record[kBodySize]);
+  cbo配管材質.SetText(record[kMaterial]);
+  flangeRating_ = record[kFlangeRating];
+  lblフランジ規格.SetText(flangeRating_);
+}
+
+/// After the selections: a maker, a model or a material would fill fields.
+void frmCV::GetEntries(const shell::TagRow& record) {
+  for (const auto& [column, box] : EntryColumns()) {
+    box->SetText(record[static_cast<std::size_t>(column)]);
+  }
+}
+
+void frmCV::GetResults(const shell::TagRow& record) {
+  const Quiet quiet(*this);
+  for (const auto& [column, label] : ResultColumns()) {
+    label->SetText(record[static_cast<std::size_t>(column)]);
+  }
+  lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
+  Space().calcDone = !lblISA計算Cv.Text().empty();
+  if (!lblSizingCv.Text().empty()) {
+    RestoreSizing();
+    // It reads as a calculation does, which fills defaults in; what was stored holds.
+    GetValve(record);
+    GetEntries(record);
+  }
+  pic特性.Redraw();
+}
+
+}  // namespace sheets
