@@ -99,17 +99,6 @@ TEST(DuctSizing, GirthDecidesTheClass) {
   }
 }
 
-// 12 cables of 10.5 mm: a disc of 86.59 mm2 each; 125 kg/km and 5 m give 1.5 kg/m and 7.5 kg.
-TEST(DuctSizing, CablesAddUp) {
-  const CableLoad load = LoadOf({10.5, 125, 12}, 5);
-  EXPECT_NEAR(load.area, 12 * 86.5901, 0.01);
-  EXPECT_NEAR(load.unitWeight, 1.5, 1e-12);
-  EXPECT_NEAR(load.weight, 7.5, 1e-12);
-  const CableLoad sum = load + LoadOf({20, 1000, 1}, 5);
-  EXPECT_NEAR(sum.area, 1039.08 + 314.159, 0.01);
-  EXPECT_NEAR(sum.weight, 12.5, 1e-12);
-}
-
 TEST(DuctSizing, SearchKeepsAThirdOfTheDuctAtMost) {
   DuctCatalogue catalogue;
   ASSERT_TRUE(ReadDuctCatalogue(
@@ -156,23 +145,14 @@ TEST(DuctSizing, SagIsThatOfABeam) {
 }
 
 TEST(DuctSizing, BearsEntriesThatAreHalfThere) {
-  const CableLoad cables{1000, 2, 10};
-  for (const double W : {0.0, 1.0, 300.0}) {
-    for (const double H : {0.0, 150.0}) {
-      for (const double F : {0.0, 20.0}) {
-        for (const double t : {0.0, 2.3}) {
-          for (const double span : {0.0, 5.0}) {
-            SCOPED_TRACE(testing::Message() << W << " " << H << " " << F << " " << t);
-            const DuctCheck check = CheckDuct({W, H, F, t}, cables, span, 2);
-            EXPECT_EQ(check.fill.has_value(), ClearArea({W, H, F, t}) != 0);
-            if (t == 0 || span == 0) {
-              EXPECT_FALSE(check.sag);
-              EXPECT_FALSE(check.sagsTooMuch);
-            }
-          }
-        }
-      }
-    }
+  const DuctSection sections[] = {{0, 0, 0, 0},   {300, 150, 20, 0}, {300, 0, 0, 2.3},
+                                  {0, 150, 0, 0}, {0, 0, 0, 2.3},    {4.6, 150, 20, 2.3}};
+  for (const DuctSection& duct : sections) {
+    SCOPED_TRACE(testing::Message() << duct.width << " " << duct.height << " " << duct.thickness);
+    const DuctCheck check = CheckDuct(duct, {1000, 2, 10}, 5, 2);
+    EXPECT_EQ(check.fill.has_value(), ClearArea(duct) != 0);
+    EXPECT_EQ(check.sag.has_value(), duct.thickness != 0);
+    EXPECT_FALSE(CheckDuct(duct, {1000, 2, 10}, 0, 2).sag);
   }
 }
 

@@ -124,16 +124,6 @@ TEST_F(CableTest, RowsWithoutNameOrQuantityAddNothing) {
   EXPECT_EQ(Text("lblSumWeight"), "50.0");
 }
 
-TEST_F(CableTest, BeyondTheCatalogueTheLargestDuctIsOverfilled) {
-  SetCable(0, "100", "1000", "50");
-  Click("cmd計算");
-  EXPECT_EQ(Text("txtWidth"), "1000");
-  EXPECT_EQ(Text("txtHeight"), "400");
-  EXPECT_EQ(Text("txtThickness"), "3.2");
-  EXPECT_EQ(Text("txt折込"), "50");
-  EXPECT_GT(static_cast<double>(common::Val(Text("lbl占積率"))), 30);
-}
-
 // Figures of the shipped cable data.
 TEST_F(CableTest, EditorLooksCablesUp) {
   Find("lblCable(4)").Click();

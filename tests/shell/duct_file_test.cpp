@@ -210,25 +210,6 @@ TEST_F(DuctFile, DamagedFilesKeepTheirCompleteDuctsAndNoName) {
   }
 }
 
-TEST_F(DuctFile, IsReadWhereverTheLinesBreak) {
-  const std::string good = EncodeDuctFile(StoreOf(2));
-  const auto replaced = [&](const std::string& what, const std::string& with) {
-    std::string text = good;
-    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += with.size()) {
-      text.replace(at, what.size(), with);
-    }
-    return text;
-  };
-  for (const std::string& bytes :
-       {replaced("\r\n", "\n"), good.substr(0, good.size() - 2), "\xEF\xBB\xBF" + good,
-        replaced("\r\n", "\r\n\r\n"), replaced("\",\"", "\"\r\n\"")}) {
-    DuctStore store;
-    EXPECT_TRUE(Open(store, bytes));
-    ASSERT_EQ(store.DuctCount(), 2);
-    EXPECT_EQ(store.Row(1), Duct("D1"));
-  }
-}
-
 TEST_F(DuctFile, UnreadableFileLeavesTheListAlone) {
   DuctStore store = StoreOf(2);
   store.ductFileName = "before.dct";
