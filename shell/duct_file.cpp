@@ -17,9 +17,12 @@ using common::RuntimeFault;
 RuntimeFault CutShort() { return {Fault::kFileAccess, "ファイルのデータが途中で終わっています。"}; }
 
 /// Whether the record is what an instrument file looks like from here: the 50 empty fields of its
-/// header.
-bool IsHeaderOfTags(const DuctRow& row) {
-  return std::all_of(row.begin(), row.begin() + 50, [](const auto& text) { return text.empty(); });
+/// header and a tag number, which would be the area of a cable that is not there.
+bool IsStartOfTags(const DuctRow& row) {
+  constexpr int kHeaderFields = 50;
+  return !row[kHeaderFields].empty() &&
+         std::all_of(row.begin(), row.begin() + kHeaderFields,
+                     [](const std::string& text) { return text.empty(); });
 }
 
 }  // namespace
@@ -42,7 +45,7 @@ DuctFileContents ParseDuctFile(std::string bytes) {
       }
       field = std::move(*text);
     }
-    if (contents.rows.empty() && IsHeaderOfTags(row)) {
+    if (contents.rows.empty() && IsStartOfTags(row)) {
       contents.fault = RuntimeFault(Fault::kFileAccess, "ケーブルダクトのファイルではありません。");
       break;
     }

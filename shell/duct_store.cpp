@@ -46,7 +46,6 @@ int DuctStore::RowOf(const std::string& name) const {
 
 bool DuctStore::Add(DuctRow row, common::Messages& messages) {
   row[kDuctName] = common::CodePageForm(row[kDuctName]);
-  if (row[kDuctName].empty()) return false;
   if (const int place = RowOf(row[kDuctName]); place >= 0) {
     if (!messages.Ask("すでに登録されています。\n新しいデータと置き換えますか")) return false;
     common::At(rows_, place) = std::move(row);

@@ -73,8 +73,8 @@ class DuctStore {
   void Select(int row);
 
   /// Puts a duct behind the selected one and selects it, or in the place of the one of the same
-  /// name, if the user says so. False when he does not, for the 21st duct, and for one without a
-  /// name. The name is brought to the form that CP932 gives it, so that it is found after a reload.
+  /// name, if the user says so. False when he does not, and for the 21st duct. The name is brought
+  /// to the form that CP932 gives it, so that it is found again after a reload.
   bool Add(DuctRow row, common::Messages& messages);
   /// Removes the selected duct and selects the one before it.
   void Delete();
