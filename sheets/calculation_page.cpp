@@ -48,16 +48,19 @@ void CalculationPage::Line(const std::string& label, const std::string& value,
   // Units come with blanks of their own or without; all stand in one column.
   const std::string bareUnit = shown.empty() ? "" : WithoutBlanks(unit);
   PrintInFrame(common::PadToBytes(label, kLabelBytes) + kSeparator +
-                   common::PadLeftToBytes(shown, kValueBytes) +
-                   (bareUnit.empty() ? "" : kBeforeUnit + bareUnit),
-               kLineColumn, kLineGap);
+               common::PadLeftToBytes(shown, kValueBytes) +
+               (bareUnit.empty() ? "" : kBeforeUnit + bareUnit));
 }
 
-void CalculationPage::Text(const std::string& text) { PrintInFrame(text, kLineColumn, kLineGap); }
+void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }
 
-void CalculationPage::Row(const std::string& text) { PrintInFrame(text, kSectionColumn, kRowGap); }
+void CalculationPage::Row(const std::string& text) { PrintAt(kSectionColumn, kRowGap, text); }
 
-void CalculationPage::PrintInFrame(const std::string& text, int column, double gap) {
+void CalculationPage::PrintInFrame(const std::string& text) {
+  PrintAt(kLineColumn, kLineGap, text);
+}
+
+void CalculationPage::PrintAt(int column, double gap, const std::string& text) {
   const shell::PageGeometry page;
   target_.Tab(column);
   const double room = page.right - page.charHeight - target_.X();

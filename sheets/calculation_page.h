@@ -33,7 +33,8 @@ class CalculationPage {
   double Room() const;
 
  private:
-  void PrintInFrame(const std::string& text, int column, double gap);
+  void PrintInFrame(const std::string& text);
+  void PrintAt(int column, double gap, const std::string& text);
 
   shell::PrintSurface& target_;
 };

@@ -28,8 +28,9 @@ DuctRow Duct(const std::string& name) {
 }
 
 std::vector<DuctRow> Ducts(int count) {
-  std::vector<DuctRow> rows;
-  for (int i = 0; i < count; ++i) rows.push_back(Duct(std::string("D").append(std::to_string(i))));
+  std::vector<DuctRow> rows(static_cast<std::size_t>(count));
+  int number = 0;
+  for (DuctRow& row : rows) row = Duct(std::string("D").append(std::to_string(number++)));
   return rows;
 }
 
