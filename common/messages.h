@@ -39,4 +39,10 @@ class Messages {
   }
 };
 
+/// Hears nothing: for a calculation that has told the user everything before.
+class NoMessages : public Messages {
+ public:
+  Answer Present(const Message&) override { return Answer::kOk; }
+};
+
 }  // namespace common

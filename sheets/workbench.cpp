@@ -11,11 +11,16 @@
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_press_loss.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_te.h"
+#include "sheets/frm_tw.h"
+#include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
+#include "sheets/thermowell_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 
@@ -40,8 +45,16 @@ void Workbench::ProvideForms() {
   provide(frmSetDuctSize::kName, std::type_identity<frmSetDuctSize>());
   provide(frmDuctDraw::kName, std::type_identity<frmDuctDraw>());
   provide(frmDuctList::kName, std::type_identity<frmDuctList>());
+  provide("frmPressLoss", std::type_identity<frmPressLoss>());
+  provide(frmRoughness::kName, std::type_identity<frmRoughness>());
+  provide(frmInletType::kName, std::type_identity<frmInletType>());
   provide("frmCV", std::type_identity<frmCV>());
   provide(frmCvSet::kName, std::type_identity<frmCvSet>());
+  provide("frmTW", std::type_identity<frmTW>());
+  provide(frm形状係数::kName, std::type_identity<frm形状係数>());
+  provide(frmTW判定条件::kName, std::type_identity<frmTW判定条件>());
+  provide(frm振動数判定::kName, std::type_identity<frm振動数判定>());
+  provide("frmTE", std::type_identity<frmTE>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmRating::kName, std::type_identity<frmRating>());

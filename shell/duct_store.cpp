@@ -53,7 +53,7 @@ bool DuctStore::Add(DuctRow row, common::Messages& messages) {
     messages.Show("最大20件です。もう追加できません。");
     return false;
   } else {
-    rows_.insert(rows_.begin() + selection_ + 1, std::move(row));
+    rows_.insert(rows_.begin() + (selection_ + 1), std::move(row));
     ++selection_;
   }
   ductModified = true;
