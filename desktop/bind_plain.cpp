@@ -302,7 +302,9 @@ Bound Bind(forms::Label& label, QWidget& parent) {
   widget->setTextFormat(Qt::PlainText);
   widget->setAttribute(Qt::WA_Hover);
   if (label.Style() == forms::LabelStyle::kResult) {
-    widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const auto* const result = dynamic_cast<const forms::ResultLabel*>(&label);
+    const bool words = result != nullptr && result->HoldsWords();
+    widget->setAlignment(Qt::AlignVCenter | (words ? Qt::AlignLeft : Qt::AlignRight));
   }
   return {widget, [&label, widget] { ShowLabel(label, *widget); },
           [&label, widget](const Scale& scale, int characters) {

@@ -25,11 +25,17 @@ class Label : public Control {
   LabelStyle style_;
 };
 
-/// A result label: empty at first, right-aligned on a calm ground.
+/// A result label: empty at first, on a calm ground; a number stands to the right, words to the
+/// left.
 class ResultLabel : public Label {
  public:
-  ResultLabel(Form& form, std::string name)
-      : Label(form, std::move(name), {}, LabelStyle::kResult) {}
+  enum class Holds { kNumber, kWords };
+  ResultLabel(Form& form, std::string name, Holds holds = Holds::kNumber)
+      : Label(form, std::move(name), {}, LabelStyle::kResult), holds_(holds) {}
+  bool HoldsWords() const { return holds_ == Holds::kWords; }
+
+ private:
+  Holds holds_;
 };
 
 class TextBox : public Control {

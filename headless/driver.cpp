@@ -8,6 +8,7 @@
 #include "common/text.h"
 #include "forms/controls.h"
 #include "headless/states.h"
+#include "shell/duct_commands.h"
 #include "shell/lifecycle.h"
 #include "shell/page_recorder.h"
 #include "shell/report.h"
@@ -72,7 +73,7 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"close", &Driver::CloseForm},
       {"quit", &Driver::Quit},
       {"row", &Driver::Row},
-      {"ductrow", &Driver::NotThereYet},
+      {"ductrow", &Driver::DuctRow},
       {"register", &Driver::Register},
       {"recall", &Driver::Recall},
       {"load", &Driver::LoadFile},
@@ -361,6 +362,13 @@ void Driver::Row(const std::string& object, const std::string&, Json& answer) {
   answer["row"] = workbench_.Space().tags.Row(*row);
 }
 
+void Driver::DuctRow(const std::string& object, const std::string&, Json& answer) {
+  const std::optional<int> row = WholeNumber(object);
+  if (!row || *row < 0 || *row >= shell::kMaxDucts)
+    Misunderstand("There is no row " + object + ".");
+  answer["row"] = workbench_.Space().ducts.Row(*row);
+}
+
 void Driver::Register(const std::string&, const std::string&, Json& answer) {
   RunGuarded([this] { shell::RegisterTag(workbench_.Space()); });
   answer["TagCount"] = workbench_.Space().tags.TagCount();
@@ -380,21 +388,36 @@ void Driver::Recall(const std::string& object, const std::string&, Json&) {
 }
 
 void Driver::LoadFile(const std::string& object, const std::string& text, Json& answer) {
-  RunGuarded([&] { shell::OpenFileNamed(workbench_.Space(), WholeLine(object, text)); });
-  answer["TagCount"] = workbench_.Space().tags.TagCount();
+  shell::Workspace& space = workbench_.Space();
+  const std::string path = WholeLine(object, text);
+  if (shell::DuctsOnTop(space)) {
+    RunGuarded([&] { shell::OpenDuctListNamed(space, path); });
+    answer["DuctCount"] = space.ducts.DuctCount();
+    return;
+  }
+  RunGuarded([&] { shell::OpenFileNamed(space, path); });
+  answer["TagCount"] = space.tags.TagCount();
 }
 
 /// Without a path it saves under the present name.
 void Driver::SaveFile(const std::string& object, const std::string& text, Json& answer) {
+  shell::Workspace& space = workbench_.Space();
   const std::string path = WholeLine(object, text);
+  const bool ducts = shell::DuctsOnTop(space);
   RunGuarded([&] {
     if (path.empty()) {
-      shell::SaveFile(workbench_.Space());
+      shell::SaveFile(space);
+    } else if (ducts) {
+      shell::SaveDuctListNamed(space, path);
     } else {
-      shell::SaveFileNamed(workbench_.Space(), path);
+      shell::SaveFileNamed(space, path);
     }
   });
-  answer["TagModified"] = workbench_.Space().tags.tagModified;
+  if (ducts) {
+    answer["DuctModified"] = space.ducts.ductModified;
+  } else {
+    answer["TagModified"] = space.tags.tagModified;
+  }
 }
 
 /// Without a path it tells the page.

@@ -74,6 +74,7 @@ class Driver {
   void Forms(const std::string& object, const std::string& text, Json& answer);
   void TellWorkspace(const std::string& object, const std::string& text, Json& answer);
   void Row(const std::string& object, const std::string& text, Json& answer);
+  void DuctRow(const std::string& object, const std::string& text, Json& answer);
   void Register(const std::string& object, const std::string& text, Json& answer);
   void Recall(const std::string& object, const std::string& text, Json& answer);
   void LoadFile(const std::string& object, const std::string& text, Json& answer);

@@ -17,6 +17,7 @@ constexpr const char* kSeparator = "：";
 constexpr const char* kBeforeUnit = "    ";
 /// Gap between two lines, points.
 constexpr double kLineGap = 6;
+constexpr double kRowGap = 3;
 
 /// The text without blanks at its ends.
 std::string WithoutBlanks(const std::string& text) {
@@ -59,9 +60,15 @@ void CalculationPage::Continued(const std::string& value) {
 
 void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }
 
+void CalculationPage::Row(const std::string& text) { PrintAt(kSectionColumn, kRowGap, text); }
+
 void CalculationPage::PrintInFrame(const std::string& text) {
+  PrintAt(kLineColumn, kLineGap, text);
+}
+
+void CalculationPage::PrintAt(int column, double gap, const std::string& text) {
   const shell::PageGeometry page;
-  target_.Tab(kLineColumn);
+  target_.Tab(column);
   const double room = page.right - page.charHeight - target_.X();
   const double needed = target_.TextWidth(text);
   if (needed > room) {
@@ -74,7 +81,7 @@ void CalculationPage::PrintInFrame(const std::string& text) {
   } else {
     target_.Print(text);
   }
-  shell::PrintLineFeed(target_, kLineGap);
+  shell::PrintLineFeed(target_, gap);
 }
 
 void CalculationPage::Gap() { shell::PrintLineFeed(target_, kLineGap); }

@@ -25,6 +25,8 @@ class CalculationPage {
   void Continued(const std::string& value);
   /// A text of its own at the column of the lines, for tables and remarks.
   void Text(const std::string& text);
+  /// A line of a table, from the column of the section headings and closer to its neighbours.
+  void Row(const std::string& text);
   /// Half a line of room.
   void Gap();
   /// A picture in the middle of the page, below what has been printed, that wide (twips).
@@ -35,6 +37,7 @@ class CalculationPage {
 
  private:
   void PrintInFrame(const std::string& text);
+  void PrintAt(int column, double gap, const std::string& text);
 
   shell::PrintSurface& target_;
 };

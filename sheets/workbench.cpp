@@ -2,8 +2,11 @@
 
 #include <memory>
 
+#include "sheets/duct_dialogues.h"
+#include "sheets/frm_cable.h"
 #include "sheets/frm_cv.h"
 #include "sheets/frm_cv_correction.h"
+#include "sheets/frm_duct_list.h"
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_integral.h"
@@ -44,6 +47,11 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide(frmCable::kName, std::type_identity<frmCable>());
+  provide(frmDataInput::kName, std::type_identity<frmDataInput>());
+  provide(frmSetDuctSize::kName, std::type_identity<frmSetDuctSize>());
+  provide(frmDuctDraw::kName, std::type_identity<frmDuctDraw>());
+  provide(frmDuctList::kName, std::type_identity<frmDuctList>());
   provide("frmPressLoss", std::type_identity<frmPressLoss>());
   provide(frmRoughness::kName, std::type_identity<frmRoughness>());
   provide(frmInletType::kName, std::type_identity<frmInletType>());

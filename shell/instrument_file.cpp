@@ -15,8 +15,6 @@ namespace {
 using common::Fault;
 using common::RuntimeFault;
 
-static_assert(kProgramVersion[0] >= '2' && kProgramVersion[0] <= '9');
-
 constexpr int kElementColumn = 2;
 constexpr const char* kDifferentialPressure = "⊿P Flow";
 
@@ -65,54 +63,7 @@ std::string OwnerName(const TagStore& store, int row) {
   return row == 0 ? "ファイルの見出し" : "Tag No.「" + store.Text(row, kTagNumberColumn) + "」";
 }
 
-/// Whether the quote that ends the field on reading has a separator behind it.
-bool ShiftsFields(const std::string& text) {
-  const auto quote = text.find('"');
-  return quote != std::string::npos && text.find_first_of(",\r\n", quote) != std::string::npos;
-}
-
-/// Appends a text as a field in CP932.
-void AppendField(std::string& bytes, const std::string& text, const std::string& owner) {
-  bytes += bytes.empty() || bytes.back() == '\n' ? "\"" : ",\"";
-  const bool ascii = std::all_of(text.begin(), text.end(),
-                                 [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-  if (ascii && text.find('"') == std::string::npos) {
-    bytes += text;  // nine in ten fields: numbers
-  } else {
-    CheckStorable(owner, text);
-    bytes += common::ToCp932(text);
-  }
-  bytes += '"';
-}
-
-void WriteStore(const TagStore& store) {
-  if (store.zephaFileName.empty()) {
-    throw RuntimeFault(Fault::kFileAccess, "ファイル名が指定されていません。");
-  }
-  const std::string bytes = EncodeInstrumentFile(store);
-  try {
-    common::WriteFile(store.zephaFileName, bytes);
-  } catch (const RuntimeFault& fault) {
-    if (fault.Number() != Fault::kFileNotFound) throw;
-    throw RuntimeFault(Fault::kFileNotFound,
-                       "保存先のフォルダが見つかりません。\n" + store.zephaFileName);
-  }
-}
-
 }  // namespace
-
-void CheckStorable(const std::string& owner, const std::string& text) {
-  if (const auto character = common::FirstOutsideCp932(text)) {
-    throw RuntimeFault(Fault::kFileAccess,
-                       owner + " の文字「" + common::Utf8(common::CodePoints(*character)) +
-                           "」は、データファイルの文字コード（CP932）にないため保存できません。");
-  }
-  if (ShiftsFields(text)) {
-    throw RuntimeFault(
-        Fault::kFileAccess,
-        owner + " に、「\"」の後に「,」または改行が続く文字列があるため保存できません。\n" + text);
-  }
-}
 
 std::string EncodeInstrumentFile(const TagStore& store) {
   std::string bytes;
@@ -193,25 +144,29 @@ bool HasTagsToSave(const TagStore& store, common::Messages& messages) {
 
 bool SaveInstrumentFile(TagStore& store, common::Messages& messages) {
   if (!HasTagsToSave(store, messages)) return false;
-  try {
-    WriteStore(store);
-  } catch (const RuntimeFault& fault) {
-    throw RuntimeFault(fault.Number(), fault.Text() + "\nデータは保存されていません。");
-  }
+  SaveUserFile(store.zephaFileName, [&store] { return EncodeInstrumentFile(store); });
   store.SetText(0, kTagNumberColumn, kProgramVersion);
   store.SetText(0, kKindColumn, "");
   store.tagModified = false;
   return true;
 }
 
+bool AskBeforeNewFile(const std::string& question, bool& modified, TagStore& store,
+                      common::Messages& messages) {
+  if (!modified) return true;
+  const common::Answer answer =
+      messages.Present({question + "\n新しいファイルを開く前に保存しますか", "File Open",
+                        common::Icon::kQuestion, common::Buttons::kYesNoCancel});
+  if (answer == common::Answer::kCancel) return false;
+  if (answer == common::Answer::kYes) SaveInstrumentFile(store, messages);
+  if (answer == common::Answer::kNo) modified = false;
+  return true;
+}
+
 bool NewInstrumentFile(TagStore& store, common::Messages& messages) {
-  if (store.tagModified) {
-    const common::Answer answer = messages.Present(
-        {"開いているデータシートが変更されています。\n新しいファイルを開く前に保存しますか",
-         "File Open", common::Icon::kQuestion, common::Buttons::kYesNoCancel});
-    if (answer == common::Answer::kCancel) return false;
-    if (answer == common::Answer::kYes) SaveInstrumentFile(store, messages);
-    if (answer == common::Answer::kNo) store.tagModified = false;
+  if (!AskBeforeNewFile("開いているデータシートが変更されています。", store.tagModified, store,
+                        messages)) {
+    return false;
   }
   store.StartNewFile();
   return true;

@@ -6,22 +6,12 @@
 #include "common/messages.h"
 #include "data/convert_lists.h"
 #include "data/pipe_table.h"
+#include "shell/record_text.h"
 #include "shell/tag_store.h"
 
 namespace shell {
 
-/// Version text of this program, which it writes into the files of its users. Its major number must
-/// never begin with 1: the valve records of such a file are taken for old ones and converted.
-inline constexpr const char* kProgramVersion = "3.0.0";
-
-// The instrument file (*.zph) is CP932 text: 51 fields in quotes, separated by commas, for the
-// header and for each tag, every record on a line that ends in CR LF. There is no escaping and no
-// count.
-
-/// Raises kFileAccess with a sentence about `owner` when a text cannot stand in a field: because
-/// CP932 lacks a character, or because a quote with a comma or line break behind it would shift
-/// all fields that follow.
-void CheckStorable(const std::string& owner, const std::string& text);
+// The instrument file (*.zph) holds 51 fields for the header and for each tag.
 
 /// The bytes of an instrument file with the store's tags, under this program's version. Raises
 /// kFileAccess as CheckStorable does, naming the tag.
@@ -50,6 +40,12 @@ bool HasTagsToSave(const TagStore& store, common::Messages& messages);
 /// file from being written is raised with a sentence; the store then stays as it is, and where the
 /// contents are the reason, so does the file.
 bool SaveInstrumentFile(TagStore& store, common::Messages& messages);
+
+/// Asks whether changes shall be saved before a new file is begun, if there are any. Yes saves the
+/// instrument file, whichever list the question is about; No takes the mark of the changes. False
+/// when the user cancels. A failed save is raised.
+bool AskBeforeNewFile(const std::string& question, bool& modified, TagStore& store,
+                      common::Messages& messages);
 
 /// Empties the store for a new file, after asking whether changes shall be saved. False when the
 /// user cancels. A failed save is raised before anything is given up.

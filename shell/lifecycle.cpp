@@ -5,6 +5,7 @@
 
 #include "common/file.h"
 #include "common/number.h"
+#include "shell/duct_file.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
@@ -52,6 +53,11 @@ void PassOver(Step step) {
   }
 }
 
+void RestoreDucts(Workspace& workspace) {
+  const std::string path = workspace.settings.Get(kScreen, "DuctFile");
+  if (!path.empty()) OpenDuctFile(workspace.ducts, path, workspace.Shown());
+}
+
 void RestoreFile(Workspace& workspace) {
   const std::string path = workspace.settings.Get(kScreen, "zephaFile");
   workspace.tags.lastTagIndex = RowNumberSetting(workspace.settings.Get(kScreen, "DataNo"));
@@ -96,7 +102,7 @@ void RestoreLastRun(Workspace& workspace) {
   workspace.userPrograms = ReadUserPrograms(workspace.installDir);
   ShowUserPrograms(workspace);
   ShowRecentFiles(workspace);
-  workspace.ductFileName = workspace.settings.Get(kScreen, "DuctFile");
+  PassOver([&] { RestoreDucts(workspace); });
   PassOver([&] { RestoreFile(workspace); });
   PassOver([&] { RestoreSheet(workspace); });
   PassOver([&] { RestoreTag(workspace); });
@@ -107,7 +113,7 @@ void WorkspaceEnd(Workspace& workspace) {
     workspace.settings.Set(kScreen, key, value);
   };
   const WindowPlacement& placement = workspace.window.Placement();
-  keep("DuctFile", workspace.ductFileName);
+  keep("DuctFile", workspace.ducts.ductFileName);
   keep("ZephaFile", workspace.tags.zephaFileName);
   keep("DataNo", std::to_string(workspace.tags.lastTagIndex));
   keep("ZephaForm", workspace.lastFormName);

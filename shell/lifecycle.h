@@ -4,8 +4,9 @@ namespace shell {
 
 struct Workspace;
 
-/// Brings a run to where the last one ended: issuer, window, user programs, instrument file, sheet
-/// and tag. The tables have been read and the forms are known. Each failure is passed over singly.
+/// Brings a run to where the last one ended: issuer, window, user programs, duct file, instrument
+/// file, sheet and tag. The tables have been read and the forms are known. Each failure is passed
+/// over singly.
 void RestoreLastRun(Workspace& workspace);
 
 /// Keeps for the next run where this one ends, and unloads all forms. There is deliberately no

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "forms/controls.h"
+#include "shell/duct_commands.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
 #include "shell/report.h"
@@ -131,7 +132,7 @@ void AddDisplayMenu(MenuBuilder& menu) {
   menu.Submenu("", "mnuDisplay", "表示(&V)");
   menu.Submenu("mnuDisplay", "mnuDataList", "データリスト");
   menu.Add("mnuTagList", "Ｔａｇ　Ｌｉｓｔ", menu.Calls(RefreshTagList), {}, "taglist");
-  menu.Add("mnuDuct", "ケーブルダクトリスト");
+  menu.Add("mnuDuct", "ケーブルダクトリスト", menu.Calls(ShowDuctList));
   menu.Submenu("mnuDisplay", "mnuDiaplay", "表示設定(&V)");
   menu.Add("mnuInitialize", "表示サイズ・位置初期化(&I)", menu.Calls(InitialisePlacement));
   menu.Add("mnuSingle", "シングルウィンドウ(&S)", menu.WindowMode(false));
@@ -167,7 +168,7 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(2, "既存データファイルを開く", "open", menu.Calls(OpenFile));
   menu.Button(3, "上書き保存", "save", menu.Calls(SaveFile));
   menu.Button(4, "印刷", "print", menu.Calls(Print));
-  menu.Button(5, "データリスト", "taglist", menu.Calls(RefreshTagList));
+  menu.Button(5, "データリスト", "taglist", menu.Calls(ShowDataList));
   menu.Button(6, "データシートをEXCELに変換", "excel");
   menu.Button(7, "プレビュー", "preview", menu.Calls(ShowPreview));
   menu.Button(8, "修正前の値に戻す", "undo", menu.Calls(UndoEntry));
@@ -220,7 +221,7 @@ void BuildMainMenu(Workspace& workspace) {
            menu.Calls([](Workspace& space) { ShowDataVersion(space.tags, space.Shown()); }));
   AddButtons(menu);
   workspace.window.onFileDropped = [&workspace](const std::string& path) {
-    OpenFileNamed(workspace, path);
+    OpenFileOfItsKind(workspace, path);
   };
   ShowTitle(workspace);
   workspace.window.SetChecked("mnuToolBar", true);

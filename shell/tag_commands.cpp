@@ -6,6 +6,7 @@
 
 #include "common/text.h"
 #include "forms/control.h"
+#include "shell/duct_commands.h"
 #include "shell/instrument_file.h"
 #include "shell/sheet.h"
 #include "shell/sheet_registry.h"
@@ -35,29 +36,11 @@ std::vector<std::string> RecentFiles(const Workspace& workspace) {
   return paths;
 }
 
-/// Puts a file in front of those opened last.
-void RememberFile(Workspace& workspace, const std::string& path) {
-  std::vector<std::string> paths = RecentFiles(workspace);
-  std::erase(paths, path);
-  paths.insert(paths.begin(), path);
-  paths.resize(kRecentFiles);
-  for (int i = 0; i < kRecentFiles; ++i) {
-    workspace.settings.Set(kRecentSection, RecentKey(i + 1), paths[static_cast<std::size_t>(i)]);
-  }
-  ShowRecentFiles(workspace);
-}
-
 /// A text as a caption, in which "&" would mark a mnemonic.
 std::string WithoutMnemonic(const std::string& text) {
   std::string caption;
   for (const char c : text) caption += c == '&' ? std::string("&&") : std::string(1, c);
   return caption;
-}
-
-/// A chosen name without an extension gets that of the file kind.
-std::string WithExtension(std::string path) {
-  if (common::FileNameOf(path).find('.') == std::string::npos) path += kExtension;
-  return path;
 }
 
 /// Opens the sheet of the current tag's kind, unless it is on top.
@@ -105,12 +88,20 @@ void RefreshTagList(Workspace& workspace) {
 }
 
 void NewFile(Workspace& workspace) {
+  if (DuctsOnTop(workspace)) {
+    NewDuctList(workspace);
+    return;
+  }
   if (!NewInstrumentFile(workspace.tags, workspace.Shown())) return;
   RefreshTagList(workspace);
   ShowListNumber(workspace, 0);
 }
 
 void OpenFile(Workspace& workspace) {
+  if (DuctsOnTop(workspace)) {
+    OpenDuctList(workspace);
+    return;
+  }
   const std::optional<std::string> path =
       workspace.Shown().AskFile({false, "開く", kFilter, kExtension});
   if (path) OpenFileNamed(workspace, *path);
@@ -124,7 +115,23 @@ void OpenFileNamed(Workspace& workspace, const std::string& path) {
   ShowListNumber(workspace, workspace.tags.currentTag);
 }
 
+void OpenFileOfItsKind(Workspace& workspace, const std::string& path) {
+  std::string end = path.substr(path.size() - std::min<std::size_t>(path.size(), 4));
+  std::transform(end.begin(), end.end(), end.begin(), [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  });
+  if (end == kDuctExtension) {
+    OpenDuctListNamed(workspace, path);
+  } else {
+    OpenFileNamed(workspace, path);
+  }
+}
+
 void SaveFile(Workspace& workspace) {
+  if (DuctsOnTop(workspace)) {
+    SaveDuctList(workspace);
+    return;
+  }
   if (workspace.tags.zephaFileName.empty()) {
     SaveFileAs(workspace);
     return;
@@ -134,6 +141,10 @@ void SaveFile(Workspace& workspace) {
 }
 
 void SaveFileAs(Workspace& workspace) {
+  if (DuctsOnTop(workspace)) {
+    SaveDuctListAs(workspace);
+    return;
+  }
   if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
   const std::optional<std::string> path =
       workspace.Shown().AskFile({true, "名前を付けて保存", kFilter, kExtension});
@@ -142,7 +153,8 @@ void SaveFileAs(Workspace& workspace) {
 
 void SaveFileNamed(Workspace& workspace, const std::string& path) {
   if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
-  const std::string before = std::exchange(workspace.tags.zephaFileName, WithExtension(path));
+  const std::string before =
+      std::exchange(workspace.tags.zephaFileName, WithExtension(path, kExtension));
   try {
     SaveInstrumentFile(workspace.tags, workspace.Shown());
   } catch (const common::RuntimeFault&) {
@@ -152,6 +164,17 @@ void SaveFileNamed(Workspace& workspace, const std::string& path) {
   }
   RememberFile(workspace, workspace.tags.zephaFileName);
   ShowTitle(workspace);
+}
+
+void RememberFile(Workspace& workspace, const std::string& path) {
+  std::vector<std::string> paths = RecentFiles(workspace);
+  std::erase(paths, path);
+  paths.insert(paths.begin(), path);
+  paths.resize(kRecentFiles);
+  for (int i = 0; i < kRecentFiles; ++i) {
+    workspace.settings.Set(kRecentSection, RecentKey(i + 1), paths[static_cast<std::size_t>(i)]);
+  }
+  ShowRecentFiles(workspace);
 }
 
 void ShowTitle(Workspace& workspace) {
@@ -170,7 +193,7 @@ void ShowRecentFiles(Workspace& workspace) {
     Command command;
     command.name = "mnuRecent" + std::to_string(commands.size() + 1);
     command.caption = WithoutMnemonic(path);
-    command.run = [&workspace, path] { OpenFileNamed(workspace, path); };
+    command.run = [&workspace, path] { OpenFileOfItsKind(workspace, path); };
     commands.push_back(std::move(command));
   }
   workspace.window.SetEntries("mnuRecent", std::move(commands));

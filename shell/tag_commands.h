@@ -20,12 +20,18 @@ void RecallSelectedTag(Workspace& workspace);
 /// Writes the tag list anew and shows its window.
 void RefreshTagList(Workspace& workspace);
 
+// The file commands work on the duct list while its sheet is on top.
+
 /// Empties the tag list for a new file, after a question.
 void NewFile(Workspace& workspace);
 
 /// Asks for an instrument file and opens it.
 void OpenFile(Workspace& workspace);
 void OpenFileNamed(Workspace& workspace, const std::string& path);
+/// Opens an instrument or a duct file, by its extension, whatever is on top.
+void OpenFileOfItsKind(Workspace& workspace, const std::string& path);
+/// Puts a file in front of those opened last.
+void RememberFile(Workspace& workspace, const std::string& path);
 
 /// Saves under the present name, or asks for one.
 void SaveFile(Workspace& workspace);

@@ -5,6 +5,7 @@
 
 #include "common/real.h"
 #include "common/text.h"
+#include "shell/record_text.h"
 #include "shell/sheet_registry.h"
 
 namespace shell {
@@ -50,11 +51,8 @@ void TagStore::SelectLine(int line) {
 }
 
 std::string TagStore::ListCaption() const {
-  constexpr std::size_t kExtensionLength = 4;
-  const std::u32string name = common::CodePoints(common::FileNameOf(zephaFileName));
-  const std::size_t shown =
-      name.size() > kExtensionLength ? name.size() - kExtensionLength : name.size();
-  return "Tag List ： " + (name.empty() ? "New File" : common::Utf8(name.substr(0, shown)));
+  const std::string title = FileTitle(zephaFileName);
+  return "Tag List ： " + (title.empty() ? "New File" : title);
 }
 
 void TagStore::ListOpened() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "data/process_state.h"
+#include "shell/duct_store.h"
 #include "shell/form_manager.h"
 #include "shell/main_window.h"
 #include "shell/platform.h"
@@ -44,6 +45,7 @@ struct Workspace {
   bool materialsModified = false;
   data::ProcessState process;
   TagStore tags;
+  DuctStore ducts;
 
   /// Kind of the sheet on top ("⊿P Flow", "CV" ...), "" when there is none.
   std::string activeSheetKind;
@@ -60,8 +62,6 @@ struct Workspace {
   /// The date on a report, in the local time zone unless a test fixes it.
   std::function<std::chrono::year_month_day()> today = LocalDate;
   UserPrograms userPrograms;
-  /// The cable duct file that was open when the last run ended.
-  std::string ductFileName;
   /// The property that the fluid pick list shall fill, in the words of the sheets.
   std::string propertyWord;
 

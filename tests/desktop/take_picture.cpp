@@ -34,7 +34,7 @@ void Run(sheets::Workbench& workbench, const std::string& line) {
     return;
   }
   if (verb == "load") {
-    shell::OpenFileNamed(workbench.Space(), object);
+    shell::OpenFileOfItsKind(workbench.Space(), object);
     return;
   }
   if (verb == "recall") {

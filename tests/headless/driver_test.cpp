@@ -209,5 +209,26 @@ TEST_F(DriverTest, PrintsEveryTagIntoOneFile) {
   EXPECT_NE(OutputOf("pdfinfo " + pdf).find("Pages:           1\n"), std::string::npos);
 }
 
+TEST_F(DriverTest, FilesAreThoseOfTheDuctsWhileTheirSheetIsOnTop) {
+  const std::string path = testing::TempDir() + "zepha-driver.dct";
+  Do("open CableDuct");
+  EXPECT_EQ(Do("load " ZEPHA_SOURCE_DIR "/samples/ducts.dct")["DuctCount"], 4);
+  const Json row = Do("ductrow 1")["row"];
+  ASSERT_EQ(row.size(), 153U);
+  EXPECT_EQ(row[0], "CD-1102 給水ポンプ");
+  EXPECT_EQ(Do("ductrow 19")["row"][0], "");
+  EXPECT_FALSE(Do("ductrow 20")["ok"]);
+  Do("pick lstDuct 1");
+  Do("click cmdDelete");
+  EXPECT_EQ(Do("workspace")["DuctModified"], true);
+  EXPECT_EQ(Do("save " + path)["DuctModified"], false);
+  EXPECT_EQ(Do("load " + path)["DuctCount"], 3);
+  const Json workspace = Do("workspace");
+  EXPECT_EQ(workspace["DuctCount"], 3);
+  EXPECT_EQ(workspace["DuctFileName"], path);
+  EXPECT_EQ(workspace["TagCount"], 0);
+  std::remove(path.c_str());
+}
+
 }  // namespace
 }  // namespace headless

@@ -1,0 +1,87 @@
+#include "shell/duct_commands.h"
+
+#include <utility>
+
+#include "shell/duct_file.h"
+#include "shell/instrument_file.h"
+#include "shell/tag_commands.h"
+#include "shell/workspace.h"
+
+namespace shell {
+
+namespace {
+
+constexpr const char* kFilter = "Cable Duct Data(*.dct)|*.dct";
+
+}  // namespace
+
+bool DuctsOnTop(const Workspace& workspace) { return workspace.activeSheetKind == "CableDuct"; }
+
+void ShowDuctList(Workspace& workspace) {
+  DuctStore& ducts = workspace.ducts;
+  ducts.Select(ducts.DuctCount() > 0 ? 0 : -1);
+  ducts.CaptionList(":");
+  workspace.forms.Show(kDuctListForm);
+}
+
+void ShowDataList(Workspace& workspace) {
+  if (DuctsOnTop(workspace)) {
+    ShowDuctList(workspace);
+  } else {
+    RefreshTagList(workspace);
+  }
+}
+
+void NewDuctList(Workspace& workspace) {
+  if (!AskBeforeNewFile("開いているダクトリストが変更されています。", workspace.ducts.ductModified,
+                        workspace.tags, workspace.Shown())) {
+    return;
+  }
+  workspace.ducts.StartNewFile();
+  workspace.ducts.CaptionList();
+  workspace.forms.Show(kDuctListForm);
+}
+
+void OpenDuctList(Workspace& workspace) {
+  const std::optional<std::string> path =
+      workspace.Shown().AskFile({false, "開く", kFilter, kDuctExtension});
+  if (path) OpenDuctListNamed(workspace, *path);
+}
+
+void OpenDuctListNamed(Workspace& workspace, const std::string& path) {
+  if (OpenDuctFile(workspace.ducts, path, workspace.Shown())) RememberFile(workspace, path);
+  workspace.forms.Show(kDuctListForm);
+}
+
+void SaveDuctList(Workspace& workspace) {
+  if (workspace.ducts.ductFileName.empty()) {
+    SaveDuctListAs(workspace);
+  } else {
+    SaveDuctFile(workspace.ducts, workspace.Shown());
+  }
+}
+
+void SaveDuctListAs(Workspace& workspace) {
+  if (!HasDuctsToSave(workspace.ducts, workspace.Shown())) return;
+  const std::optional<std::string> path =
+      workspace.Shown().AskFile({true, "名前を付けて保存", kFilter, kDuctExtension});
+  if (path) SaveDuctListNamed(workspace, *path);
+}
+
+void SaveDuctListNamed(Workspace& workspace, const std::string& path) {
+  DuctStore& ducts = workspace.ducts;
+  if (!HasDuctsToSave(ducts, workspace.Shown())) return;
+  const std::string before = std::exchange(ducts.ductFileName, WithExtension(path, kDuctExtension));
+  try {
+    SaveDuctFile(ducts, workspace.Shown());
+  } catch (const common::RuntimeFault&) {
+    // What could not be written is not the open file.
+    ducts.ductFileName = before;
+    throw;
+  }
+  RememberFile(workspace, ducts.ductFileName);
+  ducts.CaptionList();
+  if (forms::Form* const list = workspace.forms.Find(kDuctListForm)) list->Activate();
+}
+
+}  // namespace shell
