@@ -129,6 +129,10 @@ std::optional<std::string> FirstOutsideCp932(std::string_view text) {
   return found;
 }
 
+std::string CodePageForm(const std::string& text) {
+  return FirstOutsideCp932(text) ? text : FromCp932(ToCp932(text));
+}
+
 int Cp932Length(std::string_view text) {
   const bool ascii = std::all_of(text.begin(), text.end(),
                                  [](char c) { return static_cast<unsigned char>(c) < 0x80; });

@@ -23,6 +23,11 @@ std::string FromCp932(std::string_view bytes);
 /// The first character of a text that CP932 lacks, or nothing.
 std::optional<std::string> FirstOutsideCp932(std::string_view text);
 
+/// The text as it comes back from a file: wave dash, minus and a few more have two code points, of
+/// which input methods give the one and CP932 the other. A text that cannot be stored at all is
+/// left for the save to refuse.
+std::string CodePageForm(const std::string& text);
+
 /// Bytes that a text takes in CP932, which are its columns in a fixed-pitch font: two for a
 /// full-width character, one for a half-width one.
 int Cp932Length(std::string_view text);

@@ -260,7 +260,6 @@ void ShowGrid(const forms::Grid& grid, QTableWidget& table) {
 
 void ResizeGrid(const forms::Grid& grid, QTableWidget& table, const Scale& scale, int characters) {
   constexpr double kRowEm = 1.7;
-  constexpr int kLeastRows = 5;
   int total = 0;
   int index = 0;
   for (const forms::Grid::Column& column : grid.Columns()) {
@@ -269,7 +268,8 @@ void ResizeGrid(const forms::Grid& grid, QTableWidget& table, const Scale& scale
     total += width;
   }
   table.verticalHeader()->setDefaultSectionSize(scale.Em(kRowEm));
-  table.setMinimumHeight(scale.Em(kRowEm * (kLeastRows + 1)));
+  table.setMinimumHeight(scale.Em(kRowEm) * grid.VisibleRows() +
+                         table.horizontalHeader()->sizeHint().height() + 2 * table.frameWidth());
   table.setMinimumWidth(characters > 0 ? scale.Digits(characters) : total + scale.Em(2));
 }
 

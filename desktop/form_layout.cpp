@@ -44,8 +44,8 @@ bool IsCaption(const forms::Cell& cell) {
   return Is<forms::Label>(cell.Controls().front()) && !IsResult(cell.Controls().front());
 }
 
-/// Whether the cell gains from more height.
-bool IsTall(const forms::Cell& cell) {
+/// Whether the cell gains from more room in both directions.
+bool IsArea(const forms::Cell& cell) {
   return std::any_of(cell.Controls().begin(), cell.Controls().end(),
                      [](const forms::Control* control) {
                        return Is<forms::ListBox>(control) || Is<forms::CheckList>(control) ||
@@ -53,10 +53,21 @@ bool IsTall(const forms::Cell& cell) {
                      });
 }
 
+/// Whether the cell gains from more height.
+bool IsTall(const forms::Cell& cell) {
+  return IsArea(cell) ||
+         std::any_of(cell.Controls().begin(), cell.Controls().end(),
+                     [](const forms::Control* control) {
+                       const auto* const bar = dynamic_cast<const forms::ScrollBar*>(control);
+                       return bar != nullptr &&
+                              bar->Orientation() == forms::ScrollBar::Direction::kVertical;
+                     });
+}
+
 /// Whether the cell gains from more width. A unit selector, which stands behind its value, does
 /// not; a selector behind a caption does.
 bool IsWide(const forms::Cell& cell, const forms::Cell* before) {
-  if (IsTall(cell)) return true;
+  if (IsArea(cell)) return true;
   return std::any_of(
       cell.Controls().begin(), cell.Controls().end(), [&](const forms::Control* control) {
         if (Is<forms::TextBox>(control) || IsResult(control) || Is<forms::ProgressBar>(control)) {

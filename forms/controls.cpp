@@ -339,8 +339,8 @@ void ScrollBar::SetValue(int value) {
   Fire(onChange);
 }
 
-Grid::Grid(Form& form, std::string name, std::vector<Column> columns)
-    : Control(form, std::move(name)), columns_(std::move(columns)) {}
+Grid::Grid(Form& form, std::string name, std::vector<Column> columns, int visibleRows)
+    : Control(form, std::move(name)), columns_(std::move(columns)), visibleRows_(visibleRows) {}
 
 void Grid::SetRows(std::vector<std::vector<std::string>> rows) {
   rows_ = std::move(rows);

@@ -298,10 +298,12 @@ class Grid : public Control {
     int width = 1000;  // twips
     bool rightAligned = true;
   };
-  Grid(Form& form, std::string name, std::vector<Column> columns);
+  /// visibleRows: rows that show at least.
+  Grid(Form& form, std::string name, std::vector<Column> columns, int visibleRows = 5);
   const char* Kind() const override { return "grid"; }
   bool TakesFocus() const override { return true; }
   const std::vector<Column>& Columns() const { return columns_; }
+  int VisibleRows() const { return visibleRows_; }
   const std::vector<std::vector<std::string>>& Rows() const { return rows_; }
   void SetRows(std::vector<std::vector<std::string>> rows);
   int SelectedRow() const { return selectedRow_; }
@@ -310,6 +312,7 @@ class Grid : public Control {
 
  private:
   std::vector<Column> columns_;
+  int visibleRows_;
   std::vector<std::vector<std::string>> rows_;
   int selectedRow_ = -1;
 };

@@ -2,6 +2,7 @@
 
 #include "common/number.h"
 #include "sheets/frm_orifice.h"
+#include "sheets/record_fields.h"
 
 namespace sheets {
 
@@ -30,11 +31,6 @@ enum Column {
   kEquationEdition = 45,
   kUnused2 = 46,
 };
-
-/// A flag of an old file may also be a number.
-bool IsSet(const std::string& text) { return text == "True" || Val(text) != 0; }
-
-void Select(ComboBox& box, const std::string& index) { box.SetIndex(common::IntIndex(Val(index))); }
 
 }  // namespace
 

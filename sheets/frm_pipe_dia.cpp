@@ -7,8 +7,11 @@ namespace sheets {
 
 namespace {
 
-constexpr int kStartSize = 12;     // 4 in
 constexpr int kStartSchedule = 7;  // Sch40
+
+PipeTarget* TargetOf(shell::Workspace& workspace) {
+  return dynamic_cast<PipeTarget*>(workspace.forms.ActiveSheet());
+}
 
 }  // namespace
 
@@ -30,7 +33,10 @@ void frmPipeDia::Load() {
   const Quiet quiet(*this);
   lstNominal.SetItems(NominalSizeTexts(workspace_.tables.lists));
   lstSchedule.SetItems(ScheduleTexts(workspace_.tables.lists));
-  if (lstNominal.Count() > kStartSize) lstNominal.SetIndex(kStartSize);
+  const PipeTarget* const sheet = TargetOf(workspace_);
+  if (sheet != nullptr && sheet->PipeStartSize() < lstNominal.Count()) {
+    lstNominal.SetIndex(sheet->PipeStartSize());
+  }
   if (lstSchedule.Count() > kStartSchedule) lstSchedule.SetIndex(kStartSchedule);
 }
 
@@ -49,7 +55,7 @@ void frmPipeDia::cmdSet_Click() {
     return;
   }
   workspace_.process.pipeInnerDiameter = *bore;
-  if (auto* const sheet = dynamic_cast<PipeTarget*>(workspace_.forms.ActiveSheet())) {
+  if (PipeTarget* const sheet = TargetOf(workspace_)) {
     sheet->TakePipe(pipes.OutsideDiameter(size), pipes.WallThickness(size, schedule), *bore);
   }
   workspace_.forms.Unload(*this);

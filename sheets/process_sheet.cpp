@@ -36,6 +36,16 @@ HumidityFields::HumidityFields(Form& form)
       txt飽和水蒸気圧(form, "txt飽和水蒸気圧", forms::NumberKeys),
       cbo飽和水蒸気圧単位(form, "cbo飽和水蒸気圧単位") {}
 
+VapourPressureFields::VapourPressureFields(Form& form)
+    : lbl飽和蒸気圧(form, "lbl飽和蒸気圧", "飽和蒸気圧"),
+      txt飽和蒸気圧(form, "txt飽和蒸気圧", forms::NumberKeys),
+      cbo飽和蒸気圧単位(form, "cbo飽和蒸気圧単位") {}
+
+CriticalPressureFields::CriticalPressureFields(Form& form)
+    : lbl臨界圧力(form, "lbl臨界圧力", "臨界圧力"),
+      txt臨界圧力(form, "txt臨界圧力", forms::NumberKeys),
+      cbo臨界圧力単位(form, "cbo臨界圧力単位") {}
+
 BaseFields::BaseFields(Form& form)
     : lbl計算基準(form, "lbl計算基準", "計算基準"),
       optWetBase(form, "optWetBase", "湿り基準（Wet Base）", "base"),
@@ -91,6 +101,20 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
     Watch(kappa);
     OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
   }
+  if (fields_.vapour != nullptr) {
+    VapourPressureFields& vapour = *fields_.vapour;
+    Watch(vapour.txt飽和蒸気圧);
+    Watch(vapour.cbo飽和蒸気圧単位);
+    OfferEntry(vapour.lbl飽和蒸気圧, vapour.txt飽和蒸気圧,
+               [this] { FillFromFluidOrSteam("飽和蒸気圧"); });
+  }
+  if (fields_.critical != nullptr) {
+    CriticalPressureFields& critical = *fields_.critical;
+    Watch(critical.txt臨界圧力);
+    Watch(critical.cbo臨界圧力単位);
+    OfferEntry(critical.lbl臨界圧力, critical.txt臨界圧力,
+               [this] { FillFromFluidOrSteam("臨界圧力"); });
+  }
 }
 
 void ProcessSheet::Watch(TextBox& box) {
@@ -140,6 +164,12 @@ void ProcessSheet::Load() {
     FillList(fields_.humidity->cbo飽和水蒸気圧単位, lists.vapourPressureUnits);
   }
   if (fields_.base != nullptr) fields_.base->optWetBase.SetChecked(true);
+  if (fields_.vapour != nullptr) {
+    FillList(fields_.vapour->cbo飽和蒸気圧単位, lists.vapourPressureUnits);
+  }
+  if (fields_.critical != nullptr) {
+    FillList(fields_.critical->cbo臨界圧力単位, lists.vapourPressureUnits);
+  }
   ShowUnitsOfPhase();
 }
 
@@ -179,6 +209,9 @@ void ProcessSheet::ShowUnitsOfPhase() {
   }
   if (fields_.deviation != nullptr) SwitchField(*fields_.deviation, IsGas());
   if (fields_.kappa != nullptr) SwitchField(*fields_.kappa, IsGas() || IsSteam());
+  // A pressure left over from a liquid would be taken for one of the gas.
+  if (fields_.vapour != nullptr) SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
+  if (fields_.critical != nullptr) SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
   show(cbo流量単位L, cbo流量単位G, cbo流量単位S);
   show(cbo密度単位L, cbo密度単位G, cbo密度単位S);
   if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
@@ -295,24 +328,36 @@ void ProcessSheet::StoreEntries() {
   process.temperatureK = process.temperatureC + 273.15;
   process.compressibilityZ =
       IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
-  process.relativeHumidity = 0;
-  process.saturationPressure = 0;
-  process.flowBasis = data::kWetBase;
-  if (IsGas() && fields_.humidity != nullptr) {
-    const HumidityFields& fields = *fields_.humidity;
-    process.relativeHumidity = Quietly([&] { return common::Single(value(&fields.txt相対湿度)); });
-    process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
-    process.saturationPressure = data::VapourPressureToAbsolute(value(&fields.txt飽和水蒸気圧),
-                                                                process.saturationPressureUnit);
-    if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
-      process.flowBasis = data::kDryBase;
-    }
-  }
+  StoreHumidity();
   process.waterVapourDensity = Quietly([&] { return data::SaturatedWaterVapourDensity(process); });
   process.densityBase = Quietly([&] { return data::DensityToNormal(process, value(&txt密度)); });
   process.densityFlow = Quietly([&] { return data::NormalDensityAtFlowState(process); });
   process.viscosityCp =
       Quietly([&] { return data::ViscosityToPoise(process, value(&txt粘性係数)); });
+}
+
+/// Humidity and its base; of the two pressures in the vapour pressure list a sheet has one.
+void ProcessSheet::StoreHumidity() {
+  data::ProcessState& process = Process();
+  process.relativeHumidity = 0;
+  process.saturationPressure = 0;
+  process.flowBasis = data::kWetBase;
+  if (fields_.vapour != nullptr) {
+    process.saturationPressureUnit = fields_.vapour->cbo飽和蒸気圧単位.Index();
+  }
+  if (fields_.critical != nullptr) {
+    process.vapourPressureUnit = fields_.critical->cbo臨界圧力単位.Index();
+  }
+  if (!IsGas() || fields_.humidity == nullptr) return;
+  const HumidityFields& fields = *fields_.humidity;
+  process.relativeHumidity =
+      Quietly([&] { return common::Single(Val(fields.txt相対湿度.Text())); });
+  process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
+  process.saturationPressure = data::VapourPressureToAbsolute(
+      Quietly([&] { return Val(fields.txt飽和水蒸気圧.Text()); }), process.saturationPressureUnit);
+  if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
+    process.flowBasis = data::kDryBase;
+  }
 }
 
 TextBox* ProcessSheet::FieldOf(const std::string& word) {
@@ -323,6 +368,8 @@ TextBox* ProcessSheet::FieldOf(const std::string& word) {
   if (word == "飽和水蒸気圧" && fields_.humidity != nullptr) {
     return &fields_.humidity->txt飽和水蒸気圧;
   }
+  if (word == "飽和蒸気圧" && fields_.vapour != nullptr) return &fields_.vapour->txt飽和蒸気圧;
+  if (word == "臨界圧力" && fields_.critical != nullptr) return &fields_.critical->txt臨界圧力;
   return nullptr;
 }
 
@@ -342,6 +389,8 @@ std::optional<Real> ProcessSheet::Estimate(const std::string& word, int fluidInd
   }
   if (word == "偏差係数") return EstimateDeviation(estimator, fluidIndex);
   if (word == "比熱比") return estimator.EstimateIsentropicExponent(fluidIndex);
+  if (word == "飽和蒸気圧") return estimator.EstimateVapourPressure(fluidIndex);
+  if (word == "臨界圧力") return estimator.LiquidCriticalPressureInUnit(fluidIndex);
   return std::nullopt;
 }
 

@@ -33,6 +33,22 @@ struct HumidityFields {
   ComboBox cbo飽和水蒸気圧単位;
 };
 
+/// Saturated vapour pressure of a liquid.
+struct VapourPressureFields {
+  explicit VapourPressureFields(Form& form);
+  Label lbl飽和蒸気圧;
+  TextBox txt飽和蒸気圧;
+  ComboBox cbo飽和蒸気圧単位;
+};
+
+/// Critical pressure of a liquid.
+struct CriticalPressureFields {
+  explicit CriticalPressureFields(Form& form);
+  Label lbl臨界圧力;
+  TextBox txt臨界圧力;
+  ComboBox cbo臨界圧力単位;
+};
+
 /// Whether a humid gas flow counts its moisture.
 struct BaseFields {
   explicit BaseFields(Form& form);
@@ -92,6 +108,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
     TextBox* kappa = nullptr;
     /// Shows the flow unit of the phase behind a second flow.
     Label* secondFlowUnit = nullptr;
+    VapourPressureFields* vapour = nullptr;
+    CriticalPressureFields* critical = nullptr;
   };
   /// To be called once, in the constructor of the sheet.
   void UseFields(const OptionalFields& fields);
@@ -150,6 +168,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void ShowUnitsOfPhase();
   void SwitchHumidity();
   void UpdateFluidList();
+  void StoreHumidity();
   TextBox* FieldOf(const std::string& word);
   std::optional<Real> Estimate(const std::string& word, int fluidIndex);
   std::optional<Real> EstimateSteam(const std::string& word);

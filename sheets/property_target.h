@@ -21,6 +21,8 @@ class PipeTarget {
   virtual ~PipeTarget() = default;
   /// A pipe has been chosen: outside diameter, wall and bore, mm.
   virtual void TakePipe(double outsideDiameter, double wallThickness, double bore) = 0;
+  /// Nominal size on which the dialogue opens; 12 is 4 in.
+  virtual int PipeStartSize() const { return 12; }
 };
 
 }  // namespace sheets

@@ -2,11 +2,15 @@
 
 #include <memory>
 
+#include "sheets/frm_cv.h"
+#include "sheets/frm_cv_correction.h"
+#include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
+#include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/small_dialogues.h"
 #include "shell/lifecycle.h"
@@ -28,10 +32,18 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmCV", std::type_identity<frmCV>());
+  provide(frmCvSet::kName, std::type_identity<frmCvSet>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
   provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
+  provide(frmRating::kName, std::type_identity<frmRating>());
+  provide(frm本山微少弁::kName, std::type_identity<frm本山微少弁>());
+  provide(frm山武微少弁::kName, std::type_identity<frm山武微少弁>());
+  provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
+  provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
+  provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());

@@ -13,14 +13,6 @@ namespace {
 
 constexpr int kKindPosition = 28;  // bytes of CP932
 
-/// The text as it comes back from a file: wave dash, minus and a few more have two code points, of
-/// which input methods give the one and CP932 the other. A text that cannot be stored at all is
-/// left for the save to refuse.
-std::string CodePageForm(const std::string& text) {
-  if (common::FirstOutsideCp932(text)) return text;
-  return common::FromCp932(common::ToCp932(text));
-}
-
 bool HoldsTags(const std::string& kind) {
   const SheetEntry* const sheet = FindSheet(kind);
   return sheet != nullptr && sheet->holdsTags;
@@ -117,7 +109,7 @@ bool TagStore::Insert(const std::string& tagNumber, const std::string& kind,
 int TagStore::Register(const std::string& tagNumber, const std::string& kind,
                        common::Messages& messages, const AddRoutine& add) {
   if (tagNumber.empty() || !HoldsTags(kind)) return 0;
-  const std::string number = CodePageForm(tagNumber);
+  const std::string number = common::CodePageForm(tagNumber);
   replaceTag_ = false;
   if (const int row = RowOf(number); row > 0) {
     currentTag = row;  // also when the answer is No
@@ -132,7 +124,7 @@ int TagStore::Register(const std::string& tagNumber, const std::string& kind,
   SetText(row, kKindColumn, kind);
   add(row);
   // The add routine copies the field as the user typed it.
-  SetText(row, kTagNumberColumn, CodePageForm(Text(row, kTagNumberColumn)));
+  SetText(row, kTagNumberColumn, common::CodePageForm(Text(row, kTagNumberColumn)));
   return row;
 }
 

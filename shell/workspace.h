@@ -37,6 +37,8 @@ struct Workspace {
   /// Folder with the data files.
   std::string installDir;
   Tables tables;
+  /// The valve catalogue has been edited since its file was read or written.
+  bool valvesModified = false;
   data::ProcessState process;
   TagStore tags;
 

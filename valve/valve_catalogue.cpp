@@ -51,6 +51,12 @@ void Visit(Catalogue& catalogue, Field field, RecordEnd recordEnd) {
 
 }  // namespace
 
+int CharacteristicIndex(const std::string& field) {
+  constexpr int kLast = static_cast<int>(kCharacteristics.size()) - 1;
+  if (field.size() != 1 || field[0] < '0' || field[0] > '0' + kLast) return -1;
+  return field[0] - '0';
+}
+
 bool ValveCatalogue::Empty() const {
   return AllBlank(valveMaker) && std::all_of(valveModel.begin(), valveModel.end(),
                                              [](const auto& models) { return AllBlank(models); });

@@ -5,6 +5,14 @@
 
 namespace valve {
 
+/// Inherent flow characteristics, in the order of the index that the catalogue keeps.
+inline constexpr std::array<const char*, 6> kCharacteristics = {
+    "Equal Percent", "Linear", "60ﾟ Batterfly", "Modified Parabolic", "Quick Open", "その他"};
+
+/// Index of a characteristic from its field in the catalogue; -1 for an empty field, for one that
+/// is no number, and for a number outside the list.
+int CharacteristicIndex(const std::string& field);
+
 /// Makers, models and trims of control valves, as they stand in ValveSpec.dat. All of it is text,
 /// as typed in the catalogue editor, and becomes a number in use; an unused slot is empty.
 struct ValveCatalogue {

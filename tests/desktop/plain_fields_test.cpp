@@ -1,4 +1,5 @@
 #include <QFrame>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -79,6 +80,31 @@ TEST_F(PlainFields, ScrollBarKeepsItsRangeAndReportsMoves) {
   dialog.hsb倍率.SetValue(500);
   EXPECT_EQ(bar.value(), 100);
   EXPECT_EQ(changes, 2);
+}
+
+/// A column of fields with a bar beside it, above a table.
+struct FieldsWithBar : forms::Form {
+  FieldsWithBar() : Form("frmBar", "", forms::FormRole::kTool) {
+    SetLayout(forms::Column(
+        {forms::Row({forms::Table({{txtA}, {txtB}, {txtC}}), forms::Table({{VScroll1}})}),
+         forms::Table({{grd表}})}));
+  }
+  forms::TextBox txtA{*this, "txtA"};
+  forms::TextBox txtB{*this, "txtB"};
+  forms::TextBox txtC{*this, "txtC"};
+  forms::ScrollBar VScroll1{*this, "VScroll1", forms::ScrollBar::Direction::kVertical, 11};
+  forms::Grid grd表{*this, "grd表", {{"A", 1000}}, 12};
+};
+
+TEST_F(PlainFields, UprightBarIsAsHighAsItsNeighbourAndGridShowsItsRows) {
+  forms_.Provide("frmBar", [] { return std::make_unique<FieldsWithBar>(); });
+  const forms::Form& form = forms_.Show("frmBar");
+  QApplication::processEvents();
+  const auto& first = Find<QWidget>(form, "txtA");
+  const auto& last = Find<QWidget>(form, "txtC");
+  EXPECT_GE(Find<QWidget>(form, "VScroll1").height(), last.geometry().bottom() - first.y());
+  const auto& table = Find<QTableWidget>(form, "grd表");
+  EXPECT_GE(table.viewport()->height(), 12 * table.verticalHeader()->defaultSectionSize());
 }
 
 TEST_F(PlainFields, GridPicksRows) {

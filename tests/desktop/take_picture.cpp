@@ -1,7 +1,7 @@
 // Takes a picture of the workbench in a state that a script describes:
 //   take_picture OUT.png [--size WIDTHxHEIGHT] [--dark] [--form NAME] < SCRIPT
-// Lines of the script: load PATH, recall ROW, menu NAME, type CONTROL TEXT, pick CONTROL N or
-// =TEXT, choose, click, dblclick, rclick CONTROL, close FORM. --form takes the picture of that
+// Lines of the script: load PATH, recall ROW, menu NAME, open FORM, type CONTROL TEXT, pick CONTROL
+// N or =TEXT, choose, click, dblclick, rclick CONTROL, close FORM. --form takes the picture of that
 // form's own window alone.
 #include <QApplication>
 #include <QTimer>
@@ -44,6 +44,10 @@ void Run(sheets::Workbench& workbench, const std::string& line) {
   }
   if (verb == "close") {
     workbench.Forms().Unload(*workbench.Forms().Find(object));
+    return;
+  }
+  if (verb == "open") {
+    workbench.Forms().Show(object);
     return;
   }
   forms::Form* const form = workbench.Forms().Active();

@@ -14,7 +14,10 @@ namespace sheets {
 /// Drives the real sheets on the shipped data files, by control name.
 class SheetTest : public testing::Test {
  protected:
-  SheetTest() { bench.Start(); }
+  explicit SheetTest(const std::string& dataFolder = ZEPHA_BUILD_DIR)
+      : bench(presenter, dataFolder, settings) {
+    bench.Start();
+  }
 
   forms::Control& Find(const std::string& name) {
     forms::Control* const control = bench.Forms().Active()->Find(name);
@@ -48,7 +51,7 @@ class SheetTest : public testing::Test {
 
   tests::RecordingPresenter presenter;
   shell::MemorySettings settings;
-  Workbench bench{presenter, ZEPHA_BUILD_DIR, settings};
+  Workbench bench;
 };
 
 using Texts = std::vector<std::string>;

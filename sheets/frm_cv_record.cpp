@@ -1,0 +1,157 @@
+// The tag record of the valve sheet.
+
+#include "common/number.h"
+#include "sheets/frm_cv.h"
+#include "sheets/record_fields.h"
+
+namespace sheets {
+
+namespace {
+
+using common::Val;
+
+/// Columns of the record. What is not named here is a text in the order of the tables below.
+enum Column : std::size_t {
+  kFluid = 2,
+  kFlowUnit = 4,
+  kSecondary = 7,
+  kPressureKind = 8,
+  kDensityUnit = 14,
+  kMaker = 25,
+  kModel = 27,
+  kFlangeRating = 28,
+  kCharacteristic = 35,
+  kCharacteristicIndex = 36,
+  kBodySize = 37,
+  kMaterial = 42,
+  kMaterialIndex = 43,
+  kVelocityColour = 49,
+};
+
+}  // namespace
+
+std::vector<std::pair<int, TextBox*>> frmCV::EntryColumns() {
+  return {{0, &txtTagNo},
+          {1, &txt用途},
+          {3, &txt流量},
+          {5, &txt圧力},
+          {9, &txt差圧},
+          {11, &txt温度},
+          {13, &txt密度},
+          {15, &txt粘性係数},
+          {17, &vapour.txt飽和蒸気圧},
+          {19, &critical.txt臨界圧力},
+          {21, &txt偏差係数},
+          {22, &txt比熱比},
+          {26, &txt弁口径},
+          {29, &txtFL},
+          {30, &txtN係数},
+          {31, &txtValveSize},
+          {32, &txt弁Fd},
+          {33, &txtCvv},
+          {34, &txtRangeability},
+          {38, &txt上流配管外径},
+          {39, &txt上流配管厚},
+          {40, &txt下流配管外径},
+          {41, &txt下流配管厚},
+          {44, &txtWallWeight}};
+}
+
+std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
+  return {{6, &cbo圧力単位},
+          {10, &cbo差圧単位},
+          {12, &cbo温度単位},
+          {16, &cbo粘性係数単位},
+          {18, &vapour.cbo飽和蒸気圧単位},
+          {20, &critical.cbo臨界圧力単位}};
+}
+
+std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
+  return {{23, &lblFCI計算Cv}, {24, &lblISA計算Cv}, {45, &lblSizingCv},
+          {46, &lblOpening},   {47, &lblVelocity},  {48, &lblNoise}};
+}
+
+void frmCV::AddCV(int row) {
+  shell::TagStore& tags = Space().tags;
+  const auto put = [&](int column, std::string text) {
+    tags.SetText(row, column, std::move(text));
+  };
+  const auto putIndex = [&](int column, const ComboBox& box) {
+    put(column, std::to_string(box.Index()));
+  };
+  for (const auto& [column, box] : EntryColumns()) put(column, box->Text());
+  for (const auto& [column, box] : UnitColumns()) putIndex(column, *box);
+  for (const auto& [column, label] : ResultColumns()) put(column, label->Text());
+  putIndex(kFluid, cbo流体);
+  putIndex(kFlowUnit, FlowUnitBox());
+  putIndex(kDensityUnit, DensityUnitBox());
+  put(kSecondary, secondaryPressure_ ? "True" : "False");
+  put(kPressureKind, lbl差圧.Text());
+  put(kMaker, cboMaker.Text());
+  put(kModel, cboValveModel.Text());
+  put(kFlangeRating, flangeRating_);
+  put(kCharacteristic, cboCharact.Text());
+  putIndex(kCharacteristicIndex, cboCharact);
+  put(kBodySize, cboBodySize.Text());
+  put(kMaterial, cbo配管材質.Text());
+  putIndex(kMaterialIndex, cbo配管材質);
+  put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
+  put(shell::kKindColumn, Space().activeSheetKind);
+  tags.tagModified = true;
+}
+
+void frmCV::GetCV(int row) {
+  const shell::TagRow record = Space().tags.Row(row);
+  if (record[shell::kKindColumn] != kKind) return;
+  ClearResults();
+  GetSelections(record);
+  GetValve(record);
+  // The wall's weight stands behind its material, whose choice would have worked it out anew.
+  for (const auto& [column, box] : EntryColumns()) {
+    box->SetText(record[static_cast<std::size_t>(column)]);
+  }
+  StoreEntries();
+  GetResults(record);
+}
+
+void frmCV::GetSelections(const shell::TagRow& record) {
+  Select(cbo流体, record[kFluid]);
+  Select(FlowUnitBox(), record[kFlowUnit]);
+  Select(DensityUnitBox(), record[kDensityUnit]);
+  for (const auto& [column, box] : UnitColumns()) {
+    Select(*box, record[static_cast<std::size_t>(column)]);
+  }
+  ShowPressureKind(IsSet(record[kSecondary]));
+}
+
+/// A maker, model or material that is no longer listed keeps its text without a selection, and
+/// nothing is looked up: what was stored holds.
+void frmCV::GetValve(const shell::TagRow& record) {
+  const Quiet quiet(*this);
+  cboMaker.SetText(record[kMaker]);
+  FillModels();
+  cboValveModel.SetText(record[kModel]);
+  const int characteristic = valve::CharacteristicIndex(record[kCharacteristicIndex]);
+  if (characteristic >= 0) {
+    cboCharact.SetIndex(characteristic);
+  } else {
+    cboCharact.SetText(record[kCharacteristic]);
+  }
+  cboBodySize.SetText(record[kBodySize]);
+  cbo配管材質.SetText(record[kMaterial]);
+  flangeRating_ = record[kFlangeRating];
+  lblフランジ規格.SetText(flangeRating_);
+}
+
+void frmCV::GetResults(const shell::TagRow& record) {
+  const Quiet quiet(*this);
+  for (const auto& [column, label] : ResultColumns()) {
+    label->SetText(record[static_cast<std::size_t>(column)]);
+  }
+  lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
+  Space().calcDone = !lblISA計算Cv.Text().empty();
+  if (!lblSizingCv.Text().empty()) RestoreSizing();
+  pic特性.Redraw();
+}
+
+}  // namespace sheets

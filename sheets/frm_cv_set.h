@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "forms/controls.h"
+#include "shell/workspace.h"
+
+namespace sheets {
+
+/// A valve sheet that the table of trims can fill.
+class TrimTarget {
+ public:
+  virtual ~TrimTarget() = default;
+  /// Positions in the valve catalogue, -1 for none.
+  virtual int MakerIndex() const = 0;
+  virtual int ModelIndex() const = 0;
+  /// The trim of this row of the model has been chosen.
+  virtual void TakeTrim(int row) = 0;
+};
+
+/// Trim sizes and rated Cv of the model chosen on the valve sheet on top.
+class frmCvSet : public forms::Form {
+ public:
+  static constexpr const char* kName = "frmCvSet";
+
+  forms::Label lblModel{*this, "lblModel"};
+  forms::Label lblColumns{*this, "lblColumns", "内弁サイズ　Cv", forms::LabelStyle::kNote};
+  forms::ListBox lstCv{*this, "lstCv", 22, true};
+  forms::Button cmdCvSet{*this, "cmdCvSet", "決定", forms::ButtonRole::kDefault};
+  forms::Button cmdCancel{*this, "cmdCancel", "キャンセル", forms::ButtonRole::kCancel};
+
+  explicit frmCvSet(shell::Workspace& workspace);
+
+  void Load() override;
+
+ private:
+  void cmdCvSet_Click();
+
+  shell::Workspace& workspace_;
+};
+
+}  // namespace sheets

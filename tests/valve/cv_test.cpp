@@ -1,0 +1,296 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+
+#include "data/steam.h"
+#include "tests/valve/services.h"
+#include "valve/isa_equations.h"
+#include "valve/required_cv.h"
+#include "valve/sizing.h"
+
+namespace valve {
+namespace {
+
+using common::Fault;
+
+/// The fault that a calculation ends in, 0 for none.
+int FaultOf(const std::function<void()>& calculation) {
+  try {
+    calculation();
+  } catch (const common::RuntimeFault& fault) {
+    return static_cast<int>(fault.Number());
+  }
+  return 0;
+}
+
+// Cv is by definition the flow of water in US gpm at 1 psi.
+TEST(RequiredCv, FollowsItsDefinition) {
+  constexpr double kGpm = 0.2271247;   // m3/h
+  constexpr double kPsi = 0.07030696;  // kgf/cm2
+  Service service = Water(10, 10 - 100 * kPsi);
+  service.dP = 100 * kPsi;
+  service.w = 30 * 10 * kGpm * 1000;  // 300 gpm at 100 psi
+  EXPECT_NEAR(FciCv(service), 30, 0.02);
+  EXPECT_NEAR(IsaCv(service)->cv, 30, 0.02);
+}
+
+/// Water of IEC 60534-2-1 annex, examples 1 and 2: 360 m3/h at 363 K from 680 to 220 kPa.
+Service IecWater() {
+  Service service = Between(data::kLiquid, 680 * kKpa, 220 * kKpa);
+  service.rho = service.rho1 = 965.4;
+  service.w = 360 * 965.4;
+  service.pv = 70.1 * kKpa;
+  service.pc = 22120 * kKpa;
+  return service;
+}
+
+TEST(Sizing, AgreesWithPublishedLiquidExamples) {
+  const struct {
+    const char* what;
+    double d, d1, d2, fl, kv;
+    bool choked;
+  } rows[] = {
+      {"IEC 60534-2-1 example 1, globe", 150, 150, 150, 0.9, 165.0, false},
+      {"IEC 60534-2-1 example 2, segmented ball", 100, 100, 100, 0.6, 238.06, true},
+      // Of the tests of the "fluids" library, which iterates Cv; its result as rated Cv is a fixed
+      // point.
+      {"example 1 between reducers", 80, 100, 90, 0.9, 177.444, false},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    SelectedValve valve = Globe(row.kv * kCvPerKv, row.d);
+    valve.d1 = row.d1;
+    valve.d2 = row.d2;
+    valve.fl = row.fl;
+    const auto sized = SizeCv(IecWater(), valve);
+    ASSERT_TRUE(sized);
+    EXPECT_EQ(sized->choked, row.choked);
+    EXPECT_NEAR(sized->cv, row.kv * kCvPerKv, row.kv * 0.002);
+  }
+}
+
+// Worked examples of the Control Valve Handbook (3rd edition) by ISA S75.01: natural gas through a
+// ball valve with xT 0.137 in a line of its size, Cv 1515; steam through a cage valve of 4 in with
+// xT 0.69 and rated Cv 236 between pipes of 6 in, Cv 176. FL is the one with that xT. These sheets
+// divide by FLP instead of Fp from dP = 0.5 FL^2 p1 on, which the comparison takes back.
+TEST(Sizing, AgreesWithPublishedGasExamples) {
+  constexpr double kPsi = 0.07030696;  // kgf/cm2
+  Service gas = Between(data::kGas, 214.7 * kPsi, 64.7 * kPsi);
+  gas.rho = 17.38 / 22.415;
+  gas.tk = 288.71;
+  gas.w = 6e6 * 0.0283168 * 273.15 / 288.71 * gas.rho;  // scfh at 60 degF
+  gas.rho1 = gas.rho * gas.p1 / 1.03323 * 273.15 / gas.tk;
+  gas.k = 1.31;
+  SelectedValve ball = Globe(2190, 203.2);
+  ball.fl = std::sqrt(0.137 / 0.84);
+
+  Service steam = Between(data::kSteam, 514.7 * kPsi, 264.7 * kPsi);
+  steam.w = 125000 * 0.45359237;
+  steam.rho = steam.rho1 = 1.0434 * 16.01846;  // kg/m3 of lb/ft3
+  steam.k = 1.28;
+  SelectedValve cage = Globe(236, 101.6);
+  cage.d1 = cage.d2 = 152.4;
+  cage.fl = std::sqrt(0.69 / 0.84);
+
+  const struct {
+    const Service& service;
+    const SelectedValve& valve;
+    double cv;
+  } rows[] = {{gas, ball, 1515}, {steam, cage, 176}};
+  for (const auto& row : rows) {
+    const auto sized = SizeCv(row.service, row.valve);
+    ASSERT_TRUE(sized);
+    EXPECT_TRUE(sized->choked);
+    EXPECT_NEAR(sized->cv * sized->flp / sized->fp, row.cv, row.cv * 0.01);
+  }
+}
+
+// The flow through a valve of the Cv found, by the SI equations of IEC 60534-2-1: N1 = 0.0865 and
+// N6 = 2.73 for Cv, m3/h, kg/h and kPa: Q = N1 Fp Cv sqrt(dP / SG), W = N6 Fp Cv Y sqrt(x p1 rho1).
+TEST(Sizing, GivesBackTheFlow) {
+  for (const double p2 : {9.5, 8.0, 6.5}) {
+    SCOPED_TRACE(p2);
+    SelectedValve valve = Globe(40);
+    valve.d1 = 77.9;
+    valve.d2 = 102.3;
+
+    const Service water = Water(10, p2);
+    const auto liquid = SizeCv(water, valve);
+    EXPECT_FALSE(liquid->choked);
+    const double flow = 0.0865 * liquid->fp * liquid->cv * std::sqrt(water.dP / kKpa);
+    EXPECT_NEAR(flow, 50, 50 * 0.0015);
+
+    for (const Service& gas : {Air(10, p2), Steam(10, p2)}) {
+      const auto sized = SizeCv(gas, valve);
+      EXPECT_FALSE(sized->choked);
+      const double mass = 2.73 * sized->fp * sized->cv * *sized->y *
+                          std::sqrt(gas.dP / gas.p1 * (gas.p1 / kKpa) * gas.rho1);
+      EXPECT_NEAR(mass, gas.w, gas.w * 0.005);
+    }
+  }
+}
+
+// FCI and ISA are fitted to the same valves: at small drops they agree within a few per cent.
+TEST(RequiredCv, BothEquationsAgreeAtSmallDrops) {
+  for (const Service& service : {Water(10, 9.5), Air(10, 9.5), Steam(10, 9.5, 180, 5.05)}) {
+    EXPECT_NEAR(IsaCv(service)->cv / FciCv(service), 1, 0.04) << service.fluidPhase;
+  }
+}
+
+TEST(RequiredCv, TurnsCriticalAtItsLimits) {
+  // 12 and 6 are exact, so the limit itself can be met.
+  for (const Service& service : {Air(12, 6), Steam(12, 6)}) {
+    Service below = service;
+    below.dP = std::nextafter(6.0, 0.0);
+    below.p2 = below.p1 - below.dP;
+    EXPECT_TRUE(IsaCv(service)->choked);
+    EXPECT_FALSE(IsaCv(below)->choked);
+    // 13.5 sqrt(dP (P1 + P2)) against 11.7 P1 at dP = P1/2: 11.69 and 11.7; 236.4 and 238 for gas.
+    EXPECT_NE(FciCv(service), FciCv(below));
+    EXPECT_NEAR(FciCv(service) / FciCv(below), 1, 0.01);
+  }
+  // Beyond it the FCI result depends on the inlet pressure alone.
+  EXPECT_EQ(FciCv(Air(12, 6)), FciCv(Air(12, 1)));
+  EXPECT_EQ(FciCv(Steam(12, 6)), FciCv(Steam(12, -3)));
+
+  Service superheated = Steam(12, 9);
+  const common::Real saturated = FciCv(superheated);
+  superheated.superheat = 100;
+  EXPECT_NEAR(FciCv(superheated) / saturated, 1.126, 1e-12);
+}
+
+TEST(RequiredCv, ALiquidNeedsItsVapourData) {
+  Service service = Water(10, 8);
+  service.pc = 0;
+  EXPECT_FALSE(IsaCv(service));
+  service.pc = 225.6;
+  service.pv = 0;
+  EXPECT_FALSE(IsaCv(service));
+
+  // Choked from dP = p1 - FF Pv on; the Cv holds still beyond.
+  service = Water(10, 5);
+  service.pv = 4;
+  const double limit = 10 - (0.96 - 0.28 * std::sqrt(4 / 225.6)) * 4;
+  for (const double dP : {limit - 1e-9, limit, 9.0}) {
+    service.dP = dP;
+    EXPECT_EQ(IsaCv(service)->choked, dP >= limit);
+    EXPECT_NEAR(IsaCv(service)->cv, 50 / 0.857 / std::sqrt(std::min(dP, limit)), 1e-6);
+  }
+}
+
+TEST(Expansion, StaysBetweenItsLimits) {
+  Service service = Air(10, 8);
+  const double xT = 0.84 * 0.81;
+  EXPECT_NEAR(ExpansionOf(service, xT).y, 1 - 0.2 / (3 * xT), 1e-12);
+  service.dP = 9.99;
+  EXPECT_NEAR(ExpansionOf(service, xT).x, xT, 1e-12);
+  EXPECT_EQ(ExpansionOf(service, xT).y, 0.667);  // 2/3 is lifted
+  service.dP = -1;
+  EXPECT_EQ(ExpansionOf(service, xT).y, 0.667);
+  EXPECT_EQ(FaultOf([&] { SizeCv(service, Globe(40)); }), 5);
+}
+
+TEST(Piping, ReducersOfTheStandard) {
+  // No reducers, no effect.
+  EXPECT_EQ(PipingFactorsOf(Globe(40)).fp, 1);
+  EXPECT_EQ(PipingFactorsOf(Globe(40)).sumK, 0);
+  // Half the pipe's bore, 2 in, on both sides: K1 + K2 = 1.5 (1 - 1/4)^2 = 0.84375.
+  SelectedValve valve = Globe(40);
+  valve.d1 = valve.d2 = 101.6;
+  const PipingFactors piping = PipingFactorsOf(valve);
+  EXPECT_NEAR(piping.sumK, 0.84375, 1e-12);
+  EXPECT_NEAR(piping.ki, 0.28125 + 0.9375, 1e-12);
+  EXPECT_NEAR(piping.cvD, 10, 1e-12);
+  EXPECT_NEAR(piping.fp, 1 / std::sqrt(1 + 84.375 / 890), 1e-12);
+  EXPECT_NEAR(CombinedRecoveryFactor(piping, 0.9), 1 / std::sqrt(1 / 0.81 + 121.875 / 890), 1e-12);
+  // The inlet pipe alone is smaller: velocity head is regained, Fp is held at 1.
+  valve.d1 = 38.1;
+  valve.d2 = 50.8;
+  EXPECT_LT(PipingFactorsOf(valve).sumK, 0);
+  EXPECT_EQ(PipingFactorsOf(valve).fp, 1);
+}
+
+TEST(Sizing, ChokedFactorIsLimitedForAGasAlone) {
+  // A smaller inlet pipe makes Ki negative; with FL 0.95 FLP would exceed 1.
+  SelectedValve valve = Globe(80);
+  valve.fl = 0.95;
+  valve.d1 = 40;
+  EXPECT_GT(CombinedRecoveryFactor(PipingFactorsOf(valve), valve.fl), 1);
+  EXPECT_EQ(SizeCv(Air(10, 2), valve)->flp, 1);
+  Service water = Water(10, 1);
+  water.pv = 2;
+  EXPECT_TRUE(SizeCv(water, valve)->choked);
+  EXPECT_GT(SizeCv(water, valve)->flp, 1);
+}
+
+TEST(Sizing, ChokesByFlAlone) {
+  SelectedValve valve = Globe(40);
+  valve.fl = 0.5;  // exact square
+  valve.d1 = valve.d2 = 77.9;
+  // 0.5 FL^2 P1 = 1.5 of 12.
+  EXPECT_TRUE(SizeCv(Air(12, 10.5), valve)->choked);
+  EXPECT_FALSE(SizeCv(Air(12, 10.500001), valve)->choked);
+}
+
+TEST(Sizing, MissingDataAndWrongDataAreDifferentFaults) {
+  const struct {
+    const char* what;
+    std::function<void(Service&, SelectedValve&)> spoil;
+    int fault;
+  } rows[] = {
+      {"nothing", [](auto&, auto&) {}, 0},
+      {"bore", [](auto&, auto& valve) { valve.d = 0; }, 11},
+      {"bore and rated Cv", [](auto&, auto& valve) { valve.d = valve.ratedCv = 0; }, 11},
+      {"inlet pipe", [](auto&, auto& valve) { valve.d1 = 0; }, 11},
+      {"outlet pipe and bore", [](auto&, auto& valve) { valve.d2 = valve.d = 0; }, 11},
+      {"rated Cv", [](auto&, auto& valve) { valve.ratedCv = 0; }, 0},
+      {"drop", [](auto& service, auto&) { service.dP = 0; }, 11},
+      {"drop and density", [](auto& service, auto&) { service.dP = service.rho = 0; }, 11},
+      {"negative drop", [](auto& service, auto&) { service.dP = -1; }, 5},
+      {"narrow outlet, large valve", [](auto&, auto& valve) { valve.d1 = 30, valve.ratedCv = 150; },
+       5},
+      {"vapour above inlet", [](auto& service, auto&) { service.pv = 20, service.dP = 3; }, 5},
+  };
+  for (const auto& row : rows) {
+    Service service = Water(10, 8);
+    SelectedValve valve = Globe(40);
+    row.spoil(service, valve);
+    EXPECT_EQ(FaultOf([&] { SizeCv(service, valve); }), row.fault) << row.what;
+  }
+  // The bore is missed before the vapour data.
+  Service service = Water(10, 8);
+  service.pv = 0;
+  SelectedValve valve = Globe(40);
+  EXPECT_FALSE(SizeCv(service, valve));
+  valve.d = 0;
+  EXPECT_EQ(FaultOf([&] { SizeCv(service, valve); }), 11);
+}
+
+TEST(FourFigures, RoundsByTheDecimalExponent) {
+  const struct {
+    double cv, shown;
+  } rows[] = {{190.6494, 190.6},     {165.04, 165},  {9999.6, 10000},
+              {123456, 123500},      {1, 1},         {0.99996, 1},
+              {0.0030447, 0.003045}, {0.001, 0.001}, {0.12344, 0.1234},
+              {1000.4, 1000},        {10.004, 10},   {999.96, 1000}};
+  for (const auto& row : rows) EXPECT_DOUBLE_EQ(FourFigures(row.cv), row.shown) << row.cv;
+  EXPECT_EQ(FaultOf([] { FourFigures(0); }), 5);
+}
+
+TEST(Service, ReadsDifferentialAndSuperheat) {
+  EXPECT_NEAR(DifferentialOf(98.0665, 0), 1, 1e-15);
+  EXPECT_EQ(DifferentialOf(735.72, 4), 1);  // mmHg: no atmosphere to take off
+  EXPECT_NEAR(DifferentialOf(14.22, 6), 1, 1e-15);
+  EXPECT_NEAR(DifferentialOf(10000, 3), 1, 1e-15);
+  Service service = Steam(10, 5, 182);
+  for (const auto& [saturation, superheat] :
+       {std::pair{180.0, 2.0}, {180.01, 0.0}, {250.0, 0.0}, {100.0, 82.0}}) {
+    SetSuperheat(service, saturation);
+    EXPECT_EQ(service.superheat, superheat);
+    EXPECT_EQ(service.saturated, superheat == 0);
+  }
+}
+
+}  // namespace
+}  // namespace valve
