@@ -39,4 +39,10 @@ class Messages {
   }
 };
 
+/// Hears nothing: for a calculation whose messages are told elsewhere or are not wanted.
+class Unheard : public Messages {
+ public:
+  Answer Present(const Message&) override { return Answer::kOk; }
+};
+
 }  // namespace common

@@ -46,9 +46,15 @@ void CalculationPage::Line(const std::string& label, const std::string& value,
   const std::string shown = WithoutBlanks(value);
   // Units come with blanks of their own or without; all stand in one column.
   const std::string bareUnit = shown.empty() ? "" : WithoutBlanks(unit);
+  const int room = kValueBytes - std::max(common::Cp932Length(label) - kLabelBytes, 0);
   PrintInFrame(common::PadToBytes(label, kLabelBytes) + kSeparator +
-               common::PadLeftToBytes(shown, kValueBytes) +
+               common::PadLeftToBytes(shown, room) +
                (bareUnit.empty() ? "" : kBeforeUnit + bareUnit));
+}
+
+void CalculationPage::Continued(const std::string& value) {
+  const int before = kLabelBytes + common::Cp932Length(kSeparator);
+  PrintInFrame(common::PadToBytes({}, before) + common::PadLeftToBytes(value, kValueBytes));
 }
 
 void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }

@@ -18,8 +18,11 @@ class CalculationPage {
   void Section(const std::string& text);
   /// A line: the value ends at a fixed column, counted in CP932 bytes, and the unit stands behind
   /// it. A value that is too long for its column moves to the right, and one that would leave the
-  /// frame is set in smaller letters. An empty value has no unit.
+  /// frame is set in smaller letters. An empty value has no unit. A long label takes its room from
+  /// the value.
   void Line(const std::string& label, const std::string& value, const std::string& unit = {});
+  /// More of the value of the line before, at its column.
+  void Continued(const std::string& value);
   /// A text of its own at the column of the lines, for tables and remarks.
   void Text(const std::string& text);
   /// Half a line of room.

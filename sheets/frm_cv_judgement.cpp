@@ -11,12 +11,6 @@ namespace {
 
 using common::NumberText;
 
-/// Hears nothing: for a calculation that has told everything before.
-class Unheard : public common::Messages {
- public:
-  common::Answer Present(const common::Message&) override { return common::Answer::kOk; }
-};
-
 /// Steam this far below saturation is wet or water, K; the equations do not notice it.
 constexpr double kWetMargin = 2;
 
@@ -53,7 +47,7 @@ void frmCV::ShowCautions(const valve::Service& service, const valve::SelectedVal
 }
 
 void frmCV::RestoreSizing() {
-  Unheard unheard;
+  common::Unheard unheard;
   try {
     const valve::Service service = ReadProcessInputs();
     const valve::SelectedValve selected = ReadValveInputs();

@@ -12,6 +12,12 @@ std::vector<std::string> NominalSizeTexts(const data::ConvertLists& lists) {
   return texts;
 }
 
+std::vector<std::string> FluidTexts(const data::FluidTable& fluids) {
+  std::vector<std::string> texts;
+  for (const std::string& name : fluids.Names()) texts.push_back(" " + name);
+  return texts;
+}
+
 std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists) {
   const auto count = std::min<std::size_t>(lists.schedules.size(), data::PipeTable::kSchedules);
   return {lists.schedules.begin(), lists.schedules.begin() + static_cast<std::ptrdiff_t>(count)};

@@ -5,11 +5,14 @@
 #include "sheets/frm_cv.h"
 #include "sheets/frm_cv_correction.h"
 #include "sheets/frm_edit_cv_spec.h"
+#include "sheets/frm_edit_prop_data.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_pipe_weight.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
+#include "sheets/frm_properties.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/small_dialogues.h"
@@ -44,6 +47,9 @@ void Workbench::ProvideForms() {
   provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
   provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
   provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
+  provide("frmEditPropData", std::type_identity<frmEditPropData>());
+  provide("frm物性", std::type_identity<frm物性>());
+  provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());

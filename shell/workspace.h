@@ -39,6 +39,8 @@ struct Workspace {
   Tables tables;
   /// The valve catalogue has been edited since its file was read or written.
   bool valvesModified = false;
+  /// The fluid tables have been edited since their files were read or written.
+  bool fluidsModified = false;
   data::ProcessState process;
   TagStore tags;
 
