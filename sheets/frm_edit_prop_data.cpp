@@ -228,7 +228,7 @@ void frmEditPropData::LayOut() {
   for (int plot = 0; plot < kPlots; ++plot) {
     std::vector<forms::Line> lines;
     for (int field = plot * kRows; field < (plot + 1) * kRows; ++field) {
-      lines.push_back({lblItemName[field], txtItemData[field]});
+      lines.push_back({lblItemName[field], forms::Cell(txtItemData[field]).Wide(11)});
     }
     columns.push_back(
         forms::Stretched(forms::Group("", forms::Column({
