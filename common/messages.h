@@ -39,8 +39,8 @@ class Messages {
   }
 };
 
-/// Hears nothing: for a calculation whose messages are told elsewhere or are not wanted.
-class Unheard : public Messages {
+/// Hears nothing: for a calculation whose messages are told elsewhere or not wanted.
+class NoMessages : public Messages {
  public:
   Answer Present(const Message&) override { return Answer::kOk; }
 };

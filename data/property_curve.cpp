@@ -65,7 +65,7 @@ std::vector<std::pair<double, double>> PropertyOverRange(const FluidTable& liqui
   const Real low = std::min(common::Val(lowText), common::Val(highText));
   const Real high = std::max(common::Val(lowText), common::Val(highText));
 
-  common::Unheard messages;
+  common::NoMessages messages;
   ProcessState state;
   state.pressureAbs = kNormalAtmosphere;
   state.densityUnit = property == FluidProperty::kGasDensity ? 1 : 0;

@@ -55,7 +55,7 @@ frmCV::frmCV(shell::Workspace& workspace) : ProcessSheet(workspace, kKind, "Cont
   BindHandlers();
   BindValveHandlers();
   DeclareLayout();
-  ClearResults();
+  frmCV::ClearResults();  // hides the marks
 }
 
 void frmCV::BindHandlers() {
@@ -82,7 +82,7 @@ void frmCV::BindHandlers() {
 
 void frmCV::BindValveHandlers() {
   cboMaker.onClick = [this] { cboMaker_Click(); };
-  cboMaker.onChange = [this] { ClearSizingResults(); };
+  cboMaker.onChange = [this] { cboMaker_Change(); };
   cboValveModel.onClick = [this] { cboValveModel_Click(); };
   cboValveModel.onChange = [this] { ClearSizingResults(); };
   for (TextBox* box :
@@ -114,12 +114,12 @@ void frmCV::WatchValve(TextBox& box) {
 }
 
 void frmCV::BindHelpList(Label& label, TextBox& box, forms::ListBox& list, const HelpLines& lines) {
-  constexpr std::size_t kValueColumns = 6;
+  constexpr std::size_t kValueLetters = 4;
   std::vector<std::string> items;
   for (const auto& [value, text] : lines) {
-    std::string item = value;
-    item.resize(kValueColumns, ' ');
-    items.push_back(item + text);
+    const std::string number = value;
+    // A blank is about half as wide as a digit.
+    items.push_back(number + std::string(2 * (kValueLetters - number.size()) + 3, ' ') + text);
   }
   list.SetItems(std::move(items));
   list.SetVisible(false);
@@ -208,6 +208,15 @@ void frmCV::FillModels() {
   }
   const auto& models = common::At(Tables().valves.valveModel, cboMaker.Index());
   cboValveModel.SetItems({models.begin(), models.end()});
+}
+
+/// A maker was typed: his models are listed, and the model's text stays.
+void frmCV::cboMaker_Change() {
+  ClearSizingResults();
+  const std::string model = cboValveModel.Text();
+  FillModels();
+  const Quiet quiet(*this);
+  cboValveModel.SetText(model);
 }
 
 void frmCV::cboValveModel_Click() {
@@ -362,6 +371,11 @@ void frmCV::ClearSizingResults() {
 
 void frmCV::DeclareLayout() {
   for (Label* label : {&lblFlash, &lblCritical, &lbl注意}) label->SetForeColor(forms::kMagenta);
+  // Two fields share a caption, so a screen reader needs names of their own.
+  txt上流配管外径.SetAccessibleName("上流配管外径");
+  txt上流配管厚.SetAccessibleName("上流配管厚さ");
+  txt下流配管外径.SetAccessibleName("下流配管外径");
+  txt下流配管厚.SetAccessibleName("下流配管厚さ");
   SetLayout(forms::Column({
       forms::Table({{lblタイトル}}),
       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "sheets/calculation_page.h"
 #include "sheets/frm_cv_set.h"
 #include "sheets/process_sheet.h"
 #include "sheets/valve_targets.h"
@@ -86,7 +87,7 @@ class frmCV : public ProcessSheet,
   /// What makes a result impossible or doubtful.
   Label lbl注意{*this, "lbl注意", "", LabelStyle::kNote};
   /// Characteristic of the valve with its operating point; the help lists take its place.
-  forms::Picture pic特性{*this, "pic特性", 4300, 3000};
+  forms::Picture pic特性{*this, "pic特性", 4300, 4000};
   forms::ListBox lstFL{*this, "lstFL", 7};
   forms::ListBox lstFd{*this, "lstFd", 7};
   forms::ListBox lstN係数{*this, "lstN係数", 7};
@@ -116,10 +117,13 @@ class frmCV : public ProcessSheet,
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddCV(row); }
   void GetFrom(int row) override { GetCV(row); }
+  bool PrintBody(shell::PrintSurface& target) override { return PrintCV(target); }
   /// Writes entries and results into a row of the tag store.
   void AddCV(int row);
   /// Fills the sheet from a row of its kind.
   void GetCV(int row);
+  /// Prints entries and results as they stand on the sheet.
+  bool PrintCV(shell::PrintSurface& target);
 
  protected:
   std::vector<std::string> PropertyOrder() const override;
@@ -144,6 +148,7 @@ class frmCV : public ProcessSheet,
   void lbl差圧_Click();
   void ShowPressureKind(bool secondary);
   void cboMaker_Click();
+  void cboMaker_Change();
   void FillModels();
   void cboValveModel_Click();
   void cbo配管材質_Click();
@@ -180,7 +185,12 @@ class frmCV : public ProcessSheet,
   std::vector<std::pair<int, Label*>> ResultColumns();
   void GetSelections(const shell::TagRow& record);
   void GetValve(const shell::TagRow& record);
+  void GetEntries(const shell::TagRow& record);
   void GetResults(const shell::TagRow& record);
+
+  void PrintConditions(CalculationPage& page);
+  void PrintValve(CalculationPage& page);
+  void PrintResults(CalculationPage& page);
 
   /// txt差圧 holds the secondary pressure.
   bool secondaryPressure_ = false;

@@ -74,10 +74,9 @@ void DrawPoint(forms::DrawSurface& surface, const Diagram& diagram, double openi
   surface.DashedLine(diagram.left, y, x, y);
   surface.FilledPolygon({{x - kRadius, y}, {x, y - kRadius}, {x + kRadius, y}, {x, y + kRadius}});
   const std::string text = controls ? NumberText(RoundDigits(100 * opening, 0)) + " %" : "範囲外";
-  const double width = surface.TextWidth(text);
-  const double height = surface.TextHeight();
-  const double textX = x + kRadius + width > diagram.right ? x - kRadius - width : x + kRadius;
-  surface.Text(textX, std::max(y - kRadius - height, diagram.top), text);
+  // The curve rises, so left of the point and above it there is room.
+  const double textX = std::max(x - kRadius - surface.TextWidth(text), diagram.left);
+  surface.Text(textX, std::max(y - kRadius / 2 - surface.TextHeight(), diagram.top), text);
 }
 
 void DrawHint(forms::DrawSurface& surface, const forms::Picture& picture,

@@ -47,7 +47,7 @@ void frmCV::ShowCautions(const valve::Service& service, const valve::SelectedVal
 }
 
 void frmCV::RestoreSizing() {
-  common::Unheard unheard;
+  common::NoMessages unheard;
   try {
     const valve::Service service = ReadProcessInputs();
     const valve::SelectedValve selected = ReadValveInputs();

@@ -72,32 +72,26 @@ std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
 }
 
 void frmCV::AddCV(int row) {
-  shell::TagStore& tags = Space().tags;
-  const auto put = [&](int column, std::string text) {
-    tags.SetText(row, column, std::move(text));
-  };
-  const auto putIndex = [&](int column, const ComboBox& box) {
-    put(column, std::to_string(box.Index()));
-  };
-  for (const auto& [column, box] : EntryColumns()) put(column, box->Text());
-  for (const auto& [column, box] : UnitColumns()) putIndex(column, *box);
-  for (const auto& [column, label] : ResultColumns()) put(column, label->Text());
-  putIndex(kFluid, cbo流体);
-  putIndex(kFlowUnit, FlowUnitBox());
-  putIndex(kDensityUnit, DensityUnitBox());
-  put(kSecondary, secondaryPressure_ ? "True" : "False");
-  put(kPressureKind, lbl差圧.Text());
-  put(kMaker, cboMaker.Text());
-  put(kModel, cboValveModel.Text());
-  put(kFlangeRating, flangeRating_);
-  put(kCharacteristic, cboCharact.Text());
-  putIndex(kCharacteristicIndex, cboCharact);
-  put(kBodySize, cboBodySize.Text());
-  put(kMaterial, cbo配管材質.Text());
-  putIndex(kMaterialIndex, cbo配管材質);
-  put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
-  put(shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
+  RecordWriter record(Space().tags, row);
+  record.PutTexts(EntryColumns());
+  for (const auto& [column, box] : UnitColumns()) record.PutIndex(column, *box);
+  record.PutTexts(ResultColumns());
+  record.PutIndex(kFluid, cbo流体);
+  record.PutIndex(kFlowUnit, FlowUnitBox());
+  record.PutIndex(kDensityUnit, DensityUnitBox());
+  record.PutFlag(kSecondary, secondaryPressure_);
+  record.Put(kPressureKind, lbl差圧.Text());
+  record.Put(kMaker, cboMaker.Text());
+  record.Put(kModel, cboValveModel.Text());
+  record.Put(kFlangeRating, flangeRating_);
+  record.Put(kCharacteristic, cboCharact.Text());
+  record.PutIndex(kCharacteristicIndex, cboCharact);
+  record.Put(kBodySize, cboBodySize.Text());
+  record.Put(kMaterial, cbo配管材質.Text());
+  record.PutIndex(kMaterialIndex, cbo配管材質);
+  record.Put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  Space().tags.tagModified = true;
 }
 
 void frmCV::GetCV(int row) {
@@ -106,10 +100,7 @@ void frmCV::GetCV(int row) {
   ClearResults();
   GetSelections(record);
   GetValve(record);
-  // The wall's weight stands behind its material, whose choice would have worked it out anew.
-  for (const auto& [column, box] : EntryColumns()) {
-    box->SetText(record[static_cast<std::size_t>(column)]);
-  }
+  GetEntries(record);
   StoreEntries();
   GetResults(record);
 }
@@ -143,6 +134,13 @@ void frmCV::GetValve(const shell::TagRow& record) {
   lblフランジ規格.SetText(flangeRating_);
 }
 
+/// After the selections: a maker, a model or a material would fill fields.
+void frmCV::GetEntries(const shell::TagRow& record) {
+  for (const auto& [column, box] : EntryColumns()) {
+    box->SetText(record[static_cast<std::size_t>(column)]);
+  }
+}
+
 void frmCV::GetResults(const shell::TagRow& record) {
   const Quiet quiet(*this);
   for (const auto& [column, label] : ResultColumns()) {
@@ -150,7 +148,12 @@ void frmCV::GetResults(const shell::TagRow& record) {
   }
   lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
   Space().calcDone = !lblISA計算Cv.Text().empty();
-  if (!lblSizingCv.Text().empty()) RestoreSizing();
+  if (!lblSizingCv.Text().empty()) {
+    RestoreSizing();
+    // It reads as a calculation does, which fills defaults in; what was stored holds.
+    GetValve(record);
+    GetEntries(record);
+  }
   pic特性.Redraw();
 }
 

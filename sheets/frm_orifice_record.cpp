@@ -35,32 +35,26 @@ enum Column {
 }  // namespace
 
 void frmOrifice::AddOrifice(int row) {
-  shell::TagStore& tags = Space().tags;
-  const auto put = [&](int column, std::string text) {
-    tags.SetText(row, column, std::move(text));
-  };
-  const auto putIndex = [&](int column, const ComboBox& box) {
-    put(column, std::to_string(box.Index()));
-  };
-  for (const auto& [column, box] : EntryColumns()) put(column, box->Text());
-  for (const auto& [column, label] : ResultColumns()) put(column, label->Text());
-  putIndex(kElementType, cbo絞り機構種類);
-  putIndex(kFluid, cbo流体);
-  putIndex(kFlowUnit, FlowUnitBox());
-  putIndex(kPressureUnit, cbo圧力単位);
-  putIndex(kTemperatureUnit, cbo温度単位);
-  putIndex(kDensityUnit, DensityUnitBox());
-  putIndex(kViscosityUnit, cbo粘性係数単位);
-  put(kWetBase, base.optWetBase.Checked() ? "True" : "False");
-  putIndex(kSaturationUnit, humidity.cbo飽和水蒸気圧単位);
-  putIndex(kDifferentialUnit, cbo設計差圧単位);
-  put(kUnused1, "");
-  put(kOperatingDensity, NumberText(context_.rho));
-  put(kNormalDensity, NumberText(normalDensity_));
-  put(kEquationEdition, equationEdition_);
-  put(kUnused2, "");
-  put(shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
+  RecordWriter record(Space().tags, row);
+  record.PutTexts(EntryColumns());
+  record.PutTexts(ResultColumns());
+  record.PutIndex(kElementType, cbo絞り機構種類);
+  record.PutIndex(kFluid, cbo流体);
+  record.PutIndex(kFlowUnit, FlowUnitBox());
+  record.PutIndex(kPressureUnit, cbo圧力単位);
+  record.PutIndex(kTemperatureUnit, cbo温度単位);
+  record.PutIndex(kDensityUnit, DensityUnitBox());
+  record.PutIndex(kViscosityUnit, cbo粘性係数単位);
+  record.PutFlag(kWetBase, base.optWetBase.Checked());
+  record.PutIndex(kSaturationUnit, humidity.cbo飽和水蒸気圧単位);
+  record.PutIndex(kDifferentialUnit, cbo設計差圧単位);
+  record.Put(kUnused1, "");
+  record.Put(kOperatingDensity, NumberText(context_.rho));
+  record.Put(kNormalDensity, NumberText(normalDensity_));
+  record.Put(kEquationEdition, equationEdition_);
+  record.Put(kUnused2, "");
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  Space().tags.tagModified = true;
 }
 
 std::vector<std::pair<int, forms::Control*>> frmOrifice::EntryColumns() {

@@ -211,8 +211,14 @@ void ProcessSheet::ShowUnitsOfPhase() {
   if (fields_.deviation != nullptr) SwitchField(*fields_.deviation, IsGas());
   if (fields_.kappa != nullptr) SwitchField(*fields_.kappa, IsGas() || IsSteam());
   // A pressure left over from a liquid would be taken for one of the gas.
-  if (fields_.vapour != nullptr) SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
-  if (fields_.critical != nullptr) SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
+  if (fields_.vapour != nullptr) {
+    SwitchField(fields_.vapour->txt飽和蒸気圧, IsLiquid());
+    fields_.vapour->cbo飽和蒸気圧単位.SetEnabled(IsLiquid());
+  }
+  if (fields_.critical != nullptr) {
+    SwitchField(fields_.critical->txt臨界圧力, IsLiquid());
+    fields_.critical->cbo臨界圧力単位.SetEnabled(IsLiquid());
+  }
   show(cbo流量単位L, cbo流量単位G, cbo流量単位S);
   show(cbo密度単位L, cbo密度単位G, cbo密度単位S);
   if (fields_.secondFlowUnit != nullptr) fields_.secondFlowUnit->SetText(FlowUnitBox().Text());
@@ -324,8 +330,10 @@ void ProcessSheet::StoreEntries() {
   process.temperatureUnit = cbo温度単位.Index();
   process.densityUnit = DensityUnitBox().Index();
   process.viscosityUnit = cbo粘性係数単位.Index();
-  process.pressureAbs = data::PressureToAbsolute(value(&txt圧力), process.pressureUnit);
-  process.temperatureC = data::TemperatureToCelsius(process, value(&txt温度));
+  process.pressureAbs =
+      Quietly([&] { return data::PressureToAbsolute(value(&txt圧力), process.pressureUnit); });
+  process.temperatureC =
+      Quietly([&] { return data::TemperatureToCelsius(process, value(&txt温度)); });
   process.temperatureK = process.temperatureC + 273.15;
   process.compressibilityZ =
       IsGas() && fields_.deviation != nullptr ? value(fields_.deviation) : Real(1);
@@ -354,8 +362,10 @@ void ProcessSheet::StoreHumidity() {
   process.relativeHumidity =
       Quietly([&] { return common::Single(Val(fields.txt相対湿度.Text())); });
   process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
-  process.saturationPressure = data::VapourPressureToAbsolute(
-      Quietly([&] { return Val(fields.txt飽和水蒸気圧.Text()); }), process.saturationPressureUnit);
+  process.saturationPressure = Quietly([&] {
+    return data::VapourPressureToAbsolute(Val(fields.txt飽和水蒸気圧.Text()),
+                                          process.saturationPressureUnit);
+  });
   if (fields_.base != nullptr && fields_.base->optDryBase.Checked()) {
     process.flowBasis = data::kDryBase;
   }

@@ -162,10 +162,12 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   /// Fills a list and selects its first entry, if it has one.
   static void FillList(ComboBox& box, const std::vector<std::string>& items);
 
+  /// Shows the unit selectors of the phase and switches the fields that depend on it.
+  virtual void ShowUnitsOfPhase();
+
  private:
   void cbo流体_Click();
   void cbo流量単位_Click();
-  void ShowUnitsOfPhase();
   void SwitchHumidity();
   void UpdateFluidList();
   void StoreHumidity();

@@ -15,7 +15,10 @@
 #include "sheets/frm_properties.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_tag_list.h"
+#include "sheets/frm_te.h"
+#include "sheets/frm_tw.h"
 #include "sheets/small_dialogues.h"
+#include "sheets/thermowell_dialogues.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 
@@ -37,10 +40,13 @@ void Workbench::ProvideForms() {
   provide("frmOrifice", std::type_identity<frmOrifice>());
   provide("frmCV", std::type_identity<frmCV>());
   provide(frmCvSet::kName, std::type_identity<frmCvSet>());
+  provide("frmTW", std::type_identity<frmTW>());
+  provide(frm形状係数::kName, std::type_identity<frm形状係数>());
+  provide(frmTW判定条件::kName, std::type_identity<frmTW判定条件>());
+  provide(frm振動数判定::kName, std::type_identity<frm振動数判定>());
+  provide("frmTE", std::type_identity<frmTE>());
   provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
   provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
-  provide(frmPreview::kName, std::type_identity<frmPreview>());
-  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmRating::kName, std::type_identity<frmRating>());
   provide(frm本山微少弁::kName, std::type_identity<frm本山微少弁>());
   provide(frm山武微少弁::kName, std::type_identity<frm山武微少弁>());
@@ -50,6 +56,8 @@ void Workbench::ProvideForms() {
   provide("frmEditPropData", std::type_identity<frmEditPropData>());
   provide("frm物性", std::type_identity<frm物性>());
   provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
+  provide(frmPreview::kName, std::type_identity<frmPreview>());
+  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());

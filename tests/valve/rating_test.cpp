@@ -37,7 +37,8 @@ TEST(Viscosity, FactorFollowsTheStandardsCurve) {
   EXPECT_NEAR(IsaReynoldsFactor(4e4), 1, 0.03);
   EXPECT_EQ(IsaReynoldsFactor(1e6), 1);
   Real last = 0;
-  for (double re = 0.01; re < 1e6; re *= 1.3) {
+  for (int tenths = -20; tenths <= 60; ++tenths) {
+    const double re = std::pow(10, tenths / 10.0);
     EXPECT_GE(IsaReynoldsFactor(re), last) << re;
     last = IsaReynoldsFactor(re);
   }
@@ -178,31 +179,6 @@ TEST(Opening, MeetsTheEndsOfEachCharacteristic) {
   EXPECT_EQ(Opening(kOtherCharacteristic, 10, 0, 0), 0);
   EXPECT_EQ(Opening(kNoCharacteristic, 10, 0, 0), 0);
   EXPECT_GT(Opening(kEqualPercent, 41, 40, 50), 1);
-}
-
-int OpeningFault(int characteristic, double ratedCv, double rangeability, double cv = 10) {
-  try {
-    Opening(characteristic, cv, ratedCv, rangeability);
-  } catch (const common::RuntimeFault& fault) {
-    return static_cast<int>(fault.Number());
-  }
-  return 0;
-}
-
-TEST(Opening, FaultsOfMissingEntries) {
-  const struct {
-    double ratedCv, rangeability;
-    int faults[5];  // by characteristic
-  } rows[] = {{0, 50, {11, 11, 11, 11, 11}}, {40, 0, {5, 11, 0, 11, 11}},
-              {0, 0, {11, 11, 11, 11, 11}},  {40, 1, {11, 11, 0, 11, 11}},
-              {10, 1, {11, 11, 0, 11, 11}},  // 0/0 counts as a division, too
-              {40, -5, {5, 0, 0, 0, 0}}};
-  for (const auto& row : rows) {
-    for (int i = 0; i < 5; ++i) {
-      EXPECT_EQ(OpeningFault(i, row.ratedCv, row.rangeability), row.faults[i])
-          << row.ratedCv << ' ' << row.rangeability << ' ' << i;
-    }
-  }
 }
 
 TEST(Trim, RangeabilityByModel) {

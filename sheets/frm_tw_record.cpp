@@ -1,0 +1,136 @@
+// The tag record of the thermowell sheet.
+
+#include <algorithm>
+
+#include "common/number.h"
+#include "sheets/frm_tw.h"
+#include "sheets/record_fields.h"
+
+namespace sheets {
+
+namespace {
+
+using common::At;
+using common::Val;
+
+/// Columns of the record that are not in the tables below.
+enum Column { kFlowUnit = 14, kDensityUnit = 8, kMaterial = 16, kMaterialText = 17, kMark = 49 };
+
+/// Records marked older have other columns from 28 on, which reading a file empties.
+constexpr const char* kVersion = "Ver 2.2";
+
+bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
+
+}  // namespace
+
+std::vector<std::pair<int, forms::Control*>> frmTW::EntryColumns() {
+  return {{0, &txtTagNo},       {1, &txt用途},        {3, &txt圧力},        {5, &txt温度},
+          {7, &txt密度},        {9, &txt粘性係数},    {12, &txt配管内径},   {13, &txt流量},
+          {15, &txt攪拌槽内径}, {18, &txt保護管密度}, {19, &txtヤング率},   {21, &txt許容応力},
+          {23, &txt先端外径},   {24, &txt根元外径},   {25, &txt保護管内径}, {26, &txt保護管長},
+          {27, &txt挿入長},     {28, &txtWellT},      {29, &txt臨界減衰率}, {30, &txt応力集中係数}};
+}
+
+std::vector<std::pair<int, ComboBox*>> frmTW::SelectionColumns() {
+  return {{2, &cbo流体},
+          {11, &cbo設置形式},
+          {4, &cbo圧力単位},
+          {6, &cbo温度単位},
+          {kDensityUnit, &DensityUnitBox()},
+          {10, &cbo粘性係数単位},
+          {kFlowUnit, &FlowUnitBox()},
+          {20, &cboヤング率単位},
+          {22, &cbo許容応力単位}};
+}
+
+std::vector<std::pair<int, Label*>> frmTW::ResultColumns() {
+  return {{31, &lbl流速R},
+          {32, &lblレイノルズ数R},
+          {33, &lblストローハル数},
+          {34, &lblカルマン渦周波数R},
+          {36, &lbl固有振動数},
+          {37, &lblVr},
+          {38, &lblCn},
+          {40, &lbl同期振動判定},
+          {41, &lbl定常抗力},
+          {43, &lbl定常抗力判定},
+          {44, &lbl励振力},
+          {46, &lbl励振力判定}};
+}
+
+std::vector<std::pair<int, Label*>> frmTW::ColourColumns() {
+  return {
+      {35, &lbl固有振動数}, {39, &lbl同期振動判定}, {42, &lbl定常抗力判定}, {45, &lbl励振力判定}};
+}
+
+void frmTW::addTW(int row) {
+  shell::TagStore& tags = Space().tags;
+  for (const auto& [column, box] : EntryColumns()) tags.SetText(row, column, box->Text());
+  for (const auto& [column, box] : SelectionColumns()) {
+    tags.SetText(row, column, std::to_string(box->Index()));
+  }
+  tags.SetText(row, kMaterial, std::to_string(cbo保護管材質.Index()));
+  tags.SetText(row, kMaterialText, cbo保護管材質.Text());
+  for (const auto& [column, label] : ResultColumns()) tags.SetText(row, column, label->Text());
+  for (const auto& [column, label] : ColourColumns()) {
+    tags.SetText(row, column, std::to_string(label->ForeColor()));
+  }
+  tags.SetText(row, kMark, kVersion);
+  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
+  tags.tagModified = true;
+}
+
+/// What was stored holds: nothing is looked up and no row emptied while it is written. The phase
+/// alone fires its event, because an open fluid list follows it.
+void frmTW::GetTW(int row) {
+  const shell::TagRow record = Space().tags.Row(row);
+  if (At(record, shell::kKindColumn) != kKind) return;
+  filledTemperature_ = TemperatureEntry();
+  Select(cbo流体, At(record, 2));
+  {
+    const Quiet quiet(*this);
+    for (const auto& [column, box] : SelectionColumns()) Select(*box, At(record, column));
+    ShowInstallation();
+    GetMaterial(record);
+    for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
+    filledTemperature_ = TemperatureEntry();
+    ClearResults();
+    GetResults(record);
+  }
+  StoreEntries();
+}
+
+/// A material that the database has lost or renamed keeps the name under which it was stored.
+void frmTW::GetMaterial(const shell::TagRow& record) {
+  const int index = common::IntIndex(Val(At(record, kMaterial)));
+  const std::string& name = At(record, kMaterialText);
+  if (index >= 0 && index < cbo保護管材質.Count() &&
+      cbo保護管材質.Items()[static_cast<std::size_t>(index)] == name) {
+    cbo保護管材質.SetIndex(index);
+  } else {
+    cbo保護管材質.SetText(name);
+  }
+}
+
+void frmTW::GetResults(const shell::TagRow& record) {
+  for (const auto& [column, label] : ResultColumns()) label->SetText(At(record, column));
+  for (const auto& [column, label] : ColourColumns()) {
+    label->SetForeColor(common::IntIndex(Val(At(record, column))));
+  }
+  Space().calcDone = !IsBlank(lbl流速R.Text());
+  if (!Space().calcDone) return;
+  try {
+    ReadConditions();
+    ReadDensities();
+    ReadFlow();
+    ReadWell();
+    common::NoMessages silent;
+    temperature::AnalyseThermowell(well_, silent, findings_);
+    ShowNotes();
+    PrepareChart();
+  } catch (const common::RuntimeFault&) {
+    // A record whose entries cannot be calculated shows its results without notes and diagram.
+  }
+}
+
+}  // namespace sheets

@@ -1,0 +1,112 @@
+#include "temperature/sensor.h"
+
+#include <gtest/gtest.h>
+
+#include "common/file.h"
+#include "common/number.h"
+#include "tests/support/scripted_messages.h"
+
+namespace temperature {
+namespace {
+
+enum Kind { kB, kR, kS, kN, kK, kE, kJ, kT, kPt, kJPt };
+
+class SensorTest : public testing::Test {
+ protected:
+  SensorTest() {
+    EXPECT_TRUE(
+        ReadSensorTable(common::ReadFile(common::JoinPath(ZEPHA_BUILD_DIR, "TE.dat")), table));
+  }
+
+  double Output(int kind, double t) {
+    const auto output = CalcSensorOutput(table, kind, t, messages, "");
+    EXPECT_TRUE(output) << kind << " " << t;
+    return output.value_or(0);
+  }
+
+  SensorTable table;
+  tests::ScriptedMessages messages;
+};
+
+// Values of the reference tables as printed: NIST ITS-90 Thermocouple Database (= IEC 60584-1,
+// JIS C 1602-1995) in uV, IEC 60751 = JIS C 1604-1997 in ohm, JIS C 1604-1989. What is shown has
+// their digits. Of type K, also where a sum that is 0.02 uV off would show another digit.
+TEST_F(SensorTest, AgreesWithThePublishedTables) {
+  const struct {
+    int kind;
+    double t, output;
+  } rows[] = {
+      {kB, 600, 1792},     {kB, 1000, 4834},   {kB, 1820, 13820},  {kR, -50, -226},
+      {kR, 100, 647},      {kR, 1000, 10506},  {kR, 1700, 20222},  {kS, -50, -236},
+      {kS, -23, -117},     {kS, 37, 216},      {kS, 255, 1918},    {kS, 630, 5546},
+      {kS, 1064, 10332},   {kS, 1065, 10344},  {kS, 1333, 13559},  {kN, -270, -4345},
+      {kN, -200, -3990},   {kN, 100, 2774},    {kN, 1000, 36256},  {kK, -200, -5891},
+      {kK, -100, -3554},   {kK, 0, 0},         {kK, 33, 1326},     {kK, 100, 4096},
+      {kK, 127, 5206},     {kK, 155, 6339},    {kK, 173, 7060},    {kK, 186, 7579},
+      {kK, 208, 8458},     {kK, 499, 20602},   {kK, 500, 20644},   {kK, 501, 20687},
+      {kK, 777, 32330},    {kK, 1234, 50070},  {kK, 1372, 54886},  {kE, -200, -8825},
+      {kE, 100, 6319},     {kE, 1000, 76373},  {kJ, -210, -8095},  {kJ, 100, 5269},
+      {kJ, 760, 42919},    {kJ, 1200, 69553},  {kT, -200, -5603},  {kT, 100, 4279},
+      {kT, 400, 20872},    {kPt, -200, 18.52}, {kPt, -100, 60.26}, {kPt, 0, 100},
+      {kPt, 100, 138.51},  {kPt, 300, 212.05}, {kPt, 850, 390.48}, {kJPt, 0, 100},
+      {kJPt, 100, 139.16},
+  };
+  for (const auto& row : rows) {
+    const int digits = IsResistance(row.kind) ? 2 : 0;
+    EXPECT_EQ(common::RoundDigits(Output(row.kind, row.t), digits), row.output)
+        << table.sensorName[static_cast<std::size_t>(row.kind)] << " " << row.t;
+  }
+}
+
+TEST_F(SensorTest, TemperatureAndOutputAgreeBothWays) {
+  for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
+    const double low = kind == kB ? 60 : static_cast<double>(common::At(table.rangeLow, kind)[0]);
+    const double high = common::At(table.rangeHigh, kind)[2];
+    for (int i = 0; i <= 40; ++i) {
+      const double t = low + (high - low) * i / 40;
+      // Near -270 degC the outputs hardly change, and 0.001 uV is more than the bounds' distance.
+      const double tolerance = t < -250 ? 0.5 : 0.01;
+      EXPECT_NEAR(CalcTemperature(table, kind, Output(kind, t)), t, kind == kJPt ? 0.05 : tolerance)
+          << table.sensorName[static_cast<std::size_t>(kind)];
+    }
+  }
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(SensorTest, LimitsAreInsideAndBeyondThemItSaysSo) {
+  for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
+    const Real low = common::At(table.rangeLow, kind)[0];
+    const Real high = common::At(table.rangeHigh, kind)[2];
+    Output(kind, low);
+    EXPECT_GT(Output(kind, high), 1);
+    EXPECT_TRUE(messages.shown.empty());
+    EXPECT_FALSE(CalcSensorOutput(table, kind, low - 0.001, messages, "計器目盛較正"));
+    EXPECT_FALSE(CalcSensorOutput(table, kind, high + 0.001, messages, "計器目盛較正"));
+    EXPECT_EQ(messages.Texts(),
+              (std::vector<std::string>{"温度が低すぎます。", "温度が高すぎます。"}));
+    EXPECT_EQ(messages.shown[0].title, "計器目盛較正");
+    messages.shown.clear();
+  }
+}
+
+TEST_F(SensorTest, OutputBeyondTheTableGivesItsLimit) {
+  EXPECT_NEAR(CalcTemperature(table, kK, 99999), 1372, 0.005);
+  EXPECT_NEAR(CalcTemperature(table, kK, -7000), -270, 0.005);
+  // The upper one of the two temperatures of type B.
+  EXPECT_NEAR(CalcTemperature(table, kB, -1), 37.5, 0.1);
+}
+
+// IPTS-68 (text of 1975, equation 11): the correction vanishes at its four fixed points and is at
+// most 0.047 K between.
+TEST_F(SensorTest, OldScaleMeetsTheNewOneAtItsFixedPoints) {
+  for (const double t : {0.0, 100.0, 419.58, 630.74}) EXPECT_NEAR(OldScaleTemperature(t), t, 1e-9);
+  EXPECT_NEAR(OldScaleTemperature(300) + ScaleDifference(OldScaleTemperature(300)), 300, 1e-3);
+  EXPECT_NE(OldScaleTemperature(300), 300);
+}
+
+TEST_F(SensorTest, UnknownKindIsAFault) {
+  EXPECT_THROW(CalcSensorOutput(table, 10, 0, messages, ""), common::RuntimeFault);
+}
+
+}  // namespace
+}  // namespace temperature
