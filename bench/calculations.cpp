@@ -4,6 +4,7 @@
 #include "data/steam.h"
 #include "data/units.h"
 #include "flow/differential_pressure.h"
+#include "piping/pressure_loss.h"
 #include "shell/tables.h"
 
 namespace {
@@ -110,6 +111,26 @@ void SteamDensity(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SteamDensity);
+
+/// 2 t/h of steam or 1.5 t/h of air through 200 m of 4 in pipe.
+void LineLoss(benchmark::State& state, int phase) {
+  piping::Line line;
+  line.fluidPhase = phase;
+  line.pressureAbs = phase == data::kSteam ? 10.2 : 6.13;
+  line.temperatureK = phase == data::kSteam ? 473.15 : 293.15;
+  line.densityFlow = phase == data::kSteam ? 4.85 : 7.14;
+  line.viscosityCp = 0.0159;
+  line.massFlow = phase == data::kSteam ? 2000 : 1500;
+  line.innerDiameter = 102.3;
+  line.roughness = 0.05;
+  line.pipeLength = 200;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(line);
+    benchmark::DoNotOptimize(piping::CalculateLineLoss(line));
+  }
+}
+BENCHMARK_CAPTURE(LineLoss, steam, data::kSteam);
+BENCHMARK_CAPTURE(LineLoss, gas, data::kGas);
 
 void LoadAllDataFiles(benchmark::State& state) {
   for (auto _ : state) {

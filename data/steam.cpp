@@ -135,11 +135,15 @@ Real SaturationTemperature(const ProcessState& state) {
 }
 
 Real SteamDensity(const ProcessState& state) {
-  const Real p = state.pressureAbs;
-  const Real tau = state.temperatureK / 100;
+  return SteamDensity(state.pressureAbs, state.temperatureK);
+}
+
+Real SteamDensity(Real pressureAbs, Real temperatureK) {
+  const Real p = pressureAbs;
+  const Real tau = temperatureK / 100;
   const Real lp = log(p);
   const Real lt = log(tau);
-  const Real v0 = 0.004706 * state.temperatureK / p - 0.668 / pow(tau, Real(2.7)) -
+  const Real v0 = 0.004706 * temperatureK / p - 0.668 / pow(tau, Real(2.7)) -
                   (437 + 63.1 * p) / pow(tau, Real(8.4));
   // -20.4959 stays although ln 1.81e-9, -20.1299, would agree with the exponent's terms: the
   // density then loses below 0.1 % up to 150 kgf/cm2 and 1 % at 220.

@@ -45,6 +45,9 @@ Real SaturationTemperature(const ProcessState& state);
 /// negative densities beyond it.
 Real SteamDensity(const ProcessState& state);
 
+/// The same at a pressure in kgf/cm2 absolute and a temperature in K.
+Real SteamDensity(Real pressureAbs, Real temperatureK);
+
 /// Viscosity of steam at `pressureAbs` and `temperatureC` in mPa s, 4 decimals; from 250 kgf/cm2
 /// on from `densityBase`. The viscosity unit has no effect.
 Real SteamViscosity(const SteamViscosityTable& table, const ProcessState& state);

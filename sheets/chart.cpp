@@ -17,6 +17,10 @@ constexpr double kDotRadius = 65;
 
 constexpr double kFontSize = 8;  // points
 
+// Labels at most along an axis.
+constexpr int kTicksX = 6;
+constexpr int kTicksY = 5;
+
 void SetChartFont(forms::DrawSurface& surface) { surface.SetFont("IPAGothic", kFontSize); }
 
 /// Ticks from the first multiple of the step within an axis on.
@@ -59,13 +63,14 @@ Chart::Chart(forms::DrawSurface& surface, double width, double height, Axis x, A
     : surface_(surface), x_(std::move(x)), y_(std::move(y)) {
   SetChartFont(surface_);
   double labels = 0;
-  for (const double tick : Ticks(y_, 5)) {
+  for (const double tick : Ticks(y_, kTicksY)) {
     labels = std::max(labels, surface_.TextWidth(TickText(tick)));
   }
   const double line = surface_.TextHeight();
   left_ = kMargin + labels + 1.5 * kTickLength;
   right_ = width - 3 * kMargin;
-  top_ = kMargin + 2.4 * line;  // legend and title of the upright axis
+  // Legend and title of the upright axis, clear of a label at its very top.
+  top_ = kMargin + 2.7 * line;
   bottom_ = height - kMargin - 2.2 * line;
   legendAt_ = kMargin;
   DrawAxisX();
@@ -79,7 +84,7 @@ void Chart::DrawAxisX() {
   surface_.SetColor(forms::kBlack);
   surface_.SetLineWidth(0.5);
   const double line = surface_.TextHeight();
-  for (const double tick : Ticks(x_, 6)) {
+  for (const double tick : Ticks(x_, kTicksX)) {
     const std::string text = TickText(tick);
     surface_.Line(X(tick), bottom_, X(tick), bottom_ + kTickLength);
     surface_.Text(X(tick) - surface_.TextWidth(text) / 2, bottom_ + kTickLength, text);
@@ -91,12 +96,12 @@ void Chart::DrawAxisX() {
 void Chart::DrawAxisY() {
   surface_.SetLineWidth(0.5);
   const double line = surface_.TextHeight();
-  for (const double tick : Ticks(y_, 5)) {
+  for (const double tick : Ticks(y_, kTicksY)) {
     const std::string text = TickText(tick);
     surface_.Line(left_ - kTickLength, Y(tick), left_, Y(tick));
     surface_.Text(left_ - 1.5 * kTickLength - surface_.TextWidth(text), Y(tick) - line / 2, text);
   }
-  surface_.Text(kMargin, top_ - 1.2 * line, y_.title);
+  surface_.Text(kMargin, top_ - 1.6 * line, y_.title);
 }
 
 double Chart::X(double value) const {
@@ -107,6 +112,13 @@ double Chart::X(double value) const {
 double Chart::Y(double value) const {
   const double y = bottom_ - (value - y_.low) / (y_.high - y_.low) * (bottom_ - top_);
   return std::clamp(y, top_, bottom_);
+}
+
+void Chart::Grid() {
+  surface_.SetColor(forms::kBlack);
+  surface_.SetLineWidth(0.5);
+  for (const double tick : Ticks(x_, kTicksX)) surface_.DashedLine(X(tick), top_, X(tick), bottom_);
+  for (const double tick : Ticks(y_, kTicksY)) surface_.DashedLine(left_, Y(tick), right_, Y(tick));
 }
 
 void Chart::Curve(const Points& points, forms::Color color, double lineWidth) {
@@ -177,7 +189,7 @@ void Chart::Note(double x, double y, const std::string& text, forms::Color color
   const double width = surface_.TextWidth(text);
   const double line = surface_.TextHeight();
   double atX = X(x) + kTickLength;
-  if (atX + width > right_) atX = X(x) - width - kTickLength;
+  if (side == Side::kLeft || atX + width > right_) atX = X(x) - width - kTickLength;
   const double above = Y(y) - line - kTickLength;
   const double below = Y(y) + kTickLength;
   const bool goesBelow =

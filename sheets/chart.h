@@ -22,6 +22,8 @@ class Chart {
   /// Draws the axes in a picture of width by height twips.
   Chart(forms::DrawSurface& surface, double width, double height, Axis x, Axis y);
 
+  /// Dashed lines at the labels of both axes.
+  void Grid();
   void Curve(const Points& points, forms::Color color, double lineWidth = 2);
   void DashedLine(std::pair<double, double> from, std::pair<double, double> to, forms::Color color);
   /// A level over the whole width.
@@ -33,8 +35,8 @@ class Chart {
   /// A bar along the lower axis.
   void Strip(double from, double to, forms::Color color);
   void Dot(double x, double y, forms::Color color);
-  /// A text beside a point, above or below it, kept within the axes.
-  enum class Side { kAbove, kBelow };
+  /// A text beside a point, kept within the axes: right above it, right below it, or left above it.
+  enum class Side { kAbove, kBelow, kLeft };
   void Note(double x, double y, const std::string& text, forms::Color color,
             Side side = Side::kAbove);
   /// An entry of the legend above the axes, from left to right.

@@ -147,7 +147,7 @@ PropertyCurve frmEditPropData::CurveOf(int plot) const {
   curve.points = data::PropertyOverRange(tables.liquids, tables.gases, fluid_, shown.property);
   const std::string& code = Cell(data::FieldsOf(shown.property).code);
   const bool hasEquation = code.find_first_not_of(" 0") != std::string::npos;
-  curve.hint = hasEquation ? "この式では図を描けません。" : "推算式がありません。";
+  curve.hint = curve.title + (hasEquation ? "：図を描けません" : "：推算式なし");
   return curve;
 }
 

@@ -21,6 +21,12 @@ constexpr const char* kTemperatureFormat = "#,##0.0";
 constexpr const char* kPercent[frmTE::kLines] = {"0",  "10", "20", "30", "40", "50",
                                                  "60", "70", "80", "90", "100"};
 
+/// Temperature at a step of the scale; the end is met exactly, so that no rounding leads out of the
+/// table.
+Real AtStep(Real low, Real high, int step, int steps) {
+  return step == steps ? high : low + ((high - low) / steps) * step;
+}
+
 /// Columns of the record that hold no entry.
 enum Column { kUnit = 6, kSensorKind = 7, kTemperatures = 8, kOutputs = 19, kUnused = 30 };
 
@@ -124,13 +130,14 @@ std::string frmTE::OutputText(Real output) const {
 
 void frmTE::cmd計算_Click() {
   Space().calcFailed = false;
+  Space().calcNote.clear();
   if (!HasData({"TE.dat"})) return;
   ClearCalibration();
   const Real low = Val(txtScale[0].Text());
-  const Real span = Val(txtScale[1].Text()) - low;
-  if (span == 0) return;
+  const Real high = Val(txtScale[1].Text());
+  if (high == low) return;
   for (int i = 0; i < kLines; ++i) {
-    const Real t = low + (span / 10) * i;
+    const Real t = AtStep(low, high, i, kLines - 1);
     lbl温度[i].SetText(Format(t, kTemperatureFormat));
     const std::optional<Real> output =
         temperature::CalcSensorOutput(Sensors(), sensorKind_, t, User(), "計器目盛較正");
@@ -168,17 +175,24 @@ void frmTE::CalcTemperature() {
       Format(temperature::CalcTemperature(Sensors(), sensorKind_, output), kTemperatureFormat));
 }
 
+/// A scale that cannot be drawn, as a record may hold one, has no diagram.
 void frmTE::PrepareChart() {
   constexpr int kPoints = 80;
   characteristic_.clear();
   pic特性.Redraw();
-  const Real low = Val(txtScale[0].Text());
-  const Real span = Val(txtScale[1].Text()) - low;
-  for (int i = 0; i <= kPoints; ++i) {
-    const Real t = low + span * i / kPoints;
-    const auto output = temperature::CalcSensorOutput(Sensors(), sensorKind_, t, User(), "");
-    if (!output) return characteristic_.clear();
-    characteristic_.emplace_back(t, *output);
+  common::NoMessages silent;
+  try {
+    const Real low = Val(txtScale[0].Text());
+    const Real high = Val(txtScale[1].Text());
+    if (high == low) return;
+    for (int i = 0; i <= kPoints; ++i) {
+      const Real t = AtStep(low, high, i, kPoints);
+      const auto output = temperature::CalcSensorOutput(Sensors(), sensorKind_, t, silent, "");
+      if (!output) return characteristic_.clear();
+      characteristic_.emplace_back(t, *output);
+    }
+  } catch (const common::RuntimeFault&) {
+    characteristic_.clear();
   }
 }
 

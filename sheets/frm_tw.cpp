@@ -307,9 +307,10 @@ void frmTW::ReadWell() {
 }
 
 void frmTW::cmd計算_Click() {
-  Space().calcFailed = false;
   Space().calcNote.clear();
-  if (!HasData({"ZephaConvertData.dat"}) || !ReadInputs()) return;
+  Space().calcDone = false;
+  Space().calcFailed = !HasData({"ZephaConvertData.dat"}) || !ReadInputs();
+  if (Space().calcFailed) return;
   ClearResults();
   try {
     Space().calcFailed = !temperature::AnalyseThermowell(well_, User(), findings_);

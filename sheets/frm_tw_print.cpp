@@ -48,9 +48,9 @@ void frmTW::PrintConditions(CalculationPage& page) {
     page.Line("インペラー 直 径 ", txt配管内径.Text(), kMillimetres);
     page.Line("撹 拌 槽  内 径  ", txt攪拌槽内径.Text(), kMillimetres);
   } else {
+    page.Line("流  速（最　大） ", lbl流速R.Text(), "    m/s");
     page.Line("流  量（最  大） ", txt流量.Text(), FlowUnitBox().Text());
     page.Line("配  管  内  径   ", txt配管内径.Text(), kMillimetres);
-    page.Line("流  速（最　大） ", lbl流速R.Text(), "    m/s");
   }
 }
 

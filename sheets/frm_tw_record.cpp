@@ -80,21 +80,24 @@ void frmTW::addTW(int row) {
   tags.tagModified = true;
 }
 
-/// What was stored holds: nothing is looked up and no row emptied while it is written. The phase
-/// alone fires its event, because an open fluid list follows it.
+/// What was stored holds: nothing is looked up and no row emptied while it is written. Phase and
+/// installation fire their events, because an open fluid list and the captions follow them. A
+/// selection that does not exist ends the recall; nothing of the tag before is left to be taken for
+/// a result of this one.
 void frmTW::GetTW(int row) {
   const shell::TagRow record = Space().tags.Row(row);
   if (At(record, shell::kKindColumn) != kKind) return;
+  ClearResults();
   filledTemperature_ = TemperatureEntry();
   Select(cbo流体, At(record, 2));
+  Select(cbo設置形式, At(record, 11));
   {
     const Quiet quiet(*this);
     for (const auto& [column, box] : SelectionColumns()) Select(*box, At(record, column));
-    ShowInstallation();
     GetMaterial(record);
     for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
     filledTemperature_ = TemperatureEntry();
-    ClearResults();
+    ClearResults();  // shows the unit of the stresses
     GetResults(record);
   }
   StoreEntries();

@@ -192,6 +192,23 @@ ComboBox& ProcessSheet::DensityUnitBox() {
   return IsGas() ? cbo密度単位G : IsSteam() ? cbo密度単位S : cbo密度単位L;
 }
 
+void ProcessSheet::FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore) {
+  const std::optional<Real> found = Tables().pipes.InnerDiameter(size.Index(), schedule.Index());
+  if (!found || *found <= 0) {
+    User().Show("該当の配管はありません。");
+    bore.SetText("0");
+    return;
+  }
+  bore.SetText(NumberText(*found));
+}
+
+void ProcessSheet::EmptyTextBoxes() {
+  const Quiet quiet(*this);
+  for (forms::Control* control : Controls()) {
+    if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
+  }
+}
+
 void ProcessSheet::SwitchField(TextBox& box, bool on) {
   box.SetBackColor(on ? forms::kWhite : forms::kButtonFace);
   box.SetEnabled(on);
@@ -277,19 +294,23 @@ void ProcessSheet::ReadConditions() {
   process.compressibilityZ = 1;
 }
 
-bool ProcessSheet::ReadHumidity() {
-  if (!IsGas() || fields_.humidity == nullptr) return true;
+void ProcessSheet::ReadMoisture() {
+  if (!IsGas() || fields_.humidity == nullptr) return;
   data::ProcessState& process = Process();
   const HumidityFields& fields = *fields_.humidity;
   process.relativeHumidity = common::Single(Val(fields.txt相対湿度.Text()));
   if (fields_.base != nullptr) {
     process.flowBasis = fields_.base->optWetBase.Checked() ? data::kWetBase : data::kDryBase;
   }
-  if (process.relativeHumidity == 0) return true;
+  if (process.relativeHumidity == 0) return;
   process.saturationPressureUnit = fields.cbo飽和水蒸気圧単位.Index();
   process.saturationPressure = data::VapourPressureToAbsolute(Val(fields.txt飽和水蒸気圧.Text()),
                                                               process.saturationPressureUnit);
-  if (process.saturationPressure != 0) return true;
+}
+
+bool ProcessSheet::ReadHumidity() {
+  ReadMoisture();
+  if (Process().relativeHumidity == 0 || Process().saturationPressure != 0) return true;
   User().Show("飽和蒸気圧力が入力されていません");
   return false;
 }

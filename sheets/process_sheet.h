@@ -129,6 +129,9 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   /// The selector of the current phase.
   ComboBox& FlowUnitBox();
   ComboBox& DensityUnitBox();
+  /// The selectors of all phases in one place.
+  Cell FlowUnits() { return Cell::OneOf({&cbo流量単位L, &cbo流量単位G, &cbo流量単位S}); }
+  Cell DensityUnits() { return Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S}); }
   data::ProcessState& Process() const { return Space().process; }
   const shell::Tables& Tables() const { return Space().tables; }
 
@@ -139,6 +142,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void ReadConditions();
   /// Reads the humidity and what depends on it, with its messages; false when it refuses.
   bool ReadHumidity();
+  /// The same without a check: an empty saturation pressure counts as 0.
+  void ReadMoisture();
   /// Deviation factor and specific heat ratio; an empty one becomes 1 or 1.4 with a message.
   void ReadDeviation(const std::string& name);
   void ReadKappa();
@@ -155,6 +160,11 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void Watch(ComboBox& box);
   /// Makes a double click on the field and a click on its label run the same automatic entry.
   void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
+
+  /// Fills a pipe bore from the pipe table, or says that there is no such pipe.
+  void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
+  /// Empties every field of the sheet, without an event.
+  void EmptyTextBoxes();
 
   /// A field that is off shows so and loses its text.
   static void SwitchField(TextBox& box, bool on);

@@ -2,98 +2,56 @@
 
 #include <algorithm>
 
-#include "common/number.h"
+#include "common/real.h"
+#include "sheets/chart.h"
 
 namespace sheets {
 
 namespace {
 
-using common::Real;
+/// Beyond it the labels of an axis would be as long as the axis.
+constexpr double kLargest = 1e9;
 
-/// A scale between two values, over a stretch of the picture.
-class Scale {
- public:
-  Scale(Real first, Real last, double from, double to, bool logarithmic = false)
-      : logarithmic_(logarithmic), first_(Place(first)), last_(Place(last)), from_(from), to_(to) {}
-
-  double At(Real value) const {
-    const Real length = last_ - first_;
-    // A constant stands in the middle.
-    const Real share = length > 0 ? (Place(value) - first_) / length : Real(0.5);
-    return from_ + share * (to_ - from_);
-  }
-
- private:
-  Real Place(Real value) const { return logarithmic_ ? common::log(value) : value; }
-
-  bool logarithmic_;
-  Real first_, last_;
-  double from_, to_;
-};
-
-/// A number with about four digits.
-std::string ScaleText(Real value) {
-  constexpr int kDigits = 4;
-  int decimals = kDigits - 1;
-  for (Real limit = 10; limit <= common::abs(value) && decimals > 0; limit *= 10) --decimals;
-  if (common::abs(value) < 0.1) decimals = kDigits + 1;
-  return common::NumberText(common::RoundDigits(value, decimals));
-}
-
-void DrawCurve(forms::DrawSurface& surface, const PropertyCurve& curve, double width,
-               double height) {
-  const auto& points = curve.points;
+/// The values between the axis' ends with a little room; a constant stands in the middle.
+Chart::Axis ValueAxis(const std::string& title, const Chart::Points& points) {
+  constexpr double kRoom = 0.05;
   const auto [least, largest] = std::minmax_element(
       points.begin(), points.end(),
       [](const auto& one, const auto& other) { return one.second < other.second; });
-  const std::string leastText = ScaleText(least->second);
-  const std::string largestText = ScaleText(largest->second);
-  const std::string lowText = ScaleText(points.front().first) + "℃";
-  const std::string highText = ScaleText(points.back().first) + "℃";
-  const double letter = surface.TextHeight();
-  const double gap = 0.4 * letter;
-  const double top = 1.5 * letter;
-  const double bottom = height - 1.3 * letter;
-  const double left =
-      std::max(surface.TextWidth(leastText), surface.TextWidth(largestText)) + 2 * gap;
-  const double right = width - gap;
-  const bool logarithmic = curve.logarithmic && least->second > 0;
-  const Scale temperatures(points.front().first, points.back().first, left, right);
-  const Scale values(least->second, largest->second, bottom - letter, top + letter, logarithmic);
+  const double size = std::max(-least->second, largest->second);
+  const double range = largest->second - least->second;
+  const double room = range > 1e-6 * size ? kRoom * range : std::max(0.1 * size, 1e-6);
+  return {title, least->second - room, largest->second + room};
+}
 
-  surface.SetLineWidth(1);
-  surface.Rectangle(left, top, right, bottom);
-  surface.Text(left, bottom + gap / 2, lowText);
-  surface.Text(right - surface.TextWidth(highText), bottom + gap / 2, highText);
-  surface.SetLineWidth(0.5);
-  for (const auto& [value, text] :
-       {std::pair(least->second, leastText), std::pair(largest->second, largestText)}) {
-    const double y = values.At(value);
-    surface.Text(left - surface.TextWidth(text) - gap, y - letter / 2, text);
-    surface.DashedLine(left, y, right, y);
-  }
-
-  std::vector<std::pair<double, double>> line;
-  for (const auto& [x, y] : points) line.emplace_back(temperatures.At(x), values.At(y));
-  surface.SetColor(forms::kBlue);
-  surface.SetLineWidth(1.5);
-  surface.Polyline(line);
+bool IsDrawable(const Chart::Points& points) {
+  return points.size() > 1 && points.front().first < points.back().first &&
+         std::all_of(points.begin(), points.end(), [](const auto& point) {
+           return std::max(point.second, -point.second) < kLargest;
+         });
 }
 
 }  // namespace
 
 void DrawPropertyCurve(forms::DrawSurface& surface, const forms::Picture& picture,
                        const PropertyCurve& curve) {
-  surface.SetColor(forms::kBlack);
-  surface.Text(0, 0, curve.logarithmic ? curve.title + "（対数目盛）" : curve.title);
-  const bool drawable =
-      curve.points.size() > 1 && curve.points.front().first < curve.points.back().first;
-  if (drawable) {
-    DrawCurve(surface, curve, picture.Width(), picture.Height());
+  if (!IsDrawable(curve.points)) {
+    DrawEmptyChart(surface, picture.Width(), picture.Height(), curve.hint);
     return;
   }
-  surface.Text((picture.Width() - surface.TextWidth(curve.hint)) / 2,
-               (picture.Height() - surface.TextHeight()) / 2, curve.hint);
+  Chart::Points points = curve.points;
+  std::string title = curve.title;
+  const bool logarithmic =
+      curve.logarithmic &&
+      std::all_of(points.begin(), points.end(), [](const auto& point) { return point.second > 0; });
+  if (logarithmic) {
+    title = "log10 " + title;
+    for (auto& [x, y] : points) y = common::log(common::Real(y)) / common::log(common::Real(10));
+  }
+  Chart chart(surface, picture.Width(), picture.Height(),
+              {"温度 ℃", points.front().first, points.back().first}, ValueAxis(title, points));
+  chart.Grid();
+  chart.Curve(points, forms::kBlue);
 }
 
 }  // namespace sheets

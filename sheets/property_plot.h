@@ -14,14 +14,13 @@ struct PropertyCurve {
   std::string title;
   /// Points at rising temperatures in degC; empty where there is nothing to draw.
   std::vector<std::pair<double, double>> points;
-  /// What to say instead of an empty curve.
+  /// What to say where there is no curve.
   std::string hint;
-  /// The values stand on a logarithmic scale, where all are positive.
+  /// The values span powers of ten: their logarithms are drawn, where all are positive.
   bool logarithmic = false;
 };
 
-/// Draws a curve in a frame that fills the picture, with the ends of the temperature and the least
-/// and the largest value.
+/// Draws a curve in a diagram that fills the picture.
 void DrawPropertyCurve(forms::DrawSurface& surface, const forms::Picture& picture,
                        const PropertyCurve& curve);
 

@@ -10,6 +10,7 @@
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_pipe_weight.h"
+#include "sheets/frm_press_loss.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_properties.h"
@@ -17,6 +18,7 @@
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_te.h"
 #include "sheets/frm_tw.h"
+#include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
 #include "sheets/thermowell_dialogues.h"
 #include "shell/lifecycle.h"
@@ -38,6 +40,9 @@ void Workbench::ProvideForms() {
     space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
+  provide("frmPressLoss", std::type_identity<frmPressLoss>());
+  provide(frmRoughness::kName, std::type_identity<frmRoughness>());
+  provide(frmInletType::kName, std::type_identity<frmInletType>());
   provide("frmCV", std::type_identity<frmCV>());
   provide(frmCvSet::kName, std::type_identity<frmCvSet>());
   provide("frmTW", std::type_identity<frmTW>());

@@ -35,6 +35,9 @@ TEST_F(SensorSheetTest, TabulatesTheScale) {
   EnterScale("100", "-200");  // a falling scale
   EXPECT_EQ(Text("lblTE出力(0)"), "138.51");
   EXPECT_EQ(Text("lblTE出力(10)"), "18.52");
+  ChooseKind(0);
+  EnterScale("0.7", "1820");  // (1820 - 0.7) / 10 x 10 + 0.7 is above 1820 in doubles
+  EXPECT_EQ(Text("lblTE出力(10)"), "13,820");
   EnterScale("50", "50");
   EXPECT_EQ(Text("lbl温度(0)"), "");
   EXPECT_EQ(TakeTexts(), Texts());
@@ -113,6 +116,12 @@ TEST_F(SensorSheetTest, RecordBringsEverythingBack) {
   EXPECT_EQ(Text("txtMaker"), "計器製作所");
   EXPECT_EQ(Text("lblTE出力(5)"), "139.16");
   EXPECT_EQ(Text("lblEMF単位"), "Ω");
+  // What cannot be drawn has no diagram, and recalling it tells nothing.
+  for (const char* limit : {"-300", "1e400", "200"}) {
+    tags.SetText(1, 4, limit);
+    sheet.GetFrom(1);
+    EXPECT_EQ(Text("lblTE出力(5)"), "139.16") << limit;
+  }
   EXPECT_EQ(TakeTexts(), Texts());
 }
 

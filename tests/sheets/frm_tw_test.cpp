@@ -252,6 +252,15 @@ TEST_F(ThermowellSheetTest, RecordBringsEverythingBack) {
   EXPECT_EQ(Colour("lbl同期振動判定"), forms::kBlack);
   EXPECT_FALSE(bench.Space().calcDone);
   EXPECT_EQ(TakeTexts(), Texts());
+
+  // A selection that does not exist: no result of the tag before stays, and the captions fit.
+  sheet.GetFrom(2);
+  tags.SetText(1, 11, "1");
+  tags.SetText(1, 4, "99");
+  EXPECT_THROW(sheet.GetFrom(1), common::RuntimeFault);
+  EXPECT_EQ(Text("lbl励振力"), "");
+  EXPECT_EQ(Text("lbl流量"), "攪拌機 回転数");
+  EXPECT_FALSE(bench.Space().calcDone);
 }
 
 // Kt of the notch: x = 2 x 1.1 / 22 = 0.1 gives 1 / (0.0013035 - 0.025204 + 0.18512 + 0.286).

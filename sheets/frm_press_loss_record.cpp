@@ -1,0 +1,115 @@
+// The tag record of the pressure loss sheet.
+
+#include "sheets/frm_press_loss.h"
+#include "sheets/record_fields.h"
+
+namespace sheets {
+
+namespace {
+
+using common::At;
+
+/// Columns of the record that are read or written by themselves.
+enum Column {
+  kFluid = 2,
+  kFirstFitting = 22,
+  kUnused = 38,
+  kLossUnit = 49,
+};
+
+}  // namespace
+
+std::vector<std::pair<int, ComboBox*>> frmPressLoss::SelectionColumns() {
+  return {{kFluid, &cbo流体},
+          {4, &FlowUnitBox()},
+          {6, &cbo圧力単位},
+          {8, &cbo温度単位},
+          {10, &DensityUnitBox()},
+          {12, &cbo粘性係数単位},
+          {15, &humidity.cbo飽和水蒸気圧単位},
+          {17, &cbo配管呼称径},
+          {18, &cboSchedule}};
+}
+
+std::vector<std::pair<int, TextBox*>> frmPressLoss::EntryColumns() {
+  std::vector<std::pair<int, TextBox*>> columns = {{0, &txtTagNo},
+                                                   {1, &txt用途},
+                                                   {3, &txt流量},
+                                                   {5, &txt圧力},
+                                                   {7, &txt温度},
+                                                   {9, &txt密度},
+                                                   {11, &txt粘性係数},
+                                                   {13, &humidity.txt相対湿度},
+                                                   {14, &humidity.txt飽和水蒸気圧},
+                                                   {16, &txt偏差係数},
+                                                   {19, &txt配管内径},
+                                                   {20, &txtPipeRoughness},
+                                                   {21, &txtPipeLength},
+                                                   {32, &txtInletType},
+                                                   {33, &txt管径比率[kIn]},
+                                                   {34, &txt円錐角度[kIn]},
+                                                   {35, &txt管径比率[kOut]},
+                                                   {36, &txt円錐角度[kOut]}};
+  for (int i = 0; i < kFittings; ++i) columns.emplace_back(kFirstFitting + i, &txt付属品数[i]);
+  return columns;
+}
+
+std::vector<std::pair<int, Label*>> frmPressLoss::ResultColumns() {
+  return {{37, &lbl関係粗度},
+          {39, &lblλ},
+          {40, &lblReynolds},
+          {41, &lblVelosityIn},
+          {42, &lblVelosityOut},
+          {43, &lblζin},
+          {44, &lblζout},
+          {45, &lblTerminalLoss[kIn]},
+          {46, &lblTerminalLoss[kOut]},
+          {47, &lblTotalLoss},
+          {48, &lbl付属品ζ}};
+}
+
+void frmPressLoss::AddPressLoss(int row) {
+  RecordWriter record(Space().tags, row);
+  for (const auto& [column, box] : SelectionColumns()) record.PutIndex(column, *box);
+  record.PutTexts(EntryColumns());
+  record.PutTexts(ResultColumns());
+  record.Put(kUnused, "");
+  record.Put(kLossUnit, lbl圧損単位[0].Text());
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  Space().tags.tagModified = true;
+}
+
+/// What was stored holds: no pipe is looked up, no unit of viscosity changed. The phase alone fires
+/// its event, because the selectors that the record names are those of the phase.
+void frmPressLoss::GetPressLoss(int row) {
+  const shell::TagRow record = Space().tags.Row(row);
+  if (At(record, shell::kKindColumn) != kKind) return;
+  Select(cbo流体, At(record, kFluid));
+  {
+    const Quiet quiet(*this);
+    for (const auto& [column, box] : SelectionColumns()) Select(*box, At(record, column));
+    ShowLossUnit();
+  }
+  for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
+  ClearResults();
+  for (const auto& [column, label] : ResultColumns()) label->SetText(At(record, column));
+  StoreEntries();
+  Space().calcDone = !lblTotalLoss.Text().empty();
+  if (Space().calcDone) RestoreDiagram();
+}
+
+/// The record has no pressures along the line. Where today's tables give another loss than the one
+/// that stands on the sheet, it stays without them.
+void frmPressLoss::RestoreDiagram() {
+  try {
+    const piping::Line line = EnteredLine();
+    const std::optional<piping::LineLoss> loss = piping::CalculateLineLoss(line);
+    if (!loss || LossText(loss->totalLoss) != lblTotalLoss.Text()) return;
+    CautionVelocity(*loss);
+    PrepareDiagram(line, *loss);
+  } catch (const common::RuntimeFault&) {
+    // A record whose entries cannot be calculated was not written by this sheet.
+  }
+}
+
+}  // namespace sheets
