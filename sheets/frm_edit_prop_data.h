@@ -25,7 +25,7 @@ class frmEditPropData : public shell::Sheet {
   forms::ControlArray<forms::Label> lblItemName{*this, "lblItemName", kFields};
   forms::ControlArray<forms::TextBox> txtItemData{*this, "txtItemData", kFields};
   /// The curves of the fluid.
-  forms::ControlArray<forms::Picture> picProperty{*this, "picProperty", kPlots, 3600.0, 3100.0};
+  forms::ControlArray<forms::Picture> picProperty{*this, "picProperty", kPlots, 3600.0, 3700.0};
 
   forms::Label lbl変更{*this, "lbl変更", "", forms::LabelStyle::kNote};
   forms::Button cmdDeleteProp{*this, "cmdDeleteProp", "削　除"};
