@@ -68,10 +68,7 @@ Real Evaluate(const MaterialTable& table, int material, const Property& property
 Real Guarded(const MaterialTable& table, int material, const Property& property, Real t,
              common::Messages& messages) {
   try {
-    if (property.row == kDensityRow &&
-        CoefficientSum(common::At(table.cells, material)[kDensityRow]) == 0) {
-      return 0;
-    }
+    if (property.row == kDensityRow && !HasDensityEquation(table, material)) return 0;
     return Evaluate(table, material, property, t, messages);
   } catch (const common::RuntimeFault& fault) {
     messages.Show(fault.Text(), property.title);
@@ -123,6 +120,10 @@ std::string WriteMaterialTable(const MaterialTable& table) {
     for (const Row& row : cells) text += Line(row);
   }
   return common::ToCp932(text);
+}
+
+bool HasDensityEquation(const MaterialTable& table, int material) {
+  return CoefficientSum(common::At(table.cells, material)[kDensityRow]) != 0;
 }
 
 Real MaterialDensity(const MaterialTable& table, int material, Real temperature,

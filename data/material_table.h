@@ -41,8 +41,11 @@ std::string WriteMaterialTable(const MaterialTable& table);
 // Estimators. Outside the range they show it, and an arithmetic fault inside is shown; the result
 // is 0 then. They never raise.
 
-/// Density at a temperature in degC, no decimals; 0 without a message where the low row's
-/// coefficients add up to 0.
+/// Whether a material has an equation for its density: the low row's coefficients do not add up to
+/// 0. Raises kIndexOutOfRange outside the table and kOverflow for a coefficient beyond a double.
+bool HasDensityEquation(const MaterialTable& table, int material);
+
+/// Density at a temperature in degC, no decimals; 0 without a message where there is no equation.
 Real MaterialDensity(const MaterialTable& table, int material, Real temperature,
                      common::Messages& messages);
 

@@ -202,7 +202,7 @@ void ComboBox::SetText(std::string text) {
     return;
   }
   if (Text() == text) return;
-  Select(index);
+  Select(text.empty() ? -1 : index);  // an empty field is no choice, even if an entry is empty
   ReplaceText(std::move(text));
   Fire(onChange);
 }

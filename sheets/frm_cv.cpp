@@ -315,19 +315,20 @@ void frmCV::TakeRating(const std::string& rating, const std::string& bore) {
 void frmCV::cbo配管材質_Click() {
   ClearSizingResults();
   StoreEntries();
+  const data::MaterialTable& materials = Tables().materials;
   const int material = cbo配管材質.Index();
-  const Real density = material < 0 ? Real(0)
-                                    : data::MaterialDensity(Tables().materials, material,
-                                                            Process().temperatureC, User());
-  if (density == 0) {
+  txtWallWeight.SetText("0");
+  if (material < 0 || !data::HasDensityEquation(materials, material)) {
     User().Show("材料データベースに密度推算式がありません。", "配管重量");
-    txtWallWeight.SetText("0");
     return;
   }
+  // A temperature outside its range gives 0 and is told there.
+  const Real density = data::MaterialDensity(materials, material, Process().temperatureC, User());
   txtWallWeight.SetText(NumberText(WallWeight(density, Val(txt下流配管厚.Text()))));
 }
 
 void frmCV::cmdAllData消去_Click() {
+  txt比熱比.SetText("");  // not in silence: the caution of a doubtful estimate goes with it
   {
     const Quiet quiet(*this);
     for (forms::Control* control : Controls()) {

@@ -175,8 +175,9 @@ class frmCV : public ProcessSheet,
   void ShowVelocity(const valve::Service& service, Real velocity);
   /// Says what makes the results impossible or doubtful; the numbers stay.
   void ShowCautions(const valve::Service& service, const valve::SelectedValve& selected);
-  /// After a recall: the correction and the cautions of the sizing that stands on the sheet.
-  void RestoreSizing();
+  /// After a recall: the marks, the correction and the cautions that belong to the results of the
+  /// tag, which its record does not hold.
+  void RestoreFindings();
   void DrawCharacteristic(forms::DrawSurface& surface);
 
   // Record.

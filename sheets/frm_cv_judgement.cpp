@@ -4,6 +4,7 @@
 #include "data/steam.h"
 #include "sheets/frm_cv.h"
 #include "valve/noise.h"
+#include "valve/required_cv.h"
 
 namespace sheets {
 
@@ -46,13 +47,18 @@ void frmCV::ShowCautions(const valve::Service& service, const valve::SelectedVal
   lbl注意.SetText(cautions);
 }
 
-void frmCV::RestoreSizing() {
+void frmCV::RestoreFindings() {
   common::NoMessages unheard;
   try {
     const valve::Service service = ReadProcessInputs();
+    const std::optional<valve::RequiredCv> isa = valve::IsaCv(service);
+    chokedCv_ = isa && isa->choked;
+    ShowMarks(service, chokedCv_);
+    if (lblSizingCv.Text().empty()) return;
     const valve::SelectedValve selected = ReadValveInputs();
     const std::optional<valve::SizedCv> sized = valve::SizeCv(service, selected);
     if (!sized) return;
+    ShowMarks(service, sized->choked);
     detail_ = valve::CorrectForViscosity(service, selected, *sized, unheard).detail;
     ShowCautions(service, selected);
   } catch (const common::RuntimeFault&) {

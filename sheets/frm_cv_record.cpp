@@ -148,8 +148,8 @@ void frmCV::GetResults(const shell::TagRow& record) {
   }
   lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
   Space().calcDone = !lblISA計算Cv.Text().empty();
-  if (!lblSizingCv.Text().empty()) {
-    RestoreSizing();
+  if (Space().calcDone) {
+    RestoreFindings();
     // It reads as a calculation does, which fills defaults in; what was stored holds.
     GetValve(record);
     GetEntries(record);

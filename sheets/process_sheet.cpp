@@ -100,6 +100,10 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
   if (fields_.kappa != nullptr) {
     TextBox& kappa = *fields_.kappa;
     Watch(kappa);
+    kappa.onChange = [changed = kappa.onChange, &kappa] {
+      kappa.SetToolTip(kEstimateHint);  // a caution belongs to the value that has gone
+      changed();
+    };
     OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
   }
   if (fields_.vapour != nullptr) {

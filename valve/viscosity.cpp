@@ -29,7 +29,7 @@ Real IsaReynoldsNumber(const Service& service, const SelectedValve& valve, const
   const Real fp = sized.fp;
   const Real fl = valve.fl;
   const Real cv = sized.cv;
-  return (76000 * valve.fd * q) / (nu * sqrt(fp * fl * cv)) *
+  return Quotient(76000 * valve.fd * q, nu * sqrt(fp * fl * cv)) *
          pow(pow(fp * fl * 645 * cv, 2) / (0.00214 * pow(valve.d, 4)) + 1, Real(0.25));
 }
 
@@ -77,8 +77,8 @@ void CorrectBy本山(const Service& service, const SelectedValve& valve, const S
                    ViscosityCorrection& correction) {
   const Real q = Quotient(service.w, service.rho);
   const Real fdM = MicroFlowStyleModifier(valve.model, valve.ratedCv);
-  const Real re =
-      common::Int(76000 * fdM * q / MicroFlowViscosity(service) / sqrt(valve.fl * sized.cv));
+  const Real re = common::Int(
+      Quotient(76000 * fdM * q / MicroFlowViscosity(service), sqrt(valve.fl * sized.cv)));
   if (re <= 10000) {
     // The exponent of the rule, which the noise reads in place of the valve's coefficient.
     correction.n = re <= 130 ? Real(2) : Log10(re) + 1;

@@ -167,6 +167,9 @@ TEST_F(ValveDialogues, OpenSheetFollowsEditsInTheCatalogue) {
   Click("cmdDeleteMaker");
   EXPECT_EQ(sheet->cboMaker.Text(), "他社");
   EXPECT_EQ(sheet->cboMaker.Items()[2], "");
+  sheet->cboMaker.SetText("");  // no maker, which is not the deleted one
+  Type("txtMaker", "別メーカー");
+  EXPECT_EQ(sheet->cboMaker.Text(), "");
 }
 
 }  // namespace
