@@ -127,9 +127,11 @@ void frmEditPropData::ShowJudgement() {
         IsShown() ? data::FluidCellRemark(phase_, common::At(Table().fluids, fluid_), field)
                   : std::string();
     const std::string codes = data::EquationCodes(phase_, field);
-    const std::string separator = remark.empty() || codes.empty() ? "" : "\n";
+    std::string tip = remark;
+    if (!remark.empty() && !codes.empty()) tip += '\n';
+    tip += codes;
     txtItemData[field].SetBackColor(remark.empty() ? forms::kWhite : forms::kDoubtful);
-    txtItemData[field].SetToolTip(remark + separator + codes);
+    txtItemData[field].SetToolTip(tip);
   }
   for (int plot = 0; plot < kPlots; ++plot) {
     common::At(curves_, plot) = CurveOf(plot);

@@ -306,6 +306,7 @@ bool frm物性::PrintBody(shell::PrintSurface& target) {
 
 void frm物性::LayOut() {
   std::vector<forms::Line> results;
+  results.reserve(kRows);
   for (int row = 0; row < kRows; ++row) {
     results.push_back({lbl物性[row], lbl物性値[row], lbl単位[row]});
   }
