@@ -3,7 +3,6 @@
 #include "common/number.h"
 #include "data/material_table.h"
 #include "data/units.h"
-#include "sheets/frm_pipe_dia.h"
 #include "sheets/list_texts.h"
 
 namespace sheets {
@@ -21,6 +20,9 @@ constexpr const char* kExpansionUnit = "×10-6/℃";
 /// Element and material that clearing the sheet selects.
 constexpr int kClearedElement = 10;
 constexpr int kClearedMaterial = 7;
+
+/// Stands before a distance that counts from the upstream face of the plate.
+constexpr const char* kFromUpstreamFace = "Uf ";
 
 /// Decimals of the differential and of the loss by unit: kPa, mmH2O, kgf/cm2, mmHg, psi, mbar.
 constexpr int kDifferentialDecimals[] = {3, 1, 5, 3, 4, 2};
@@ -59,9 +61,8 @@ void frmOrifice::BindHandlers() {
   opt絞り径_差圧.onClick = [this] { SwitchMode(); };
   OfferEntry(lbl絞り部膨張率, txt絞り部膨張率, [this] { txt絞り部膨張率_DblClick(); });
   OfferEntry(lbl配管線膨張率, txt配管線膨張率, [this] { txt配管線膨張率_DblClick(); });
-  OfferEntry(lbl配管内径, txt配管内径, [this] { txt配管内径_DblClick(); });
-  txt配管内径.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
-  for (ComboBox* box : {&cbo絞り部材質, &cbo配管種類, &cbo配管呼称径, &cboSchedule}) {
+  OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
+  for (ComboBox* box : {&cbo絞り部材質, &cbo配管種類}) {
     box->onChange = [this] { ClearResults(); };
   }
   cbo絞り部材質.onClick = [this] {
@@ -72,12 +73,9 @@ void frmOrifice::BindHandlers() {
     ClearResults();
     if (cbo配管種類.Index() >= 0) txt配管線膨張率_DblClick();
   };
-  for (ComboBox* box : {&cbo配管呼称径, &cboSchedule}) {
-    box->onClick = [this] {
-      ClearResults();
-      if (cbo配管呼称径.Index() >= 0 && cboSchedule.Index() >= 0) txt配管内径_DblClick();
-    };
-  }
+  pic断面.onPaint = [this](forms::DrawSurface& surface) {
+    DrawElementSection(Section(), surface, pic断面);
+  };
   cmdデータ消去.onClick = [this] { cmdデータ消去_Click(); };
   cmd計算.onClick = [this] { cmd計算_Click(); };
 }
@@ -103,11 +101,6 @@ void frmOrifice::Load() {
   SwitchMode();
   StoreEntries();
   SetFocus(txtTagNo);
-}
-
-void frmOrifice::OnFault(const forms::Control* source, const common::RuntimeFault& fault) {
-  if (source == &cmd計算) ClearResults();
-  ProcessSheet::OnFault(source, fault);
 }
 
 std::vector<std::string> frmOrifice::PropertyOrder() const {
@@ -143,6 +136,7 @@ void frmOrifice::SwitchMode() {
   enter(lbl設計差圧, txt設計差圧, !boreEntered);
   enter(lbl絞り径, txt絞り径, boreEntered);
   SetFocus(boreEntered ? txt絞り径 : txt設計差圧);
+  pic断面.Redraw();
 }
 
 void frmOrifice::FillExpansion(const ComboBox& material, TextBox& box) {
@@ -165,17 +159,6 @@ void frmOrifice::FillExpansion(const ComboBox& material, TextBox& box) {
 void frmOrifice::txt絞り部膨張率_DblClick() { FillExpansion(cbo絞り部材質, txt絞り部膨張率); }
 
 void frmOrifice::txt配管線膨張率_DblClick() { FillExpansion(cbo配管種類, txt配管線膨張率); }
-
-void frmOrifice::txt配管内径_DblClick() {
-  const std::optional<Real> bore =
-      Tables().pipes.InnerDiameter(cbo配管呼称径.Index(), cboSchedule.Index());
-  if (!bore || *bore <= 0) {
-    User().Show("該当の配管はありません。");
-    txt配管内径.SetText("0");
-    return;
-  }
-  txt配管内径.SetText(NumberText(*bore));
-}
 
 void frmOrifice::TakePipe(double, double, double bore) { txt配管内径.SetText(NumberText(bore)); }
 
@@ -212,6 +195,7 @@ void frmOrifice::ClearResults() {
   lbl外挿.SetText("");
   Space().calcDone = false;
   equationEdition_ = "1";
+  pic断面.Redraw();
 }
 
 bool frmOrifice::ReadInputs() {
@@ -279,6 +263,27 @@ void frmOrifice::ShowResults(const flow::SizingResult& result) {
   lbl使用上限.SetText(result.useHigh ? NumberText(100 * *result.useHigh) : "");
   lbl外挿.SetText(context_.extrapolationMark);
   equationEdition_ = "1";
+  pic断面.Redraw();
+}
+
+/// A bore stands in its field after a calculation that has been cleared, too; it counts while it is
+/// an entry or a result.
+ElementSection frmOrifice::Section() const {
+  const auto type = static_cast<flow::ElementType>(std::max(cbo絞り機構種類.Index(), 0));
+  const bool calculated = !lbl絞り径結果R.Text().empty();
+  ElementSection section;
+  section.shape = ShapeOf(type);
+  section.pipeBore = Val(txt配管内径.Text());
+  if (calculated || opt絞り径_差圧.Checked()) section.bore = Val(txt絞り径.Text());
+  section.radius = Val(lbl四分円半径R.Text());
+  if (!calculated || type > flow::kVenaContractaTapOrifice) return section;
+  const std::string& downstream = lbl下流Tap位置.Text();
+  section.downstreamFromUpstreamFace = downstream.starts_with(kFromUpstreamFace);
+  section.upstreamTap = Val(lbl上流Tap位置.Text());
+  section.downstreamTap = Val(section.downstreamFromUpstreamFace
+                                  ? downstream.substr(std::string(kFromUpstreamFace).size())
+                                  : downstream);
+  return section;
 }
 
 void frmOrifice::CautionLoss() {
@@ -306,35 +311,32 @@ void frmOrifice::ShowTaps(const flow::SizingResult& result) {
     return tap ? NumberText(*tap) : std::string(kNoTap);
   };
   lbl上流Tap位置.SetText(text(result.upstreamTap));
-  lbl下流Tap位置.SetText((distanceFromPlate ? "Uf " : "") + text(result.downstreamTap));
+  lbl下流Tap位置.SetText((distanceFromPlate ? kFromUpstreamFace : "") + text(result.downstreamTap));
 }
 
 void frmOrifice::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル[0]}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
+  SetLayout(SheetBlock(
+      lblタイトル[0],
+      forms::Row({
           forms::Stretched(ProcessBlock(), 7),
-          forms::Stretched(forms::Column({ElementBlock(), ModeBlock(), forms::Space()}), 7),
+          forms::Stretched(
+              forms::Column({ElementBlock(), ModeBlock(), forms::Stretched(SectionBlock())}), 7),
           forms::Stretched(forms::Column({ResultBlock(), forms::Space(),
                                           forms::Buttons({{}, cmdデータ消去, cmd計算})}),
                            5),
-      })),
-  }));
+      })));
 }
 
 forms::Block frmOrifice::ProcessBlock() {
-  const Cell flowUnits = Cell::OneOf({&cbo流量単位L, &cbo流量単位G, &cbo流量単位S});
-  const Cell densityUnits = Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S});
   return forms::Group(
       "プロセス条件",
       forms::Table({
           {lbl流体, Cell(cbo流体).Over(2)},
-          {lbl目盛流量, txt目盛流量, flowUnits},
+          {lbl目盛流量, txt目盛流量, FlowUnits()},
           {lbl常用流量, txt常用流量, lbl常用流量単位},
           {lbl圧力, txt圧力, cbo圧力単位},
           {lbl温度, txt温度, cbo温度単位},
-          {lbl密度, txt密度, densityUnits},
+          {lbl密度, txt密度, DensityUnits()},
           {lbl粘性係数, txt粘性係数, cbo粘性係数単位},
           {humidity.lbl相対湿度, humidity.txt相対湿度, humidity.lbl相対湿度単位},
           {base.lbl計算基準, Cell(base.optWetBase).Over(2)},
@@ -365,6 +367,8 @@ forms::Block frmOrifice::ModeBlock() {
                                         {lbl絞り径, txt絞り径, "mm"},
                                     }));
 }
+
+forms::Block frmOrifice::SectionBlock() { return forms::Group("", forms::Table({{pic断面}})); }
 
 forms::Block frmOrifice::ResultBlock() {
   return forms::Results("計算結果", forms::Table({

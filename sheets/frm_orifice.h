@@ -7,6 +7,7 @@
 
 #include "flow/differential_pressure.h"
 #include "sheets/calculation_page.h"
+#include "sheets/element_section.h"
 #include "sheets/process_sheet.h"
 
 namespace sheets {
@@ -56,6 +57,8 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   Label lbl絞り径{*this, "lbl絞り径", "絞り径（20℃）"};
   TextBox txt絞り径{*this, "txt絞り径", forms::NumberKeys};
 
+  forms::Picture pic断面{*this, "pic断面", 6600, 1700};
+
   ResultLabel lblMaxReynolds{*this, "lblMaxReynolds"};
   ResultLabel lblNorReynolds{*this, "lblNorReynolds"};
   ResultLabel lbl流出係数R{*this, "lbl流出係数R"};
@@ -81,7 +84,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
 
   void Load() override;
   void TakePipe(double outsideDiameter, double wallThickness, double bore) override;
-  void OnFault(const forms::Control* source, const common::RuntimeFault& fault) override;
 
   void ClearResults() override;
 
@@ -108,6 +110,7 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   forms::Block ProcessBlock();
   forms::Block ElementBlock();
   forms::Block ModeBlock();
+  forms::Block SectionBlock();
   forms::Block ResultBlock();
 
   void cbo絞り機構種類_Click();
@@ -115,7 +118,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void SwitchMode();
   void txt絞り部膨張率_DblClick();
   void txt配管線膨張率_DblClick();
-  void txt配管内径_DblClick();
   void FillExpansion(const ComboBox& material, TextBox& box);
   void cmdデータ消去_Click();
 
@@ -128,6 +130,8 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   void ShowTaps(const flow::SizingResult& result);
   /// Marks a loss that the element's equations cannot tell.
   void CautionLoss();
+  /// What the picture shows: pipe and bore as far as they are entered or calculated.
+  ElementSection Section() const;
 
   /// Columns of the record that hold a text as it stands in a control.
   std::vector<std::pair<int, forms::Control*>> EntryColumns();
@@ -139,7 +143,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
 
   std::string CitedDocument() const;
   void PrintConditions(CalculationPage& page);
-  void PrintDensities(CalculationPage& page);
   void PrintElement(CalculationPage& page);
   void PrintResults(CalculationPage& page);
 

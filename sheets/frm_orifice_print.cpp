@@ -10,13 +10,10 @@ namespace sheets {
 
 namespace {
 
-using common::NumberText;
-using common::RoundDigits;
 using common::Val;
 
 constexpr const char* kBoreLabel = "絞　 　り　  　径";
 constexpr const char* kDifferentialLabel = "計 　算 　差 　圧";
-constexpr int kDensityDecimals = 4;
 
 const char* TitleOf(flow::ElementFamily family) {
   switch (family) {
@@ -28,11 +25,6 @@ const char* TitleOf(flow::ElementFamily family) {
       break;
   }
   return "ＶＥＮＴＵＲＩ　ＴＵＢＥ　ＣＡＬＣＵＬＡＴＩＯＮ ＳＨＥＥＴ";
-}
-
-/// A density that was worked out, not typed; blank before any calculation.
-std::string DensityText(Real density) {
-  return density == 0 ? "" : NumberText(RoundDigits(density, kDensityDecimals));
 }
 
 }  // namespace
@@ -68,31 +60,8 @@ void frmOrifice::PrintConditions(CalculationPage& page) {
   page.Line("常 　用 　流 　量", txt常用流量.Text(), flowUnit);
   page.Line("圧　　   　　　力", txt圧力.Text(), cbo圧力単位.Text());
   page.Line("温　　　   　　度", txt温度.Text(), cbo温度単位.Text());
-  PrintDensities(page);
-  page.Line("粘性係数", txt粘性係数.Text(), cbo粘性係数単位.Text());
-  if (IsGas()) {
-    page.Line("相 　対 　湿 　度", humidity.txt相対湿度.Text(), "％");
-    page.Line("飽和水蒸気圧", humidity.txt飽和水蒸気圧.Text(), humidity.cbo飽和水蒸気圧単位.Text());
-    page.Line("偏差係数", txt偏差係数.Text());
-  }
-  if (!IsLiquid()) page.Line("ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ 指数", txt比熱比.Text());
-}
-
-/// A gas has its density at normal conditions and that in the pipe; which of the two was entered
-/// shows in its unit.
-void frmOrifice::PrintDensities(CalculationPage& page) {
-  const std::string unit = DensityUnitBox().Text();
-  if (!IsGas()) {
-    page.Line("密度", txt密度.Text(), unit);
-    return;
-  }
-  if (DensityUnitBox().Index() == data::kNormalDensityUnit) {
-    page.Line("標準状態密度(乾燥)", txt密度.Text(), unit);
-  } else {
-    page.Line("入   力   密   度", txt密度.Text(), unit);
-    page.Line("標準状態密度(乾燥)", DensityText(normalDensity_), "    kg/Nm3");
-  }
-  page.Line("使 用 状 態 密 度", DensityText(context_.rho), "kg/m3");
+  PrintDensities(page, normalDensity_, context_.rho);
+  PrintGas(page, "偏差係数");
 }
 
 void frmOrifice::PrintElement(CalculationPage& page) {

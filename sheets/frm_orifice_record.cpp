@@ -141,6 +141,7 @@ void frmOrifice::GetResults(const shell::TagRow& record) {
   const bool calculated = !lblMaxReynolds.Text().empty();
   Space().calcDone = calculated;
   if (calculated) CautionLoss();
+  pic断面.Redraw();
 }
 
 /// The record has no upstream tap; the element tells where it is.

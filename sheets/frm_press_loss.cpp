@@ -59,17 +59,7 @@ void frmPressLoss::BindHandlers() {
     panel();
   };
   cbo粘性係数単位.SetToolTip("[cst]はサポートしていません");
-  OfferEntry(lbl配管内径, txt配管内径,
-             [this] { FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径); });
-  txt配管内径.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
-  for (ComboBox* box : {&cbo配管呼称径, &cboSchedule}) {
-    box->onClick = [this] {
-      ClearResults();
-      if (cbo配管呼称径.Index() >= 0 && cboSchedule.Index() >= 0) {
-        FillPipeBore(cbo配管呼称径, cboSchedule, txt配管内径);
-      }
-    };
-  }
+  OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
   txtPipeRoughness.onDblClick = [this] { Space().forms.Show(frmRoughness::kName); };
   txtPipeRoughness.SetToolTip("ダブルクリックで配管の種類から選びます。");
   Label29.onClick = [this] { Space().forms.Show(frmInletType::kName); };
@@ -166,11 +156,8 @@ void frmPressLoss::TakeInletType(int type) {
 }
 
 void frmPressLoss::cmdInitialize_Click() {
-  EmptyTextBoxes();
+  ClearData();
   txtPipeRoughness.SetText(kStartRoughness);
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
-  ClearResults();
-  SetFocus(txtTagNo);
 }
 
 void frmPressLoss::ClearResults() {

@@ -57,12 +57,6 @@ const PhaseTexts& TextsOf(data::FluidPhase phase) {
   return phase == data::kLiquid ? kLiquidTexts : phase == data::kGas ? kGasTexts : kSteamTexts;
 }
 
-/// The number that a label with thousands separators shows.
-Real ShownNumber(std::string text) {
-  std::erase(text, ',');
-  return Val(text);
-}
-
 void FillEmpty(forms::TextBox& box) {
   if (box.Text().find_first_not_of(' ') == std::string::npos) box.SetText("0");
 }
@@ -214,7 +208,7 @@ void frm物性::EstimateSteam() {
     User().Show("温度が低すぎるか、あるいは圧力が高すぎます");
   } else {
     ShowText(0, Format(data::SteamDensity(process), "###,##0.000"));
-    process.densityBase = ShownNumber(lbl物性値[0].Text());
+    process.densityBase = GroupedNumber(lbl物性値[0].Text());
     if (process.densityBase <= 0) ShowCaution(0, "密度が正の値になりません。式の適用範囲外です。");
     ShowValue(1, data::SteamViscosity(Tables().steamViscosity, process));
     ShowExponent(2, data::SteamIsentropicExponent(process, User()));

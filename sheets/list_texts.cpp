@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/number.h"
 #include "data/pipe_table.h"
 
 namespace sheets {
@@ -16,6 +17,11 @@ std::vector<std::string> FluidTexts(const data::FluidTable& fluids) {
   std::vector<std::string> texts;
   for (const std::string& name : fluids.Names()) texts.push_back(" " + name);
   return texts;
+}
+
+common::Real GroupedNumber(std::string text) {
+  std::erase(text, ',');
+  return common::Val(text);
 }
 
 std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "common/real.h"
 #include "data/convert_lists.h"
 #include "data/fluid_table.h"
 
@@ -14,6 +15,9 @@ std::vector<std::string> NominalSizeTexts(const data::ConvertLists& lists);
 /// Names of a fluid table as the lists show them, with a blank in front; positions are fluid
 /// indices, so unused records are there, too.
 std::vector<std::string> FluidTexts(const data::FluidTable& fluids);
+
+/// Number of a result that is grouped by thousands ("1,234.50").
+common::Real GroupedNumber(std::string text);
 
 /// Schedules that the pipe table has walls for.
 std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists);

@@ -7,6 +7,8 @@
 #include "data/units.h"
 #include "sheets/cautions.h"
 #include "sheets/frm_fluid_names.h"
+#include "sheets/frm_pipe_dia.h"
+#include "sheets/record_fields.h"
 
 namespace sheets {
 
@@ -188,6 +190,11 @@ void ProcessSheet::Unload() {
   if (Form* const names = Space().forms.Find(frm流体名表示::kName)) Space().forms.Unload(*names);
 }
 
+void ProcessSheet::OnFault(const forms::Control* source, const common::RuntimeFault& fault) {
+  if (source != nullptr && source->Name() == "cmd計算") ClearResults();
+  Sheet::OnFault(source, fault);
+}
+
 ComboBox& ProcessSheet::FlowUnitBox() {
   return IsGas() ? cbo流量単位G : IsSteam() ? cbo流量単位S : cbo流量単位L;
 }
@@ -204,6 +211,56 @@ void ProcessSheet::FillPipeBore(const ComboBox& size, const ComboBox& schedule, 
     return;
   }
   bore.SetText(NumberText(*found));
+}
+
+void ProcessSheet::OfferPipe(Label& label, ComboBox& size, ComboBox& schedule, TextBox& bore) {
+  const auto fill = [this, &size, &schedule, &bore] { FillPipeBore(size, schedule, bore); };
+  OfferEntry(label, bore, fill);
+  bore.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
+  for (ComboBox* box : {&size, &schedule}) {
+    box->onChange = [this] { ClearResults(); };
+    box->onClick = [this, &size, &schedule, fill] {
+      ClearResults();
+      if (size.Index() >= 0 && schedule.Index() >= 0) fill();
+    };
+  }
+}
+
+void ProcessSheet::ClearData() {
+  EmptyTextBoxes();
+  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
+  ClearResults();
+  SetFocus(txtTagNo);
+}
+
+void ProcessSheet::PutRecord(int row, int fluidColumn, const TagColumns& columns) {
+  shell::TagStore& tags = Space().tags;
+  columns.Put(tags, row);
+  RecordWriter record(tags, row);
+  record.PutIndex(fluidColumn, cbo流体);
+  record.Put(shell::kKindColumn, Space().activeSheetKind);
+  tags.tagModified = true;
+}
+
+const shell::TagRow* ProcessSheet::GetRecord(int row, int fluidColumn,
+                                             const std::function<TagColumns()>& columns) {
+  const shell::TagRow& record = Space().tags.Row(row);
+  if (At(record, shell::kKindColumn) != Entry().kind) return nullptr;
+  ClearResults();
+  Select(cbo流体, At(record, fluidColumn));
+  const TagColumns named = columns();
+  named.GetSelections(record);
+  named.GetEntries(record);
+  StoreEntries();
+  named.GetResults(record);
+  return &record;
+}
+
+forms::Block ProcessSheet::SheetBlock(Label& heading, forms::Block body) {
+  return forms::Column(
+      {forms::Table({{heading}}),
+       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
+       forms::Stretched(std::move(body))});
 }
 
 void ProcessSheet::EmptyTextBoxes() {
@@ -377,7 +434,14 @@ void ProcessSheet::StoreHumidity() {
   process.saturationPressure = 0;
   process.flowBasis = data::kWetBase;
   if (fields_.vapour != nullptr) {
-    process.saturationPressureUnit = fields_.vapour->cbo飽和蒸気圧単位.Index();
+    const VapourPressureFields& fields = *fields_.vapour;
+    // The estimator writes a vapour pressure in the unit of the saturation pressure.
+    process.saturationPressureUnit = fields.cbo飽和蒸気圧単位.Index();
+    process.vapourPressureUnit = process.saturationPressureUnit;
+    process.vapourPressure = Quietly([&] {
+      return data::VapourPressureToAbsolute(Val(fields.txt飽和蒸気圧.Text()),
+                                            process.vapourPressureUnit);
+    });
   }
   if (fields_.critical != nullptr) {
     process.vapourPressureUnit = fields_.critical->cbo臨界圧力単位.Index();
@@ -488,6 +552,8 @@ std::optional<Real> ProcessSheet::EstimateSteam(const std::string& word) {
 }
 
 void ProcessSheet::FillFromFluidOrSteam(const std::string& word) {
+  const bool ofLiquids = word == "飽和蒸気圧" || word == "臨界圧力";
+  if (ofLiquids && !IsLiquid()) return;
   StoreEntries();
   Space().propertyWord = word;
   if (!IsSteam()) {

@@ -7,6 +7,7 @@
 #include "data/property_estimator.h"
 #include "forms/controls.h"
 #include "sheets/property_target.h"
+#include "sheets/tag_record.h"
 #include "shell/sheet.h"
 
 namespace sheets {
@@ -21,6 +22,8 @@ using forms::LabelStyle;
 using forms::OptionButton;
 using forms::ResultLabel;
 using forms::TextBox;
+
+class CalculationPage;
 
 /// Humidity of a gas and the saturation pressure that goes with it.
 struct HumidityFields {
@@ -91,6 +94,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void Load() override;
   void Activate() override;
   void Unload() override;
+  /// A calculation that ends in a fault leaves no results.
+  void OnFault(const forms::Control* source, const common::RuntimeFault& fault) override;
 
   void FillProperty(const std::string& word, int fluidIndex) override;
   void FillAllProperties(int fluidIndex) override;
@@ -161,10 +166,30 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   /// Makes a double click on the field and a click on its label run the same automatic entry.
   void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
 
-  /// Fills a pipe bore from the pipe table, or says that there is no such pipe.
-  void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
+  /// Prints the density, for a gas that at normal conditions and that in the pipe, as they were
+  /// worked out last; 0 leaves a blank.
+  void PrintDensities(CalculationPage& page, Real normal, Real operating);
+  /// Prints the viscosity and, for gas and steam, the panel's fields that a liquid has not.
+  void PrintGas(CalculationPage& page, const std::string& deviationLabel);
+
+  /// A pipe by nominal size and schedule: a pick looks its bore up in the pipe table, as a double
+  /// click on the bore does; a right click on it opens the pipe dialogue.
+  void OfferPipe(Label& label, ComboBox& size, ComboBox& schedule, TextBox& bore);
   /// Empties every field of the sheet, without an event.
   void EmptyTextBoxes();
+  /// What clearing does on every sheet once its own selections are back at their start: all fields
+  /// empty, a liquid, no results, the focus on the tag number.
+  void ClearData();
+
+  /// Writes a record: phase, columns and kind.
+  void PutRecord(int row, int fluidColumn, const TagColumns& columns);
+  /// Fills the sheet from a record of its kind: the phase first, because it decides which selectors
+  /// the columns name, then selections, entries, results. The record, or null for another kind.
+  const shell::TagRow* GetRecord(int row, int fluidColumn,
+                                 const std::function<TagColumns()>& columns);
+
+  /// Heading and tag line above the body of a sheet.
+  forms::Block SheetBlock(Label& heading, forms::Block body);
 
   /// A field that is off shows so and loses its text.
   static void SwitchField(TextBox& box, bool on);
@@ -180,6 +205,7 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget {
   void cbo流量単位_Click();
   void SwitchHumidity();
   void UpdateFluidList();
+  void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
   void StoreHumidity();
   TextBox* FieldOf(const std::string& word);
   std::optional<Real> Estimate(const std::string& word, int fluidIndex);

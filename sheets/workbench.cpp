@@ -7,6 +7,7 @@
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_edit_prop_data.h"
 #include "sheets/frm_fluid_names.h"
+#include "sheets/frm_integral.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/frm_pipe_weight.h"
@@ -15,9 +16,11 @@
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_properties.h"
 #include "sheets/frm_rating.h"
+#include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_te.h"
 #include "sheets/frm_tw.h"
+#include "sheets/frm_vortex.h"
 #include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
 #include "sheets/thermowell_dialogues.h"
@@ -43,6 +46,9 @@ void Workbench::ProvideForms() {
   provide("frmPressLoss", std::type_identity<frmPressLoss>());
   provide(frmRoughness::kName, std::type_identity<frmRoughness>());
   provide(frmInletType::kName, std::type_identity<frmInletType>());
+  provide("frmIntegral", std::type_identity<frmIntegral>());
+  provide("frmRO", std::type_identity<frmRO>());
+  provide("frmVortex", std::type_identity<frmVortex>());
   provide("frmCV", std::type_identity<frmCV>());
   provide(frmCvSet::kName, std::type_identity<frmCvSet>());
   provide("frmTW", std::type_identity<frmTW>());

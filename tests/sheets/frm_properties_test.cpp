@@ -4,6 +4,7 @@
 
 #include "common/number.h"
 #include "common/text.h"
+#include "sheets/list_texts.h"
 #include "shell/page_recorder.h"
 #include "shell/report.h"
 #include "shell/tag_commands.h"
@@ -17,11 +18,7 @@ class PropertySheet : public SheetTest {
   PropertySheet() { bench.Window().Run("mnuBussei"); }
 
   std::string Value(int row) { return Text("lbl物性値(" + std::to_string(row) + ")"); }
-  double Number(int row) {
-    std::string text = Value(row);
-    std::erase(text, ',');
-    return common::Val(text);
-  }
+  double Number(int row) { return GroupedNumber(Value(row)); }
   void Calculate(const char* phase, const char* fluid, const std::string& pressure,
                  const std::string& celsius) {
     Choose(phase);

@@ -1,0 +1,216 @@
+#include <functional>
+
+#include "tests/sheets/flow_sheet_test.h"
+
+namespace sheets {
+namespace {
+
+class RestrictionTest : public FlowSheetTest {
+ protected:
+  RestrictionTest() { bench.Window().Run("mnuRO"); }
+
+  /// 20 t/h of water, 300 kPa to be lost in 4 in Sch40.
+  void EnterWater() {
+    TypeAll({{"txt流量", "20000"},
+             {"txt圧力", "600"},
+             {"txt差圧", "300"},
+             {"txt温度", "20"},
+             {"txt密度", "998.2"},
+             {"txtヤング率", "19700"},
+             {"txt許容応力", "13.2"},
+             {"txt配管内径", "102.3"},
+             {"txtThickness", "6"}});
+  }
+};
+
+// SI: d = sqrt(4 W / (pi C sqrt(2 rho dP))) = 19.9 mm with C = 0.72 for t/d 0.3; 1 % of flow lies
+// between 1.2649 and 1.2522.
+TEST_F(RestrictionTest, SizesAPlateThatHolds) {
+  EnterWater();
+  Click("cmd計算");
+  EXPECT_EQ(TakeTexts(), Texts());
+  EXPECT_NEAR(Number("lbl絞り径"), 19.9, 0.1);
+  EXPECT_NEAR(Number("lblβ"), Number("lbl絞り径") / 102.3, 6e-5);
+  EXPECT_EQ(Text("lbl流速1"), "0.68");
+  EXPECT_EQ(Text("lbl背圧補正"), "");
+  EXPECT_EQ(Text("Label5(0)"), "(半径方向)");
+  EXPECT_EQ(Color("lbl最大応力"), forms::kBlack);
+  const std::string hint = "板厚は" + Text("lblMinThickness") + "mm以上必要です。";
+  EXPECT_EQ(Find("txtThickness").ToolTip(), hint);
+  EXPECT_EQ(Find("lbl最大応力").ToolTip(), hint);
+  EXPECT_EQ(Text("lbl注意"), "");
+
+  // In newtons: the same stress times 9.80665.
+  const double kgf = Number("lbl最大応力");
+  Pick("cbo許容応力単位", 1);
+  EXPECT_EQ(Text("lbl最大応力"), "");
+  EXPECT_EQ(Text("lbl最大応力単位"), "N/mm2");
+  Type("txt許容応力", "129.4");
+  Click("cmd計算");
+  EXPECT_NEAR(Number("lbl最大応力"), kgf * 9.80665, 0.1);
+}
+
+TEST_F(RestrictionTest, RecordKeepsJudgementsAndColours) {
+  EnterWater();
+  Type("txtThickness", "1");
+  Type("txt用途", "試験");
+  Click("cmd計算");
+  EXPECT_EQ(Color("lbl最大応力"), forms::kRed);
+  EXPECT_EQ(Color("lblMinThickness"), forms::kRed);
+  EXPECT_EQ(Color("lbl変形量"), forms::kRed);
+  const std::vector<const char*> results = {
+      "lbl流速1",    "lbl流量係数",   "lbl背圧補正", "lblβ",      "lbl絞り径",
+      "lbl応力係数", "lblたわみ係数", "lbl最大応力", "lbl変形量", "lblMinThickness"};
+  std::vector<std::string> texts;
+  for (const char* name : results) texts.push_back(Text(name));
+  const shell::TagRow row = RegisterAndRecall("RO-1");
+  EXPECT_EQ(row[0], "RO-1");
+  EXPECT_EQ(row[8], "300");
+  EXPECT_EQ(row[33], texts[3]);
+  EXPECT_EQ(row[37], "255");
+  EXPECT_EQ(row[38], texts[7]);
+  EXPECT_EQ(row[39], "255");
+  EXPECT_EQ(row[41], "255");
+  EXPECT_EQ(row[50], "制限ｵﾘﾌｨｽ");
+  for (std::size_t i = 0; i < results.size(); ++i) EXPECT_EQ(Text(results[i]), texts[i]);
+  for (const char* red : {"lbl最大応力", "lbl変形量", "lblMinThickness"}) {
+    EXPECT_EQ(Color(red), forms::kRed) << red;
+  }
+  EXPECT_EQ(Text("txt用途"), "試験");
+  EXPECT_EQ(Text("Label5(0)"), "(半径方向)");
+  EXPECT_TRUE(bench.Space().calcDone);
+  Type("txtThickness", "12");
+  EXPECT_EQ(Text("lbl最大応力"), "");
+  EXPECT_EQ(Color("lbl最大応力"), forms::kBlack);
+  EXPECT_EQ(Find("txtThickness").ToolTip(), "");
+}
+
+TEST_F(RestrictionTest, GasDefaultsAndFaultsSpeak) {
+  EnterWater();
+  Pick("cbo流体", kGas);
+  TypeAll({{"txt密度", "1.293"}, {"txt相対湿度", "50"}});
+  Click("cmd計算");
+  EXPECT_EQ(TakeTexts(), Texts({"飽和蒸気圧力が入力されていません"}));
+  DblClick("txt飽和水蒸気圧");
+  Click("cmd計算");
+  EXPECT_EQ(TakeTexts(), Texts({"圧縮係数が入力されていないので\n1として計算します",
+                                "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数が入力されていないので\n1.4として計算します"}));
+  EXPECT_EQ(Text("lbl背圧補正"), "1.00");
+  const std::function<void()> spoilers[] = {
+      [this] { Type("txtThickness", ""); }, [this] { Type("txt差圧", ""); },
+      [this] { Type("txt許容応力", ""); }, [this] { Type("txt配管内径", ""); },
+      [this] { Type("txt比熱比", "1"); }};
+  for (const auto& spoil : spoilers) {
+    spoil();
+    Click("cmd計算");
+    EXPECT_EQ(TakeTexts(), Texts({"0 で除算しました。\nデータを見直してください。"}));
+    EXPECT_EQ(Text("lbl絞り径"), "");
+    EnterWater();
+    TypeAll({{"txt密度", "1.293"}, {"txt比熱比", "1.4"}});
+  }
+  // mmHg is an absolute pressure and counts no atmosphere: 735.72 mmHg are 1 kgf/cm2.
+  Pick("cbo差圧単位", 4);
+  Type("txt差圧", "735.72");
+  Click("cmd計算");
+  EXPECT_NEAR(static_cast<double>(bench.Space().process.differentialPressure), 10000, 1e-6);
+}
+
+TEST_F(RestrictionTest, ImpossibleResultsCarryACaution) {
+  const struct {
+    const char* what;
+    std::function<void()> enter;
+    const char* doubtful;
+    bool noted;
+  } rows[] = {
+      {"bore beyond the pipe", [&] { Type("txt流量", "600000"); }, "lblβ", true},
+      {"beta beyond the plate",
+       [&] {
+         Type("txt流量", "20000");
+         Type("txt配管内径", "23.5");
+       },
+       "lblたわみ係数", true},
+      {"differential beyond the pressure", [&] { Type("txt差圧", "800"); }, "lbl絞り径", true},
+      {"thick plate", [&] { Type("txtThickness", "30"); }, nullptr, true},
+      {"sound", [] {}, nullptr, false},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    EnterWater();
+    row.enter();
+    Click("cmd計算");
+    EXPECT_EQ(TakeTexts(), Texts());
+    EXPECT_NE(Text("lbl絞り径"), "");
+    EXPECT_EQ(Text("lbl注意") != "", row.noted);
+    if (row.doubtful != nullptr) {
+      EXPECT_EQ(Color(row.doubtful), forms::kMagenta);
+      EXPECT_NE(Find(row.doubtful).ToolTip(), "");
+    }
+  }
+  Pick("cbo流体", kSteam);
+  EnterWater();
+  TypeAll({{"txt密度", "3.6"}, {"txt比熱比", "1.3"}});
+  Click("cmd計算");
+  EXPECT_NE(Text("lbl注意"), "");
+}
+
+// SUS316 at 20 degC: about 19900 kgf/mm2 and 195000 N/mm2; allowable stress 14.1 kgf/mm2.
+TEST_F(RestrictionTest, MaterialFillsModulusAndStress) {
+  Type("txt温度", "20");
+  Pick("cboRO材質", 7);
+  EXPECT_NEAR(Number("txtヤング率"), 19900, 100);
+  EXPECT_NEAR(Number("txt許容応力"), 14.1, 0.5);
+  const double kgf = Number("txtヤング率");
+  Pick("cboヤング率単位", 2);
+  EXPECT_EQ(Number("txtヤング率"), kgf);  // a unit never converts the number
+  DblClick("txtヤング率");
+  EXPECT_NEAR(Number("txtヤング率"), kgf * 9.80665, 0.5);
+  Find<forms::ComboBox>("cboRO材質").SetText("チタン");
+  DblClick("txtヤング率");
+  Find<forms::ComboBox>("cboRO材質").SetText("");
+  DblClick("txt許容応力");
+  EXPECT_EQ(TakeTexts(), Texts({"データベースに登録されていないオリフィス材料です",
+                                "データベースに未登録です。"}));
+  EXPECT_EQ(Text("txtヤング率"), "");
+  EXPECT_EQ(Text("txt許容応力"), "");
+}
+
+// Pr of methane at 30 degC and 50 kgf/cm2 is about 1: the sheet takes the compressibility factor
+// itself, not its ratio to the normal state.
+TEST_F(RestrictionTest, FluidListFillsTheCompressibilityFactor) {
+  Pick("cbo流体", kGas);
+  TypeAll({{"txt圧力", "3000"}, {"txt温度", "30"}});
+  Click("lbl圧縮係数");
+  auto& names = Find<forms::ListBox>("lst物性推算");
+  names.Pick(names.IndexOf(" 空気"));
+  Click("cmd全物性");
+  EXPECT_NEAR(Number("txt圧縮係数"), 0.99, 0.01);  // air, 30 bar, 303 K: 0.994
+  EXPECT_NEAR(Number("txt比熱比"), 1.4, 0.01);
+}
+
+// Opening this sheet puts the limits of nozzles over those of flange and D and D/2 taps for the
+// rest of the run.
+TEST_F(RestrictionTest, OpeningChangesTheLimitsOfTwoPlates) {
+  const flow::OrificeTable& limits = bench.Space().tables.orifice;
+  EXPECT_EQ(limits.betaMin[0], 0.3);
+  EXPECT_EQ(limits.pipeMax[0], 500);
+  EXPECT_EQ(limits.betaMin[1], 0.2);
+  EXPECT_EQ(limits.pipeMax[1], 630);
+  EXPECT_EQ(limits.betaMin[2], 0.1);
+  bench.Window().Run("mnuOrifice");
+  Pick("cbo絞り機構種類", 0);
+  TypeAll({{"txt目盛流量", "20000"},
+           {"txt常用流量", "20000"},
+           {"txt圧力", "500"},
+           {"txt温度", "20"},
+           {"txt密度", "998.2"},
+           {"txt粘性係数", "1"},
+           {"txt配管内径", "102.3"},
+           {"txt設計差圧", "200"}});
+  Click("cmd計算");
+  const Texts texts = TakeTexts();
+  ASSERT_EQ(texts.size(), 1U);
+  EXPECT_EQ(texts[0].substr(0, 7), "β(=0.2");
+}
+
+}  // namespace
+}  // namespace sheets
