@@ -45,7 +45,7 @@ TEST_F(DriverTest, NamesWhatItDoesNotKnow) {
               {"jump txtTagNo", "jump"},
               {"menu mnuOrifices", "mnuOrifice"},
               {"button 99", "99"},
-              {"open Vortex", "not there yet"},
+              {"open CableDuct", "not there yet"},
               {"answer maybe", "maybe"},
               {"export", "not there yet"}};
   for (const auto& row : rows) {
