@@ -36,14 +36,14 @@ void Sheet::GetFrom(int) {}
 
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
-bool Sheet::HasData(const std::vector<std::string>& fileNames) const {
+bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {
   std::string missing;
   for (const std::string& name : fileNames) {
-    if (!workspace_.tables.IsRead(name)) missing += "\n" + name;
+    if (!workspace.tables.IsRead(name)) missing += "\n" + name;
   }
   if (missing.empty()) return true;
-  User().Show("次のデータファイルが読み込まれていないため、計算できません。" + missing, {},
-              common::Icon::kWarning);
+  workspace.Shown().Show("次のデータファイルが読み込まれていないため、計算できません。" + missing,
+                         {}, common::Icon::kWarning);
   return false;
 }
 

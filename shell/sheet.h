@@ -8,6 +8,9 @@
 
 namespace shell {
 
+/// Whether these data files have been read; tells the user otherwise.
+bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames);
+
 /// A form that is registered as a sheet: it takes and gives back its place on top of the workspace.
 class Sheet : public forms::Form {
  public:
@@ -33,7 +36,9 @@ class Sheet : public forms::Form {
   Workspace& Space() const { return workspace_; }
   forms::Presenter& User() const { return workspace_.Shown(); }
   /// Whether the data files that a calculation needs have been read; tells the user otherwise.
-  bool HasData(const std::vector<std::string>& fileNames) const;
+  bool HasData(const std::vector<std::string>& fileNames) const {
+    return shell::HasData(workspace_, fileNames);
+  }
 
  private:
   Workspace& workspace_;
