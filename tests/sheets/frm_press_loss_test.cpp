@@ -212,6 +212,10 @@ TEST_F(PressLossTest, RoughnessComesFromTheList) {
   Find("lstRoughness").DblClick();
   bench.Forms().CollectClosed();
   EXPECT_EQ(Text("txtPipeRoughness"), "0.0015");
+  bench.Space().tables.pressLoss = {};
+  DblClick("txtPipeRoughness");
+  Click("cmdRoughness");
+  EXPECT_EQ(Text("txtPipeRoughness"), "0.0015");
 }
 
 TEST_F(PressLossTest, InletShapeBringsItsRatioAndAngle) {
