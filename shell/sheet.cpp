@@ -34,6 +34,8 @@ void Sheet::AddTo(int) {}
 
 void Sheet::GetFrom(int) {}
 
+void Sheet::RestoreResults(int) {}
+
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
 bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {

@@ -28,6 +28,9 @@ class Sheet : public forms::Form {
   virtual void AddTo(int row);
   /// Fills the sheet from a row of the tag store. Only for rows of this sheet's kind.
   virtual void GetFrom(int row);
+  /// After GetFrom: works the results out that the tag has and its record does not hold, for a page
+  /// that is printed without the user.
+  virtual void RestoreResults(int row);
   /// Prints the sheet's own part of a page, from the texts that stand on it. False for a sheet that
   /// has none.
   virtual bool PrintBody(PrintSurface& target);
