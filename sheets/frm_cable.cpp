@@ -47,6 +47,14 @@ void frmCable::BindHandlers() {
       label->onClick = cmd編集[row].onClick;
     }
     txt本数[row].onChange = [this] { TellUncalculated(); };
+    // Numbers are typed down the column; behind the last cable comes the button for a new one.
+    txt本数[row].onEnter = [this, row] {
+      if (row + 1 < kRows && !IsBlank(lblCable[row + 1].Text())) {
+        SetFocus(txt本数[row + 1]);
+      } else {
+        FocusNext(txt本数[row]);
+      }
+    };
   }
   txtSpan.onChange = [this] { TellUncalculated(); };
   for (TextBox* box : {&txtWidth, &txtHeight, &txt折込, &txtThickness, &txt作業員}) {

@@ -128,6 +128,15 @@ TEST_F(CableTest, OverflowLeavesNoResultsOfOtherInputs) {
   EXPECT_EQ(TakeTexts(), Texts(2, "オーバーフローしました。"));
 }
 
+TEST_F(CableTest, EnterWalksDownTheNumbersOfTheCables) {
+  SetCable(0, "20", "1000", "20");
+  SetCable(1, "20", "1000", "20");
+  Sheet().txt本数[0].PressKey(U'\r');
+  EXPECT_EQ(Sheet().Focused(), &Sheet().txt本数[1]);
+  Sheet().txt本数[1].PressKey(U'\r');
+  EXPECT_EQ(Sheet().Focused(), &Sheet().cmd編集[2]);
+}
+
 TEST_F(CableTest, RowsWithoutNameOrQuantityAddNothing) {
   SetCable(0, "20", "1000", "10");
   SetCable(1, "20", "1000", "10");
