@@ -47,6 +47,14 @@ void frmCable::BindHandlers() {
       label->onClick = cmd編集[row].onClick;
     }
     txt本数[row].onChange = [this] { TellUncalculated(); };
+    // Numbers are typed down the column; behind the last cable comes the button for a new one.
+    txt本数[row].onEnter = [this, row] {
+      if (row + 1 < kRows && !IsBlank(lblCable[row + 1].Text())) {
+        SetFocus(txt本数[row + 1]);
+      } else {
+        FocusNext(txt本数[row]);
+      }
+    };
   }
   txtSpan.onChange = [this] { TellUncalculated(); };
   for (TextBox* box : {&txtWidth, &txtHeight, &txt折込, &txtThickness, &txt作業員}) {
@@ -131,16 +139,21 @@ void frmCable::cmdDuct初期化_Click() {
   }
   txtSpan.SetText("5");
   txt作業員.SetText("2");
+  ClearResults();
+  SetFocus(txtTagNo);
+  Space().calcDone = false;
+}
+
+void frmCable::ClearResults() {
   for (ResultLabel* label : {&lblSumArea, &lblUnitWeightSub, &lblSumWeight, &lblDuctArea,
                              &lbl占積率, &lblDuctWeight, &lbl撓み}) {
     label->SetText("");
   }
   lbl区分.SetText("");
   lbl未計算.SetText("");
-  SetFocus(txtTagNo);
   SetSagColor(forms::kBlack);
-  Space().calcDone = false;
-  ShowDrawing(std::nullopt);
+  drawing_ = {};
+  RedrawDuct();
 }
 
 void frmCable::TellUncalculated() {
@@ -202,6 +215,7 @@ void frmCable::cmd計算_Click() {
   Space().calcNote.clear();
   Space().calcDone = false;
   if (!HasData({"CableDuct.dat"})) return;
+  ClearResults();
   for (const int row : CountedRows()) ShowRow(row);
   const ducts::DuctCatalogue::Row& size =
       ducts::SmallestDuct(Space().tables.ducts, TotalLoad().area);
@@ -213,6 +227,7 @@ void frmCable::cmd計算_Click() {
 
 void frmCable::Evaluate() {
   const Quiet quiet(*this);
+  ClearResults();  // a fault must not leave those of other dimensions
   const ducts::CableLoad sum = TotalLoad();
   const ducts::DuctCheck check =
       ducts::CheckDuct(Section(), sum, Val(txtSpan.Text()), Val(txt作業員.Text()));
@@ -222,7 +237,6 @@ void frmCable::Evaluate() {
   lbl占積率.SetText(check.fill ? Format(*check.fill, kShareFormat) : "");
   lblDuctWeight.SetText(Format(check.ductWeight, kDuctFormat));
   ShowSag(check);
-  lbl未計算.SetText("");
   ShowDrawing(check.fill);
 }
 
@@ -240,6 +254,10 @@ void frmCable::ShowDrawing(const std::optional<Real>& fill) {
   std::vector<ducts::CableRun> cables;
   for (const int row : CountedRows()) cables.push_back(Run(row));
   drawing_.Set(Section(), cables, fill);
+  RedrawDuct();
+}
+
+void frmCable::RedrawDuct() {
   pic断面.Redraw();
   if (auto* const view = dynamic_cast<frmDuctDraw*>(Space().forms.Find(frmDuctDraw::kName))) {
     view->picDuct.Redraw();

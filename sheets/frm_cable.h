@@ -136,6 +136,8 @@ class frmCable : public shell::Sheet {
   void ShowSumWeights(const ducts::CableLoad& sum);
   void ShowSag(const ducts::DuctCheck& check);
   void SetSagColor(forms::Color color);
+  void RedrawDuct();
+  void ClearResults();
   void ShowDrawing(const std::optional<ducts::Real>& fill);
   void ClearRow(int row);
   void ClearRowResults(int row);

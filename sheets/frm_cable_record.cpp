@@ -46,13 +46,13 @@ shell::DuctRow frmCable::Record() {
 
 void frmCable::Show(const shell::DuctRow& record) {
   const Quiet quiet(*this);
+  ClearResults();
   for (const auto& [field, control] : RecordFields()) control->SetText(common::At(record, field));
   for (int row = 0; row < kRows; ++row) {
     common::At(choices_, row) =
         ducts::FindCable(lblCable[row].Text(), lbl芯数[row].Text(), lblSize[row].Text());
   }
   SetSagColor(ColorOf(record[shell::kDuctSagColor]));
-  lbl未計算.SetText("");
   Space().calcDone = false;
   ShowStoredResults(record);
 }

@@ -109,6 +109,34 @@ TEST_F(CableTest, DimensionsAndWorkersAreCheckedAtOnceTheSpanIsNot) {
   EXPECT_TRUE(TakeTexts().empty());
 }
 
+TEST_F(CableTest, OverflowLeavesNoResultsOfOtherInputs) {
+  SetCable(0, "20", "1000", "20");
+  Click("cmd計算");
+  const auto shown = [this] {
+    return Text("lblSumArea") + Text("lblSumWeight") + Text("lblDuctArea") + Text("lbl占積率") +
+           Text("lblDuctWeight") + Text("lbl撓み");
+  };
+  const std::string results = shown();
+  Type("txtWidth", "1e308");
+  EXPECT_EQ(shown(), "");
+  EXPECT_EQ(Sheet().lbl撓み.ToolTip(), "");
+  Type("txtWidth", "250");
+  EXPECT_EQ(shown(), results);
+  Type("txt本数(0)", "1e308");
+  Click("cmd計算");
+  EXPECT_EQ(shown(), "");
+  EXPECT_EQ(TakeTexts(), Texts(2, "オーバーフローしました。"));
+}
+
+TEST_F(CableTest, EnterWalksDownTheNumbersOfTheCables) {
+  SetCable(0, "20", "1000", "20");
+  SetCable(1, "20", "1000", "20");
+  Sheet().txt本数[0].PressKey(U'\r');
+  EXPECT_EQ(Sheet().Focused(), &Sheet().txt本数[1]);
+  Sheet().txt本数[1].PressKey(U'\r');
+  EXPECT_EQ(Sheet().Focused(), &Sheet().cmd編集[2]);
+}
+
 TEST_F(CableTest, RowsWithoutNameOrQuantityAddNothing) {
   SetCable(0, "20", "1000", "10");
   SetCable(1, "20", "1000", "10");
