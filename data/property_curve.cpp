@@ -71,11 +71,15 @@ std::vector<std::pair<double, double>> PropertyOverRange(const FluidTable& liqui
   state.densityUnit = property == FluidProperty::kGasDensity ? 1 : 0;
   PropertyEstimator estimator(liquids, gases, state, messages);
   std::vector<std::pair<double, double>> points;
-  for (int i = 0; i <= kSteps; ++i) {
-    state.temperatureC = i == kSteps ? high : low + (high - low) * i / kSteps;
-    state.temperatureK = state.temperatureC + 273.15;
-    const Real value = Estimate(estimator, fluidIndex, property);
-    if (value != 0) points.emplace_back(state.temperatureC, value);
+  try {
+    for (int i = 0; i <= kSteps; ++i) {
+      state.temperatureC = i == kSteps ? high : low + (high - low) * i / kSteps;
+      state.temperatureK = state.temperatureC + 273.15;
+      const Real value = Estimate(estimator, fluidIndex, property);
+      if (value != 0) points.emplace_back(state.temperatureC, value);
+    }
+  } catch (const common::RuntimeFault&) {
+    return {};  // the range is wider than a number can be
   }
   return points;
 }

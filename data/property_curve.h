@@ -27,7 +27,8 @@ struct EquationFields {
 EquationFields FieldsOf(FluidProperty property);
 
 /// A property as the estimators give it, over the range of its equation, in points of degC and
-/// value; a temperature without a value has none. Empty when the range lacks an end.
+/// value; a temperature without a value has none. Empty when the range lacks an
+/// end or is wider than a number can be.
 std::vector<std::pair<double, double>> PropertyOverRange(const FluidTable& liquids,
                                                          const FluidTable& gases, int fluidIndex,
                                                          FluidProperty property);

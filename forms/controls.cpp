@@ -101,6 +101,7 @@ bool TextBox::PressKey(char32_t key) {
     return false;
   }
   if (key == kBackspace) return true;
+  if (key == U'\t') return false;  // walks on by the window's own means; never a character
   if (!acceptsKey_(key)) {
     Owner().Beep();
     return false;

@@ -51,7 +51,7 @@ class TextBox : public Control {
   /// The user's edit has led to this text. Fires onChange as SetText does and can be undone.
   void Type(std::string text);
   /// A printable key, Enter ('\r') or Backspace ('\b') pressed in the field: false when it is
-  /// swallowed. Enter walks on, a key that the filter refuses beeps.
+  /// swallowed. Enter walks on, Tab does nothing here, a key that the filter refuses beeps.
   bool PressKey(char32_t key);
   /// An arrow key: true if the form used it.
   bool PressArrow(Arrow arrow);

@@ -84,14 +84,14 @@ void frmMaterial::txtMaterialName_Change() {
   name = stored;
   optMaterial[material_].SetText(name);
   Changed();
-  for (forms::Form* form : Space().forms.Open()) {
-    if (auto* const user = dynamic_cast<MaterialUser*>(form)) user->MaterialsChanged();
-  }
 }
 
 void frmMaterial::Changed() {
   Space().materialsModified = true;
   ShowModified();
+  for (forms::Form* form : Space().forms.Open()) {
+    if (auto* const user = dynamic_cast<MaterialUser*>(form)) user->MaterialsChanged();
+  }
 }
 
 void frmMaterial::ShowModified() {

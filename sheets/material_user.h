@@ -9,8 +9,8 @@ namespace sheets {
 class MaterialUser {
  public:
   virtual ~MaterialUser() = default;
-  /// The materials have been edited while the form is open: its lists are to show their names. What
-  /// the user has chosen and entered stays.
+  /// A name or a cell of the materials has been edited while the form is open: its lists are to
+  /// show their names. What the user has chosen and entered stays.
   virtual void MaterialsChanged() = 0;
 };
 

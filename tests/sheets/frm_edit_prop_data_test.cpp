@@ -267,6 +267,18 @@ TEST_F(FluidEditor, DrawsTheCurveThatTheFieldsGive) {
     return points;
   };
   for (int plot = 0; plot < 3; ++plot) EXPECT_EQ(drawn(plot), 81U);
+  // Ranges that no axis can be labelled with, and one that is wider than a number, of a constant.
+  const char* const constant[] = {"3", "1000", "0", "0", "500"};
+  for (int i = 0; i < 5; ++i) Edit(1 + i, constant[i]);
+  for (const char* end : {"4e299", "1e308"}) {
+    Edit(6, end == std::string("1e308") ? "-1e308" : "3e299");
+    Edit(7, end);
+    EXPECT_EQ(drawn(0), 0U);
+    EXPECT_EQ(TakeTexts(), Texts{});
+  }
+  Edit(6, "0");
+  Edit(7, "100");
+  EXPECT_EQ(drawn(0), 81U);
   Edit(1, "no such code");
   EXPECT_EQ(drawn(0), 0U);
   Choose("Option2");

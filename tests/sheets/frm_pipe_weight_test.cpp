@@ -70,6 +70,13 @@ TEST_F(PipeWeight, MaterialWithoutDensityIsTold) {
   Type("txtMaterialName", "新材料");
   bench.Forms().Show("frmPipeWeight");
   EXPECT_EQ(Text("cbo配管材質"), "新材料");
+  Pick("cbo配管材質", 2);
+  EXPECT_EQ(Rows().size(), 25U);
+  bench.Forms().Show("frmMaterial");
+  Choose("optMaterial(2)");
+  Type("txt密度L(2)", "9000");
+  bench.Forms().Show("frmPipeWeight");
+  EXPECT_EQ(Rows().size(), 0U);  // the weights of before are none of this table's
 }
 
 }  // namespace

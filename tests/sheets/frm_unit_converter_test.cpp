@@ -54,6 +54,7 @@ TEST_F(UnitConverter, OpensOnTheFirstCategoryInItsPlace) {
   }
   auto& box = Find<forms::TextBox>("txtLeft");
   EXPECT_TRUE(box.PressKey(U'-') && box.PressKey(U'.') && !box.PressKey(U'\r'));
+  EXPECT_FALSE(box.PressKey(U'\t'));
   EXPECT_EQ(presenter.beeps, 0);
   EXPECT_FALSE(box.PressKey(U'e') || box.PressKey(U','));
   EXPECT_EQ(presenter.beeps, 2);
