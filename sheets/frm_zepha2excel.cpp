@@ -37,8 +37,9 @@ void frmZepha2Excel::ShowIdle() {
 }
 
 void frmZepha2Excel::cmdExchangeStart_Click() {
+  auto started = std::make_unique<shell::TagExport>(workspace_);
   path_ = shell::NewWorkbookPath(workspace_.tags.zephaFileName);
-  export_ = std::make_unique<shell::TagExport>(workspace_);
+  export_ = std::move(started);
   cmdExchangeStart.SetEnabled(false);
   cmdEnd.SetEnabled(false);
   lblMessage.SetText("ＥＸＣＥＬデータを生成中です。");

@@ -59,9 +59,19 @@ std::optional<double> NumberOf(std::string_view stored) {
   return value;
 }
 
-/// A text that may be blank.
+/// Whether a text shows nothing: blanks, full-width ones too, and control characters.
+bool ShowsNothing(std::string_view text) {
+  constexpr std::string_view kFullWidthBlank = "　";
+  while (!text.empty()) {
+    const bool wide = text.starts_with(kFullWidthBlank);
+    if (!wide && static_cast<unsigned char>(text.front()) > ' ') return false;
+    text.remove_prefix(wide ? kFullWidthBlank.size() : 1);
+  }
+  return true;
+}
+
 CellValue TextOf(std::string_view text) {
-  if (Trimmed(text).empty()) return {};
+  if (ShowsNothing(text)) return {};
   return std::string(text);
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
 
 #include "common/fault.h"
 #include "common/file.h"
@@ -60,13 +59,11 @@ std::string ReplaceQuestion(const std::string& path) {
 }
 
 std::string NewWorkbookPath(const std::string& instrumentFile) {
-  std::error_code none;
-  const std::string folder = std::filesystem::temp_directory_path(none).string();
   const std::string title = instrumentFile.empty() ? "ZEPHA" : FileTitle(instrumentFile);
   for (int number = 1;; ++number) {
     std::string name = title;
     if (number > 1) name.append("(").append(std::to_string(number)).append(")");
-    const std::string path = common::JoinPath(folder, name + ".xlsx");
+    const std::string path = common::JoinPath(common::TemporaryFolder(), name + ".xlsx");
     // "x" creates the file or fails, so that no other program gets the same name.
     if (std::FILE* const file = std::fopen(path.c_str(), "wbx")) {
       std::fclose(file);

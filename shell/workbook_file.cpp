@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
-#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -123,7 +122,7 @@ class PointAsDecimalSign {
 /// before the user's file is touched.
 class ScratchFile {
  public:
-  ScratchFile() : path_(std::filesystem::temp_directory_path() / "zepha-XXXXXX") {
+  ScratchFile() : path_(common::JoinPath(common::TemporaryFolder(), "zepha-XXXXXX")) {
     const int file = mkstemp(path_.data());
     if (file < 0) RaiseWriterFault(std::strerror(errno));
     close(file);
