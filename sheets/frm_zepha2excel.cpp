@@ -1,7 +1,6 @@
 #include "sheets/frm_zepha2excel.h"
 
 #include <cstdio>
-#include <utility>
 
 #include "common/fault.h"
 #include "common/file.h"
@@ -37,9 +36,8 @@ void frmZepha2Excel::ShowIdle() {
 }
 
 void frmZepha2Excel::cmdExchangeStart_Click() {
-  auto started = std::make_unique<shell::TagExport>(workspace_);
   path_ = shell::NewWorkbookPath(workspace_.tags.zephaFileName);
-  export_ = std::move(started);
+  export_ = std::make_unique<shell::TagExport>(workspace_);
   cmdExchangeStart.SetEnabled(false);
   cmdEnd.SetEnabled(false);
   lblMessage.SetText("ＥＸＣＥＬデータを生成中です。");

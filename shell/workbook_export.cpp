@@ -22,13 +22,20 @@ bool TagExport::Next() {
   if (done_ > kStepsBefore) {
     AddTag(done_ - kStepsBefore);
   } else if (done_ > 1) {
-    file_.AddWorksheet(workbook::Worksheets().at(static_cast<std::size_t>(done_ - 2)));
-  } else if (workspace_.tables.lists.Empty()) {
+    file_->AddWorksheet(workbook::Worksheets().at(static_cast<std::size_t>(done_ - 2)));
+  } else {
+    Begin();
+  }
+  return true;
+}
+
+void TagExport::Begin() {
+  if (workspace_.tables.lists.Empty()) {
     throw common::RuntimeFault(
         common::Fault::kFileAccess,
         "ZephaConvertData.dat を読み込めなかったため、単位などの名称を書き込めません。");
   }
-  return true;
+  file_.emplace();
 }
 
 void TagExport::AddTag(int row) {
@@ -43,8 +50,8 @@ void TagExport::AddTag(int row) {
   const auto index = static_cast<int>(found - sheets.begin());
   const int sheetRow = sheetNextRow_[static_cast<std::size_t>(index)]++;
   for (std::size_t column = 0; column < found->columns.size(); ++column) {
-    file_.Write(index, sheetRow, static_cast<int>(column),
-                found->columns[column].value(record, workspace_.tables));
+    file_->Write(index, sheetRow, static_cast<int>(column),
+                 found->columns[column].value(record, workspace_.tables));
   }
 }
 

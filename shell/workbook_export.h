@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,15 +28,16 @@ class TagExport {
   /// kind that has no worksheet, and without the lists that name the units.
   bool Next();
   /// The bytes of the finished workbook.
-  std::string Finish() { return file_.Finish(); }
+  std::string Finish() { return file_.value().Finish(); }
 
  private:
+  void Begin();
   void AddTag(int row);
 
   const Workspace& workspace_;
   int tags_;
   int done_ = 0;
-  WorkbookFile file_;
+  std::optional<WorkbookFile> file_;
   /// The next free row of each worksheet; 0 holds the titles.
   std::vector<int> sheetNextRow_;
 };

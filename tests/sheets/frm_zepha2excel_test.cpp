@@ -74,7 +74,7 @@ TEST_F(ExportTest, WithoutAFolderItCannotStart) {
   std::filesystem::remove_all(folder.Path());
   setenv("TMPDIR", "/proc", 1);  // a folder that takes no files
   Start();
-  EXPECT_EQ(TakeTexts().size(), 1U);
+  EXPECT_EQ(TakeTexts(), Texts({"Excelを起動できません。"}));
   ExpectIdle();
 }
 
