@@ -28,12 +28,12 @@ std::string_view Trimmed(std::string_view text) {
 
 /// Takes the thousands commas out of a whole part ("1,234,567"). False where they stand elsewhere.
 bool TakeCommas(std::string& text) {
+  if (text.find(',') == std::string::npos) return true;
   const std::size_t end = text.find_first_of(".eE");
   const std::size_t begin = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
   std::string whole = text.substr(begin, end == std::string::npos ? end : end - begin);
   std::size_t comma = whole.find(',');
-  if (comma == std::string::npos) return true;
-  if (comma == 0 || comma > 3) return false;
+  if (comma == std::string::npos || comma == 0 || comma > 3) return false;
   while (comma < whole.size()) {
     if (whole[comma] != ',') return false;
     whole.erase(comma, 1);
@@ -49,9 +49,10 @@ std::optional<double> NumberOf(std::string_view stored) {
   const std::string_view trimmed = Trimmed(stored);
   if (trimmed.find_first_not_of("0123456789+-.,eE") != std::string_view::npos) return std::nullopt;
   if (trimmed.find_first_of(kDigits) == std::string_view::npos) return std::nullopt;
-  std::string text(trimmed);
-  if (!TakeCommas(text)) return std::nullopt;
-  if (text.starts_with('+') && !text.starts_with("+-")) text.erase(0, 1);
+  std::string plain(trimmed);
+  if (!TakeCommas(plain)) return std::nullopt;
+  std::string_view text = plain;
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   double value = 0;
   const char* const end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, value);

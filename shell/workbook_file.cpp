@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cmath>
 #include <cstring>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -72,8 +74,10 @@ std::string CellText(const std::string& text) {
 /// Characters of a number in a column's format.
 double NumberWidth(double value, int decimals) {
   if (decimals == workbook::kGeneral) {
+    constexpr double kMostShown = 11;
     char digits[32];
-    return std::min(snprintf(digits, sizeof digits, "%.10G", value), 11);
+    const char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    return std::min(static_cast<double>(end - digits), kMostShown);
   }
   const double rounded = std::max(std::fabs(value), 1.0);
   const int whole = static_cast<int>(std::floor(std::log10(rounded) + 1e-9)) + 1;
@@ -178,9 +182,10 @@ class WorkbookFile::Impl {
       Check(worksheet_write_number(sheet.target, Row(row), Column(column), *number, nullptr));
       width = NumberWidth(*number, sheet.columns->at(column).decimals);
     } else if (const std::string* const text = std::get_if<std::string>(&value)) {
-      const std::string cell = CellText(*text);
-      Check(worksheet_write_string(sheet.target, Row(row), Column(column), cell.c_str(), nullptr));
-      width = WidthOf(cell);
+      const Prepared& cell = Prepare(*text);
+      Check(worksheet_write_string(sheet.target, Row(row), Column(column), cell.text.c_str(),
+                                   nullptr));
+      width = cell.width;
     }
     sheet.widths[column] = std::max(sheet.widths[column], width);
     sheet.rows = std::max(sheet.rows, row);
@@ -203,6 +208,21 @@ class WorkbookFile::Impl {
     std::vector<double> widths;
     int rows = 0;
   };
+
+  struct Prepared {
+    std::string text;
+    double width = 0;
+  };
+
+  /// Most texts are units, materials and the like, which come again and again.
+  const Prepared& Prepare(const std::string& text) {
+    const auto [found, isNew] = prepared_.try_emplace(text);
+    if (isNew) {
+      found->second.text = CellText(text);
+      found->second.width = WidthOf(found->second.text);
+    }
+    return found->second;
+  }
 
   static lxw_row_t Row(int row) { return static_cast<lxw_row_t>(row); }
   static lxw_col_t Column(std::size_t column) { return static_cast<lxw_col_t>(column); }
@@ -229,6 +249,7 @@ class WorkbookFile::Impl {
   lxw_format* title_ = nullptr;
   lxw_format* formats_[kFormats] = {};
   std::vector<Sheet> sheets_;
+  std::unordered_map<std::string, Prepared> prepared_;
 };
 
 WorkbookFile::WorkbookFile() : impl_(std::make_unique<Impl>()) {}
