@@ -39,7 +39,7 @@ class Messages {
   }
 };
 
-/// Hears nothing: for a calculation that has told the user everything before.
+/// Hears nothing: for a calculation whose messages are told elsewhere or not wanted.
 class NoMessages : public Messages {
  public:
   Answer Present(const Message&) override { return Answer::kOk; }

@@ -125,6 +125,38 @@ Real Val(std::string_view text) {
   return value;
 }
 
+bool IsNumber(std::string_view text) {
+  const auto skip = [&text](auto matches) {
+    std::size_t count = 0;
+    while (count < text.size() && matches(text[count])) ++count;
+    text.remove_prefix(count);
+    return count;
+  };
+  const auto skipOne = [&text](std::string_view characters) {
+    const bool found = !text.empty() && characters.find(text.front()) != std::string_view::npos;
+    if (found) text.remove_prefix(1);
+    return found;
+  };
+  const std::string_view whole = text;
+  skip(IsBlank);
+  skipOne("+-");
+  std::size_t digits = skip(IsDigit);
+  if (skipOne(".")) digits += skip(IsDigit);
+  if (digits == 0) return false;
+  if (skipOne("eEdD")) {
+    skipOne("+-");
+    if (skip(IsDigit) == 0) return false;
+  }
+  skip(IsBlank);
+  if (!text.empty()) return false;
+  try {
+    Val(whole);
+    return true;
+  } catch (const RuntimeFault&) {
+    return false;
+  }
+}
+
 std::string NumberText(Real value) { return GeneralText(static_cast<double>(value), 15); }
 
 std::string SpacedNumberText(Real value) {

@@ -42,45 +42,52 @@ class TabField : public Reporting<QTabBar, forms::TabStrip> {
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
-class ListField : public Reporting<QListWidget, forms::ListBox> {
+/// A list box, or a tab strip whose tabs stand at the left.
+template <class Kind>
+class ListField : public Reporting<QListWidget, Kind> {
  public:
-  using Reporting::Reporting;
+  using Base = Reporting<QListWidget, Kind>;
+  using Base::Base;
 
  protected:
-  void PressEnter() override { Shown().PressEnter(); }
+  void PressEnter() override { this->Shown().PressEnter(); }
 
   void keyPressEvent(QKeyEvent* event) override {
-    const int before = currentRow();
-    Reporting::keyPressEvent(event);
+    const int before = this->currentRow();
+    Base::keyPressEvent(event);
     // What the handler of a key has selected itself is not picked again.
-    const bool moved = currentRow() != before && currentRow() != Shown().Index();
-    if (moved && currentRow() >= 0) Shown().Pick(currentRow());
+    const bool moved = this->currentRow() != before && this->currentRow() != this->Shown().Index();
+    if (moved) PickCurrent();
   }
 
   void mousePressEvent(QMouseEvent* event) override {
     doubleClicked_ = false;
-    Reporting::mousePressEvent(event);
+    Base::mousePressEvent(event);
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
-    Reporting::mouseReleaseEvent(event);
+    Base::mouseReleaseEvent(event);
     const bool picks = event->button() == Qt::LeftButton && !std::exchange(doubleClicked_, false);
-    if (picks && currentRow() >= 0) Shown().Pick(currentRow());
+    if (picks) PickCurrent();
   }
 
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     // Its first click has picked the line.
     doubleClicked_ = event->button() == Qt::LeftButton;
-    Reporting::mouseDoubleClickEvent(event);
+    Base::mouseDoubleClickEvent(event);
   }
 
   /// The right button takes the line under it along, so that its command means that line.
   void contextMenuEvent(QContextMenuEvent* event) override {
-    if (currentRow() >= 0 && currentRow() != Shown().Index()) Shown().Pick(currentRow());
-    Reporting::contextMenuEvent(event);
+    if (this->currentRow() != this->Shown().Index()) PickCurrent();
+    Base::contextMenuEvent(event);
   }
 
  private:
+  void PickCurrent() {
+    if (this->currentRow() >= 0) this->Shown().Pick(this->currentRow());
+  }
+
   bool doubleClicked_ = false;
 };
 
@@ -154,7 +161,7 @@ int ComboWidth(const forms::ComboBox& box) {
   return std::clamp(LongestItem(box), kUnitWidth, kLargestWidth);
 }
 
-void ShowList(const forms::ListBox& box, QListWidget& list) {
+void ShowList(const forms::ListControl& box, QListWidget& list) {
   const QSignalBlocker quiet(list);
   const int count = box.Count();
   while (list.count() > count) delete list.takeItem(list.count() - 1);
@@ -272,7 +279,7 @@ Bound Bind(forms::ComboBox& box, QWidget& parent) {
 }
 
 Bound Bind(forms::ListBox& list, QWidget& parent) {
-  auto* const field = new ListField(list, parent);
+  auto* const field = new ListField<forms::ListBox>(list, parent);
   field->setUniformItemSizes(true);
   return {field, [&list, field] { ShowList(list, *field); },
           [&list, field](const Scale& scale, int characters) {
@@ -303,7 +310,22 @@ Bound Bind(forms::CheckList& list, QWidget& parent) {
           }};
 }
 
+Bound BindTabsAtLeft(forms::TabStrip& strip, QWidget& parent) {
+  constexpr int kWidth = 20;
+  constexpr double kLeastHeightEm = 16;
+  auto* const field = new ListField<forms::TabStrip>(strip, parent);
+  field->setUniformItemSizes(true);
+  return {field, [&strip, field] { ShowList(strip, *field); },
+          [field](const Scale& scale, int characters) {
+            const int width = scale.Digits(characters > 0 ? characters : kWidth) + scale.Em(2);
+            field->setMinimumWidth(width);
+            field->setMaximumWidth(width);
+            field->setMinimumHeight(scale.Em(kLeastHeightEm));
+          }};
+}
+
 Bound Bind(forms::TabStrip& strip, QWidget& parent) {
+  if (strip.Where() == forms::TabStrip::Side::kLeft) return BindTabsAtLeft(strip, parent);
   auto* const tabs = new TabField(strip, parent);
   tabs->setDrawBase(false);
   tabs->setExpanding(false);

@@ -58,6 +58,8 @@ bool IsTall(const forms::Cell& cell) {
   return IsArea(cell) ||
          std::any_of(cell.Controls().begin(), cell.Controls().end(),
                      [](const forms::Control* control) {
+                       const auto* const tabs = dynamic_cast<const forms::TabStrip*>(control);
+                       if (tabs != nullptr) return tabs->Where() == forms::TabStrip::Side::kLeft;
                        const auto* const bar = dynamic_cast<const forms::ScrollBar*>(control);
                        return bar != nullptr &&
                               bar->Orientation() == forms::ScrollBar::Direction::kVertical;

@@ -115,6 +115,7 @@ QColor Ground(forms::Color color, const Theme& theme) {
   if (color == forms::kWhite) return theme.field;
   if (color < 0) return theme.fieldOff;
   if (color == forms::kUnsaved) return {"#ffd98a"};
+  if (color == forms::kDoubtful) return {theme.dark ? "#7a3340" : "#ffc8c8"};
   return PaperColor(color);
 }
 

@@ -18,6 +18,8 @@ inline constexpr Color kBlue = 0xFF0000;
 inline constexpr Color kWhite = 0xFFFFFF;
 /// Background of a field that is switched off.
 inline constexpr Color kButtonFace = -2147483633;
+/// Background of an entry that looks wrong and is taken all the same.
+inline constexpr Color kDoubtful = 0xC8C8FF;
 /// Background of a save button while there are unsaved edits.
 inline constexpr Color kUnsaved = 0xC0E0FF;
 

@@ -239,7 +239,8 @@ int CheckList::MarkedCount() const {
   return count;
 }
 
-TabStrip::TabStrip(Form& form, std::string name) : ListControl(form, std::move(name), {}) {}
+TabStrip::TabStrip(Form& form, std::string name, Side side)
+    : ListControl(form, std::move(name), {}), side_(side) {}
 
 CheckControl::CheckControl(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)) {

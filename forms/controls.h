@@ -166,8 +166,14 @@ class CheckList : public ListControl {
 
 class TabStrip : public ListControl {
  public:
-  TabStrip(Form& form, std::string name);
+  /// Where the tabs stand; at the left they are lines below each other, for more than fit in a row.
+  enum class Side { kTop, kLeft };
+  TabStrip(Form& form, std::string name, Side side = Side::kTop);
   const char* Kind() const override { return "tabstrip"; }
+  Side Where() const { return side_; }
+
+ private:
+  Side side_;
 };
 
 /// Option button or check box.

@@ -16,10 +16,14 @@ Real Loss(Real velocity, Real zeta, Real density) {
   return (pow(velocity, 2) / kTwiceGravity) * zeta * density / kKgfM2PerKgfCm2;
 }
 
-/// Mean velocity, m/s. Beyond its pole the steam equation gives densities below 0, and so does a
-/// gas whose moisture is above its pressure: their losses would be below 0, too.
-Real Velocity(const Line& line, Real density) {
+/// Beyond its pole the steam equation gives densities below 0, and so does a gas whose moisture is
+/// above its pressure: their losses would be below 0, too.
+void RefuseNegative(Real density) {
   if (density < 0) common::RaiseFault(common::Fault::kInvalidArgument);
+}
+
+/// Mean velocity, m/s.
+Real Velocity(const Line& line, Real density) {
   const Real volumeFlow = line.massFlow / density;  // m3/h
   const Real D = line.innerDiameter / 1000;         // m
   return (volumeFlow * 4 / kPi) / pow(D, 2) / 3600;
@@ -84,6 +88,7 @@ bool FollowPipe(const Line& line, Descent& descent, LineLoss& result) {
   result.pressures.push_back(descent.Pressure());
   for (int i = 0; i < n; ++i) {
     const Real density = DensityAt(line, descent.Pressure());
+    RefuseNegative(density);
     result.velocityOut = Velocity(line, density);
     result.choked = line.fluidPhase != data::kLiquid &&
                     IsChoked(result.velocityOut, density, descent.Pressure());
@@ -131,7 +136,9 @@ std::optional<LineLoss> CalculateLineLoss(const Line& line) {
   result.outletZeta = OutletZeta(line.outlet);
   result.velocityIn = Velocity(line, line.densityFlow);
   result.inletLoss = InletLoss(line, result.velocityIn, result.inletZeta);
+  // No loss fits into a pressure below 0, where a gas has a density below 0.
   if (!descent.Lose(result.inletLoss)) return std::nullopt;
+  RefuseNegative(line.densityFlow);
   result.reynolds = common::ReynoldsNumber(line.massFlow, line.innerDiameter, line.viscosityCp);
   result.frictionFactor = FrictionFactor(result.reynolds, line.roughness, line.innerDiameter);
   if (!FollowPipe(line, descent, result)) return std::nullopt;

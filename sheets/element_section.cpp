@@ -27,6 +27,7 @@ constexpr double kWallShare = 0.07;        // pipe wall, share of D
 constexpr double kArrow = 75;              // twips
 constexpr double kTapWidth = 70;           // twips
 constexpr double kTextRoom = 1450;         // twips for a vertical dimension with its number
+constexpr double kThickest = 10;           // plate in D; a longer one leaves no room for the pipe
 constexpr double kQuarter = std::numbers::pi / 2;
 
 std::string Number(double millimetres) {
@@ -229,6 +230,9 @@ class Drawing {
       DrawPipeAlone(true, "計算すると絞り機構の断面を描きます。", forms::kBlack);
     } else if (section_.bore >= section_.pipeBore) {
       DrawPipeAlone(true, "絞り径 " + Number(section_.bore) + " は配管に入りません。",
+                    forms::kMagenta);
+    } else if (section_.thickness > kThickest * section_.pipeBore) {
+      DrawPipeAlone(true, "板厚 " + Number(section_.thickness) + " は図に収まりません。",
                     forms::kMagenta);
     } else {
       DrawElement();

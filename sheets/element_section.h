@@ -39,8 +39,8 @@ ElementSection::Shape ShapeOf(flow::ElementType type);
 /// fixed share. What the sheet does not know has the proportions of the standards (plates 0.03 D
 /// thick with a bevelled edge of 0.01 D; nozzles by ISO 5167-3, figures 1, 2 and 4; venturi tubes
 /// with a convergent of 21 and a divergent of 15 degrees, ISO 5167-4), and so have taps without a
-/// number. Before there is a bore, or with one that the pipe cannot hold, it shows the pipe and
-/// says what is missing.
+/// number. Before there is a bore, with one that the pipe cannot hold, or with a plate thicker than
+/// 10 D, it shows the pipe and says what is missing.
 void DrawElementSection(const ElementSection& section, forms::DrawSurface& surface, double width,
                         double height);
 /// The same on a picture's own size.

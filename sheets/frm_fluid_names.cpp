@@ -1,6 +1,6 @@
 #include "sheets/frm_fluid_names.h"
 
-#include "sheets/property_target.h"
+#include "sheets/list_texts.h"
 
 namespace sheets {
 
@@ -23,9 +23,13 @@ void frm流体名表示::FillNames() {
   const data::FluidTable& fluids = workspace_.process.fluidPhase == data::kGas
                                        ? workspace_.tables.gases
                                        : workspace_.tables.liquids;
-  std::vector<std::string> names;
-  for (const std::string& name : fluids.Names()) names.push_back(" " + name);
-  lst物性推算.SetItems(std::move(names));
+  lst物性推算.SetItems(FluidTexts(fluids));
+}
+
+void frm流体名表示::FluidsChanged() {
+  const int index = lst物性推算.Index();
+  FillNames();
+  if (index < lst物性推算.Count()) lst物性推算.SetIndex(index);
 }
 
 void frm流体名表示::Fill(bool all) {

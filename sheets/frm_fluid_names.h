@@ -1,12 +1,13 @@
 #pragma once
 
 #include "forms/controls.h"
+#include "sheets/property_target.h"
 #include "shell/workspace.h"
 
 namespace sheets {
 
 /// The fluid pick list over a calculator: fills one property, or all, of the sheet on top.
-class frm流体名表示 : public forms::Form {
+class frm流体名表示 : public forms::Form, public FluidUser {
  public:
   static constexpr const char* kName = "frm流体名表示";
 
@@ -20,6 +21,7 @@ class frm流体名表示 : public forms::Form {
   void Load() override;
   /// Lists the fluids of the current phase.
   void FillNames();
+  void FluidsChanged() override;
 
  private:
   void Fill(bool all);

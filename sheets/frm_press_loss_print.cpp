@@ -1,6 +1,5 @@
 // The printed page of the pressure loss sheet.
 
-#include "common/number.h"
 #include "common/text.h"
 #include "sheets/frm_press_loss.h"
 
@@ -68,7 +67,7 @@ void frmPressLoss::PrintFittings(CalculationPage& page) {
   int inLine = kFittingsPerLine;
   for (int i = 0; i < kFittings; ++i) {
     const std::string count = txt付属品数[i].Text();
-    if (common::Val(count) == 0) continue;
+    if (count.find_first_of("123456789") == std::string::npos) continue;
     if (inLine == kFittingsPerLine) {
       lines.emplace_back();
       inLine = 0;

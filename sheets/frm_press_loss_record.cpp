@@ -84,6 +84,7 @@ void frmPressLoss::AddPressLoss(int row) {
 void frmPressLoss::GetPressLoss(int row) {
   const shell::TagRow record = Space().tags.Row(row);
   if (At(record, shell::kKindColumn) != kKind) return;
+  ClearResults();  // a record that cannot be read must not leave those of the last tag
   Select(cbo流体, At(record, kFluid));
   {
     const Quiet quiet(*this);
@@ -91,7 +92,6 @@ void frmPressLoss::GetPressLoss(int row) {
     ShowLossUnit();
   }
   for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
-  ClearResults();
   for (const auto& [column, label] : ResultColumns()) label->SetText(At(record, column));
   StoreEntries();
   Space().calcDone = !lblTotalLoss.Text().empty();

@@ -206,6 +206,10 @@ void frmVortex::GetVortex(int row) {
   GetRecord(row, kFluidColumn, [this] { return RecordColumns(); });
 }
 
+void frmVortex::RestoreResults(int row) {
+  if (!Space().tags.Text(row, kSizeColumn).empty()) cmd計算_Click();
+}
+
 void frmVortex::DeclareLayout() {
   SetLayout(
       SheetBlock(lblタイトル,

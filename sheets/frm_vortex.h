@@ -51,6 +51,8 @@ class frmVortex : public ProcessSheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddVortex(row); }
   void GetFrom(int row) override { GetVortex(row); }
+  /// The record names the recommended size alone; the list and the chart are worked out again.
+  void RestoreResults(int row) override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintVortex(target); }
   /// Writes the entries into a row of the tag store, and the recommended size with its numbers.
   void AddVortex(int row);

@@ -13,6 +13,12 @@ std::vector<std::string> NominalSizeTexts(const data::ConvertLists& lists) {
   return texts;
 }
 
+std::vector<std::string> FluidTexts(const data::FluidTable& fluids) {
+  std::vector<std::string> texts;
+  for (const std::string& name : fluids.Names()) texts.push_back(" " + name);
+  return texts;
+}
+
 common::Real GroupedNumber(std::string text) {
   std::erase(text, ',');
   return common::Val(text);

@@ -35,6 +35,8 @@ frmRoughness::frmRoughness(shell::Workspace& workspace)
 }
 
 void frmRoughness::Load() {
+  // Without its file the table has nothing to choose from, and nothing that may go to the sheet.
+  if (workspace_.tables.pressLoss.Empty()) return;
   std::vector<std::string> names;
   for (const auto& pipe : workspace_.tables.pressLoss.pipeRoughnessTable) {
     names.push_back(pipe.name);

@@ -5,6 +5,7 @@
 #include "common/number.h"
 #include "data/steam.h"
 #include "data/units.h"
+#include "sheets/cautions.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_pipe_dia.h"
 #include "sheets/record_fields.h"
@@ -506,8 +507,7 @@ void ProcessSheet::WriteProperty(const std::string& word, std::optional<Real> va
   if (word != "比熱比") return;
   const bool doubtful = value && !data::IsPhysicalIsentropicExponent(*value);
   box->SetForeColor(doubtful ? forms::kMagenta : forms::kBlack);
-  box->SetToolTip(doubtful ? "推算値は物理的な範囲（1.0～1.7）の外にあります。確認してください。"
-                           : kEstimateHint);
+  box->SetToolTip(doubtful ? kUnphysicalExponent : kEstimateHint);
 }
 
 void ProcessSheet::FillProperty(const std::string& word, int fluidIndex) {

@@ -15,6 +15,15 @@ class PropertyTarget {
   virtual void FillAllProperties(int fluidIndex) = 0;
 };
 
+/// A form that lists the fluids of the tables.
+class FluidUser {
+ public:
+  virtual ~FluidUser() = default;
+  /// The tables have been edited while the form is open: its list is to be filled anew, results
+  /// that rest on the old data go. What the user has chosen and entered stays.
+  virtual void FluidsChanged() = 0;
+};
+
 /// A sheet that the pipe dialogue can fill.
 class PipeTarget {
  public:

@@ -8,15 +8,18 @@
 #include "sheets/frm_cv_correction.h"
 #include "sheets/frm_duct_list.h"
 #include "sheets/frm_edit_cv_spec.h"
+#include "sheets/frm_edit_prop_data.h"
 #include "sheets/frm_fluid_names.h"
 #include "sheets/frm_integral.h"
 #include "sheets/frm_material.h"
 #include "sheets/frm_move.h"
 #include "sheets/frm_orifice.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_pipe_weight.h"
 #include "sheets/frm_press_loss.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
+#include "sheets/frm_properties.h"
 #include "sheets/frm_rating.h"
 #include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
@@ -78,6 +81,9 @@ void Workbench::ProvideForms() {
   provide(frm単位換算::kName, std::type_identity<frm単位換算>());
   provide(frmUnitEdit::kName, std::type_identity<frmUnitEdit>());
   provide(frmMove::kName, std::type_identity<frmMove>());
+  provide("frmEditPropData", std::type_identity<frmEditPropData>());
+  provide("frm物性", std::type_identity<frm物性>());
+  provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
   provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
   provide(frmZepha2Excel::kName, std::type_identity<frmZepha2Excel>());

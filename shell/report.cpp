@@ -169,6 +169,7 @@ void TagPrinter::PrintTag(int row) {
     return;
   }
   sheet->GetFrom(row);
+  sheet->RestoreResults(row);
   PrintPage(workspace_, sheet, job_->NewPage());
   ++pages_;
 }

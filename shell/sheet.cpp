@@ -34,16 +34,18 @@ void Sheet::AddTo(int) {}
 
 void Sheet::GetFrom(int) {}
 
+void Sheet::RestoreResults(int) {}
+
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
-bool Sheet::HasData(const std::vector<std::string>& fileNames) const {
+bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {
   std::string missing;
   for (const std::string& name : fileNames) {
-    if (!workspace_.tables.IsRead(name)) missing += "\n" + name;
+    if (!workspace.tables.IsRead(name)) missing += "\n" + name;
   }
   if (missing.empty()) return true;
-  User().Show("次のデータファイルが読み込まれていないため、計算できません。" + missing, {},
-              common::Icon::kWarning);
+  workspace.Shown().Show("次のデータファイルが読み込まれていないため、計算できません。" + missing,
+                         {}, common::Icon::kWarning);
   return false;
 }
 

@@ -8,6 +8,9 @@
 
 namespace shell {
 
+/// Whether these data files have been read; tells the user otherwise.
+bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames);
+
 /// A form that is registered as a sheet: it takes and gives back its place on top of the workspace.
 class Sheet : public forms::Form {
  public:
@@ -25,6 +28,9 @@ class Sheet : public forms::Form {
   virtual void AddTo(int row);
   /// Fills the sheet from a row of the tag store. Only for rows of this sheet's kind.
   virtual void GetFrom(int row);
+  /// After GetFrom: works the results out that the tag has and its record does not hold, for a page
+  /// that is printed without the user.
+  virtual void RestoreResults(int row);
   /// Prints the sheet's own part of a page, from the texts that stand on it. False for a sheet that
   /// has none.
   virtual bool PrintBody(PrintSurface& target);
@@ -33,7 +39,9 @@ class Sheet : public forms::Form {
   Workspace& Space() const { return workspace_; }
   forms::Presenter& User() const { return workspace_.Shown(); }
   /// Whether the data files that a calculation needs have been read; tells the user otherwise.
-  bool HasData(const std::vector<std::string>& fileNames) const;
+  bool HasData(const std::vector<std::string>& fileNames) const {
+    return shell::HasData(workspace_, fileNames);
+  }
 
  private:
   Workspace& workspace_;

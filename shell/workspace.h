@@ -43,6 +43,8 @@ struct Workspace {
   /// The same of the converter's units and of the materials.
   bool unitsModified = false;
   bool materialsModified = false;
+  /// The fluid tables have been edited since their files were read or written.
+  bool fluidsModified = false;
   data::ProcessState process;
   TagStore tags;
   DuctStore ducts;

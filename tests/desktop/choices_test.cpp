@@ -179,5 +179,37 @@ TEST_F(Choices, TabsFollowBothWaysAndKeepAmpersands) {
   EXPECT_EQ(tabs.currentIndex(), 0);
 }
 
+/// More tabs than a row has room for.
+struct ManyTabs : forms::Form {
+  ManyTabs() : Form("frmManyTabs", "流体", forms::FormRole::kTool) {
+    std::vector<std::string> names;
+    for (int i = 0; i < 50; ++i) names.push_back("流体" + std::to_string(i));
+    tab流体.SetItems(std::move(names));
+    SetLayout(forms::Table({{tab流体}}));
+  }
+  forms::TabStrip tab流体{*this, "tab流体", forms::TabStrip::Side::kLeft};
+};
+
+TEST_F(Choices, TabsAtTheLeftAreLinesAndFollowBothWays) {
+  forms_.Provide("frmManyTabs", [] { return std::make_unique<ManyTabs>(); });
+  auto& form = dynamic_cast<ManyTabs&>(forms_.Show("frmManyTabs"));
+  QApplication::processEvents();
+  auto& lines = Find<QListWidget>(form, "tab流体");
+  int clicks = 0;
+  form.tab流体.onClick = [&] { ++clicks; };
+  ASSERT_EQ(lines.count(), 50);
+  QTest::mouseClick(lines.viewport(), Qt::LeftButton, {},
+                    lines.visualItemRect(lines.item(2)).center());
+  EXPECT_EQ(form.tab流体.Index(), 2);
+  QTest::keyClick(&lines, Qt::Key_End);
+  EXPECT_EQ(form.tab流体.Index(), 49);
+  EXPECT_EQ(clicks, 2);
+  form.tab流体.SetIndex(30);
+  EXPECT_EQ(lines.currentRow(), 30);
+  EXPECT_TRUE(lines.viewport()->rect().intersects(lines.visualItemRect(lines.item(30))));
+  form.tab流体.SetItem(30, "別名");
+  EXPECT_EQ(lines.item(30)->text(), QStringLiteral("別名"));
+}
+
 }  // namespace
 }  // namespace desktop

@@ -241,13 +241,22 @@ Line WithEnds(double inlet, double outlet) {
   return line;
 }
 
+/// The density of a gas has the sign of its pressure.
+Line BelowVacuum() {
+  Line line = Air();
+  line.pressureAbs = -line.pressureAbs;
+  line.densityFlow = -line.densityFlow;
+  return line;
+}
+
 TEST(CalculateLineLoss, StopsWhereTheLossExceedsThePressure) {
   const Change rows[] = {{"gas", Air(), &Line::pipeLength, 2000},
                          {"steam", Steam(), &Line::pipeLength, 4000},
                          {"liquid", AsLiquid(Air()), &Line::pipeLength, 4000},
                          {"inlet", WithEnds(5, 1), &Line::pipeLength, 0},
                          {"outlet", WithEnds(1, 0.1), &Line::pipeLength, 1},
-                         {"no pressure", AsLiquid(Air()), &Line::pressureAbs, 0}};
+                         {"no pressure", AsLiquid(Air()), &Line::pressureAbs, 0},
+                         {"below vacuum", BelowVacuum(), &Line::pipeLength, 1}};
   for (const Change& row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_TRUE(CalculateLineLoss(Air()));

@@ -95,6 +95,19 @@ TEST_F(SectionTest, SaysWhatIsMissing) {
   EXPECT_EQ(Draw(section).back(), "絞り径 102.3 は配管に入りません。");
 }
 
+TEST_F(SectionTest, AnyPlateThicknessStaysInThePicture) {
+  for (const double inD : {1e-6, 0.5, 3.0, 10.0, 10.1, 1e60}) {
+    SCOPED_TRACE(inD);
+    ElementSection section;
+    section.shape = Shape::kRestrictionPlate;
+    section.pipeBore = 40;
+    section.bore = 20;
+    section.thickness = inD * section.pipeBore;
+    const auto texts = Draw(section, 3300);
+    EXPECT_EQ(texts.size(), inD <= 10 ? 3U : 2U);
+  }
+}
+
 // To scale: the dimension line of the bore is beta times that of the pipe.
 TEST_F(SectionTest, BoreAndPipeHaveOneScale) {
   ElementSection section;

@@ -365,6 +365,20 @@ TEST_F(PrintTest, ManyTagsAreMadeInListOrderWithoutTouchingTheOpenSheet) {
   EXPECT_EQ(Space().activeSheetKind, "⊿P Flow");
 }
 
+// The record of a vortex meter holds its recommended size alone; its page shows all of them.
+TEST_F(PrintTest, TagsThatAreNotRecalculatedOnRecallPrintTheirResults) {
+  const int row = RowOf("FT-1601");
+  shell::TagPrinter printer(Space(), platform.StartPdf("all.pdf"), {row});
+  while (printer.Next()) continue;
+  bool size = false;
+  for (const TextItem& item : ItemsOf<TextItem>(platform.pages.front())) {
+    size = size || (item.text.find(" " + Space().tags.Text(row, 18) + " ") != std::string::npos &&
+                    item.text.find("～") != std::string::npos);
+  }
+  EXPECT_TRUE(size) << Written(platform.pages.front());
+  EXPECT_TRUE(presenter.messages.shown.empty());
+}
+
 TEST_F(PrintTest, MarkedTagsArePrintedAndTheResultIsTold) {
   Space().window.Run("mnuPrintAll");
   Click("cmd全解除");
