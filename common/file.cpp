@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <utility>
 
 #include "common/fault.h"
@@ -64,6 +65,12 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
   std::string path(folder);
   if (!path.empty() && path.back() != '/') path += '/';
   return path.append(name);
+}
+
+std::string TemporaryFolder() {
+  std::error_code none;
+  const std::filesystem::path folder = std::filesystem::temp_directory_path(none);
+  return none ? "/tmp" : folder.string();
 }
 
 std::string ReadFile(const std::string& path) {

@@ -8,6 +8,9 @@ namespace common {
 /// Folder and file name joined by the platform's separator.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
+/// Folder for files that need not last.
+std::string TemporaryFolder();
+
 /// All bytes of a file. Raises kFileNotFound when it or its folder does not exist, kFileAccess with
 /// the system's reason when it cannot be read, and refuses files beyond 64 MiB as no data of ours.
 std::string ReadFile(const std::string& path);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <exception>
+#include <filesystem>
 #include <utility>
 
 #include "common/text.h"
@@ -14,6 +15,7 @@
 #include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
+#include "shell/workbook_export.h"
 
 namespace headless {
 
@@ -80,7 +82,7 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"save", &Driver::SaveFile},
       {"print", &Driver::Print},
       {"printall", &Driver::PrintAll},
-      {"export", &Driver::NotThereYet},
+      {"export", &Driver::Export},
       {"recalculate", &Driver::NotThereYet},
   };
   return kActions;
@@ -450,6 +452,24 @@ void Driver::PrintAll(const std::string& object, const std::string& text, Json& 
   answer["pages"] = printer.Pages();
   answer["left"] = printer.Left();
   if (!written) throw Refusal{path + " could not be written whole."};
+}
+
+void Driver::Export(const std::string& object, const std::string& text, Json& answer) {
+  shell::Workspace& space = workbench_.Space();
+  const std::string path = WholeLine(object, text);
+  if (path.empty()) Misunderstand("export wants the path of a workbook.");
+  bool written = false;
+  RunGuarded([&] {
+    std::error_code unknown;
+    if (std::filesystem::exists(path, unknown) &&
+        !space.Shown().Ask(shell::ReplaceQuestion(path))) {
+      return;
+    }
+    shell::WriteWorkbook(space, path);
+    written = true;
+  });
+  if (!written) throw Refusal{"Nothing was exported to " + path + "."};
+  answer["tags"] = std::max(space.tags.TagCount(), 0);
 }
 
 void Driver::CloseForm(const std::string&, const std::string&, Json&) {

@@ -81,6 +81,7 @@ class Driver {
   void SaveFile(const std::string& object, const std::string& text, Json& answer);
   void Print(const std::string& object, const std::string& text, Json& answer);
   void PrintAll(const std::string& object, const std::string& text, Json& answer);
+  void Export(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
   void NotThereYet(const std::string& object, const std::string& text, Json& answer);

@@ -2,19 +2,6 @@
 
 namespace sheets {
 
-namespace {
-
-/// The rows of the bore table. Sheets and files keep a rating by this text, blank included.
-const std::vector<std::string>& Ratings() {
-  static const std::vector<std::string> kRatings = {
-      " JIS 2K",   " JIS 5K",   " JIS 10K",   " JIS 16K",  " JIS 20K",  " JIS 30K",
-      " JIS 40K",  " JIS 63K",  " JPI 125#",  " JPI 150#", " JPI 300#", " JPI 400#",
-      " JPI 600#", " JPI 900#", " JPI 1500#", " JPI 2500#"};
-  return kRatings;
-}
-
-}  // namespace
-
 frmRating::frmRating(shell::Workspace& workspace)
     : Form(kName, "フランジ規格", forms::FormRole::kDialog), workspace_(workspace) {
   cmdOK.onClick = [this] { cmdOK_Click(); };
@@ -33,7 +20,7 @@ RatingTarget* frmRating::Sheet() const {
 
 void frmRating::Load() {
   const Quiet quiet(*this);
-  lstRating.SetItems(Ratings());
+  lstRating.SetItems(valve::kFlangeRatings);
   const RatingTarget* const sheet = Sheet();
   if (sheet != nullptr) lstRating.SetIndex(lstRating.IndexOf(sheet->FlangeRating()));
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/controls.h"
+#include "shell/record_text.h"
 #include "shell/tag_store.h"
 
 namespace sheets {
@@ -30,8 +31,7 @@ class RecordWriter {
   int row_;
 };
 
-/// Whether a flag of a tag record is set; one of an old file may also be a number.
-bool IsSet(const std::string& text);
+using shell::IsSet;
 
 /// Selects the entry whose index a tag record holds.
 void Select(forms::ComboBox& box, const std::string& index);

@@ -28,6 +28,7 @@
 #include "sheets/frm_unit_converter.h"
 #include "sheets/frm_unit_edit.h"
 #include "sheets/frm_vortex.h"
+#include "sheets/frm_zepha2excel.h"
 #include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
 #include "sheets/thermowell_dialogues.h"
@@ -85,6 +86,7 @@ void Workbench::ProvideForms() {
   provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
   provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
+  provide(frmZepha2Excel::kName, std::type_identity<frmZepha2Excel>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
   provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());

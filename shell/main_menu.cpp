@@ -10,6 +10,7 @@
 #include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
+#include "shell/workbook_export.h"
 #include "shell/workspace.h"
 
 namespace shell {
@@ -108,7 +109,7 @@ void AddFileMenu(MenuBuilder& menu) {
   menu.Add("mnuUpdate", "上書き保存(&S)", menu.Calls(SaveFile), "Ctrl+S", "save");
   menu.Add("mnuSave", "名前を付けて保存(&S)", menu.Calls(SaveFileAs));
   menu.Separator();
-  menu.Add("mnuExcel", "EXCELデータ生成(&E)", {}, {}, "excel");
+  menu.AddForm("mnuExcel", "EXCELデータ生成(&E)", kExportForm, "excel");
   menu.Separator();
   menu.Add("mnuPrint", "印刷(&P)", menu.Calls(Print), "Ctrl+P", "print");
   menu.AddForm("mnuPrintAll", "一括印刷(&A)", kPrintAllForm, "print");
@@ -169,7 +170,7 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(3, "上書き保存", "save", menu.Calls(SaveFile));
   menu.Button(4, "印刷", "print", menu.Calls(Print));
   menu.Button(5, "データリスト", "taglist", menu.Calls(ShowDataList));
-  menu.Button(6, "データシートをEXCELに変換", "excel");
+  menu.Button(6, "データシートをEXCELに変換", "excel", menu.FormOpener(kExportForm));
   menu.Button(7, "プレビュー", "preview", menu.Calls(ShowPreview));
   menu.Button(8, "修正前の値に戻す", "undo", menu.Calls(UndoEntry));
   menu.SeparatorButton(9);

@@ -4,6 +4,7 @@
 
 #include "common/fault.h"
 #include "common/file.h"
+#include "common/number.h"
 #include "common/text.h"
 
 namespace shell {
@@ -61,6 +62,8 @@ void SaveUserFile(const std::string& path, const std::function<std::string()>& e
     throw RuntimeFault(fault.Number(), text + "\nデータは保存されていません。");
   }
 }
+
+bool IsSet(const std::string& text) { return text == "True" || common::Val(text) != 0; }
 
 std::string FileTitle(const std::string& path) {
   constexpr std::size_t kExtensionLength = 4;

@@ -25,6 +25,9 @@ void AppendField(std::string& bytes, const std::string& text, const std::string&
 /// touched. What fails is raised with a sentence that ends in "データは保存されていません。".
 void SaveUserFile(const std::string& path, const std::function<std::string()>& encode);
 
+/// Whether a flag of a tag record is set; one of an old file may also be a number.
+bool IsSet(const std::string& text);
+
 /// The file's name without its extension, as captions show it; a name of four characters or less is
 /// shown whole.
 std::string FileTitle(const std::string& path);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace valve {
 
@@ -44,6 +45,13 @@ bool ReadValveCatalogue(std::string bytes, ValveCatalogue& catalogue);
 /// Contents of ValveSpec.dat (CP932): a record of one field per maker, then per model a record of
 /// six fields and 22 of two. A character that CP932 lacks is to be refused before.
 std::string WriteValveCatalogue(const ValveCatalogue& catalogue);
+
+/// Flange ratings, the rows of the bore table. Sheets and files keep a rating by this text, blank
+/// included.
+inline const std::vector<std::string> kFlangeRatings = {
+    " JIS 2K",   " JIS 5K",   " JIS 10K",   " JIS 16K",  " JIS 20K",  " JIS 30K",
+    " JIS 40K",  " JIS 63K",  " JPI 125#",  " JPI 150#", " JPI 300#", " JPI 400#",
+    " JPI 600#", " JPI 900#", " JPI 1500#", " JPI 2500#"};
 
 /// Bores of valve bodies, as they stand in ValveDia.dat: text in mm by flange rating and nominal
 /// size, empty where there is no such valve.

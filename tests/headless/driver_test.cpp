@@ -43,7 +43,7 @@ TEST_F(DriverTest, NamesWhatItDoesNotKnow) {
   } rows[] = {
       {"open frmOrifise", "frmOrifice"},  {"get txtTag", "No form"}, {"jump txtTagNo", "jump"},
       {"menu mnuOrifices", "mnuOrifice"}, {"button 99", "99"},       {"answer maybe", "maybe"},
-      {"export", "not there yet"}};
+      {"export", "path of a workbook"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.line);
     const Json answer = Do(row.line);

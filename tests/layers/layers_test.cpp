@@ -84,6 +84,15 @@ TEST(Layers, OnlyTheDesktopKnowsTheToolkit) {
   }
 }
 
+TEST(Layers, OneFileKnowsTheWriterOfWorkbooks) {
+  for (const auto& [name, allowed] : Allowed()) {
+    ForEachLine(name, [](const std::string& line, const std::string& at) {
+      EXPECT_TRUE(!line.starts_with("#include <xlsxwriter") || at.starts_with("workbook_file.cpp:"))
+          << at;
+    });
+  }
+}
+
 TEST(Layers, PaperNeedsNoWindows) {
   ForEachLine("desktop/paper", [](const std::string& line, const std::string& at) {
     const bool ours = line.starts_with("#include \"desktop/");

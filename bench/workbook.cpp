@@ -1,0 +1,135 @@
+// 300 tags to a workbook, against the same cells handed to the writer's library with nothing of
+// ours between: several runs in turn, medians.
+
+#include <unistd.h>
+#include <xlsxwriter.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+#include "shell/instrument_file.h"
+#include "shell/workbook_export.h"
+#include "shell/workspace.h"
+
+namespace {
+
+constexpr int kTags = 300;
+constexpr int kRuns = 21;
+
+using shell::workbook::CellValue;
+using shell::workbook::Worksheet;
+
+/// Shows nothing and agrees.
+class Silent : public forms::Presenter {
+ public:
+  common::Answer Present(const common::Message&) override { return common::Answer::kYes; }
+  void ShowForm(forms::Form&) override {}
+  void RaiseForm(forms::Form&) override {}
+  void CloseForm(forms::Form&) override {}
+  void FormChanged(forms::Form&) override {}
+  void ControlChanged(forms::Control&) override {}
+  void FocusMoved(forms::Control&) override {}
+  void Beep() override {}
+  void RunSteps(forms::Form&, std::function<bool()>) override {}
+  std::optional<std::string> AskFile(const forms::FileQuestion&) override { return std::nullopt; }
+};
+
+using Rows = std::vector<std::vector<CellValue>>;
+
+/// The cells of all worksheets, without the titles.
+std::vector<Rows> CellsOf(const shell::Workspace& space) {
+  std::vector<Rows> sheets;
+  for (const Worksheet& sheet : shell::workbook::Worksheets()) {
+    Rows& rows = sheets.emplace_back();
+    for (int tag = 1; tag <= kTags; ++tag) {
+      const shell::TagRow& record = space.tags.Row(tag);
+      if (record[shell::kKindColumn] != sheet.kind) continue;
+      auto& row = rows.emplace_back();
+      for (const auto& column : sheet.columns) row.push_back(column.value(record, space.tables));
+    }
+  }
+  return sheets;
+}
+
+void WriteBareRow(lxw_worksheet* target, lxw_row_t row, const std::vector<CellValue>& cells) {
+  lxw_col_t column = 0;
+  for (const CellValue& cell : cells) {
+    if (const auto* number = std::get_if<double>(&cell)) {
+      worksheet_write_number(target, row, column, *number, nullptr);
+    } else if (const auto* text = std::get_if<std::string>(&cell)) {
+      worksheet_write_string(target, row, column, text->c_str(), nullptr);
+    }
+    ++column;
+  }
+}
+
+void WriteBare(const std::vector<Rows>& sheets, const std::string& path) {
+  lxw_workbook* const workbook = workbook_new(path.c_str());
+  lxw_format* const bold = workbook_add_format(workbook);
+  format_set_bold(bold);
+  std::vector<lxw_format*> formats;
+  for (const char* text : {"#,##0_ ", "#,##0.0_ ", "#,##0.00_ ", "#,##0.000_ ", "#,##0.0000_ "}) {
+    formats.push_back(workbook_add_format(workbook));
+    format_set_num_format(formats.back(), text);
+  }
+  for (std::size_t index = 0; index < sheets.size(); ++index) {
+    const Worksheet& layout = shell::workbook::Worksheets()[index];
+    lxw_worksheet* const target = workbook_add_worksheet(workbook, layout.kind.c_str());
+    lxw_col_t column = 0;
+    for (const auto& [title, decimals, source] : layout.columns) {
+      worksheet_set_column(target, column, column, 12,
+                           decimals < 0 ? nullptr : formats[static_cast<std::size_t>(decimals)]);
+      worksheet_write_string(target, 0, column++, title.c_str(), bold);
+    }
+    lxw_row_t row = 0;
+    for (const auto& cells : sheets[index]) WriteBareRow(target, ++row, cells);
+    worksheet_freeze_panes(target, 1, 1);
+    worksheet_autofilter(target, 0, 0, row, static_cast<lxw_col_t>(column - 1));
+  }
+  if (workbook_close(workbook) != LXW_NO_ERROR) std::fprintf(stderr, "not written\n");
+}
+
+double MillisecondsOf(const std::function<void()>& work) {
+  const auto begin = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
+      .count();
+}
+
+double Median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+}  // namespace
+
+int main() {
+  Silent user;
+  shell::MemorySettings settings;
+  shell::Workspace space(user, settings, nullptr);
+  space.tables = shell::LoadTables(ZEPHA_BUILD_DIR);
+  shell::OpenInstrumentFile(space.tags, ZEPHA_SOURCE_DIR "/samples/plant.zph", space.tables.pipes,
+                            space.tables.lists, user);
+  std::vector<shell::TagRow> rows = {space.tags.Row(0)};
+  for (int i = 0; i < kTags; ++i) {
+    rows.push_back(space.tags.Row(1 + i % space.tags.TagCount()));
+    rows.back()[shell::kTagNumberColumn] = "TAG-" + std::to_string(1000 + i);
+  }
+  space.tags.TakeRows(std::move(rows));
+
+  const std::vector<Rows> cells = CellsOf(space);
+  const std::string path = "/tmp/zepha-bench-" + std::to_string(getpid()) + ".xlsx";
+  std::vector<double> ours;
+  std::vector<double> bare;
+  for (int run = 0; run < kRuns; ++run) {
+    ours.push_back(MillisecondsOf([&] { shell::WriteWorkbook(space, path); }));
+    bare.push_back(MillisecondsOf([&] { WriteBare(cells, path); }));
+  }
+  std::remove(path.c_str());
+  std::printf("%d tags to a workbook: %.1f ms; bare library: %.1f ms; ratio %.2f\n", kTags,
+              Median(ours), Median(bare), Median(ours) / Median(bare));
+  return 0;
+}
