@@ -225,6 +225,7 @@ void BuildMainMenu(Workspace& workspace) {
     OpenFileOfItsKind(workspace, path);
   };
   ShowTitle(workspace);
+  workspace.window.SetButtonEnabled(kPrintButton, false);  // no sheet is open yet
   workspace.window.SetChecked("mnuToolBar", true);
   workspace.window.SetChecked("mnuSingle", true);
 }

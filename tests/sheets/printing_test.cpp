@@ -265,6 +265,7 @@ TEST_F(PrintTest, PreviewBreaksWhereThePaperDoes) {
 }
 
 TEST_F(PrintTest, WithoutASheetThereIsNothingToPrint) {
+  EXPECT_FALSE(Space().window.Button(4)->enabled);
   for (const auto& [command, title] : {std::pair("mnuPrint", "印刷"), std::pair("mnuHCopy", "印刷"),
                                        std::pair("mnuPreview", "Preview")}) {
     SCOPED_TRACE(command);
