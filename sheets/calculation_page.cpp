@@ -1,6 +1,7 @@
 #include "sheets/calculation_page.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "common/text.h"
 #include "shell/page_frame.h"
@@ -61,6 +62,11 @@ void CalculationPage::Continued(const std::string& value) {
 void CalculationPage::Text(const std::string& text) { PrintInFrame(text); }
 
 void CalculationPage::Row(const std::string& text) { PrintAt(kSectionColumn, kRowGap, text); }
+
+void CalculationPage::Remarks(const std::string& text) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) Text("※ " + line);
+}
 
 void CalculationPage::PrintInFrame(const std::string& text) {
   PrintAt(kLineColumn, kLineGap, text);

@@ -27,6 +27,8 @@ class CalculationPage {
   void Text(const std::string& text);
   /// A line of a table, from the column of the section headings and closer to its neighbours.
   void Row(const std::string& text);
+  /// What makes results doubtful, a line for each line of the text, marked as a remark.
+  void Remarks(const std::string& text);
   /// Half a line of room.
   void Gap();
   /// A picture in the middle of the page, below what has been printed, that wide (twips).

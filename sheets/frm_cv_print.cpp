@@ -1,7 +1,5 @@
 // The printed page of the valve sheet.
 
-#include <sstream>
-
 #include "common/number.h"
 #include "sheets/calculation_page.h"
 #include "sheets/frm_cv.h"
@@ -94,10 +92,9 @@ void frmCV::PrintResults(CalculationPage& page) {
   PrintResult(page, "下　　流　 流　 速", lblVelocity, "m/s");
   PrintResult(page, "騒　　　　　　　音", lblNoise, "dB(A)");
   for (const Label* mark : {&lblFlash, &lblCritical}) {
-    if (mark->Visible()) page.Text("※ " + mark->Text());
+    if (mark->Visible()) page.Remarks(mark->Text());
   }
-  std::istringstream cautions(lbl注意.Text());
-  for (std::string caution; std::getline(cautions, caution);) page.Text("※ " + caution);
+  page.Remarks(lbl注意.Text());
 }
 
 }  // namespace sheets

@@ -68,6 +68,7 @@ void frmIntegral::PrintDetail(CalculationPage& page) {
   page.Line("流量係数α", lblα.Text());
   page.Line("発   生   差   圧", differential,
             differential.empty() ? "" : "    kPa (" + lbl差圧結果[0].Text() + " mmH2O)");
+  page.Remarks(lbl注意.Text());
 }
 
 }  // namespace sheets

@@ -73,6 +73,7 @@ void frmRO::PrintResults(CalculationPage& page, shell::PrintSurface& target) {
   page.Line("必   要   板   厚", lblMinThickness.Text(), kMillimetres);
   page.Line("変     形     量 ", lbl変形量.Text(), kMillimetres);
   warn(lbl変形量, "変形量がダム高さの１％を超えています。板厚を大きくしてください。");
+  page.Remarks(lbl注意.Text());
 }
 
 }  // namespace sheets

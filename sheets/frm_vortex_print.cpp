@@ -36,6 +36,7 @@ bool frmVortex::PrintVortex(shell::PrintSurface& target) {
   for (int i = 0; i < kSizes; ++i) {
     if (!lblMeterSize[i].Text().empty()) page.Text(PageLine(i));
   }
+  page.Remarks(lbl注意.Text());
   page.Gap();
   const double height = std::min(page.Room() - kPictureGap, Picture4.Height());
   page.Picture(Picture4, height * Picture4.Width() / Picture4.Height());
