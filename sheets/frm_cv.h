@@ -117,6 +117,7 @@ class frmCV : public ProcessSheet,
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddCV(row); }
   void GetFrom(int row) override { GetCV(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintCV(target); }
   /// Writes entries and results into a row of the tag store.
   void AddCV(int row);

@@ -17,6 +17,7 @@ enum Column : std::size_t {
   kSecondary = 7,
   kPressureKind = 8,
   kDensityUnit = 14,
+  kRequiredCv = 24,
   kMaker = 25,
   kModel = 27,
   kFlangeRating = 28,
@@ -25,6 +26,7 @@ enum Column : std::size_t {
   kBodySize = 37,
   kMaterial = 42,
   kMaterialIndex = 43,
+  kSizedCv = 45,
   kVelocityColour = 49,
 };
 
@@ -67,8 +69,8 @@ std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
 }
 
 std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
-  return {{23, &lblFCI計算Cv}, {24, &lblISA計算Cv}, {45, &lblSizingCv},
-          {46, &lblOpening},   {47, &lblVelocity},  {48, &lblNoise}};
+  return {{23, &lblFCI計算Cv}, {kRequiredCv, &lblISA計算Cv}, {kSizedCv, &lblSizingCv},
+          {46, &lblOpening},   {47, &lblVelocity},           {48, &lblNoise}};
 }
 
 void frmCV::AddCV(int row) {
@@ -155,6 +157,17 @@ void frmCV::GetResults(const shell::TagRow& record) {
     GetEntries(record);
   }
   pic特性.Redraw();
+}
+
+/// A valve may have been chosen or not.
+std::vector<shell::Sheet::Calculation> frmCV::CalculationsOf(const shell::TagRow& record) {
+  if (record[kRequiredCv].empty()) return {};
+  const bool sized = !record[kSizedCv].empty();
+  return {{"", [this, sized] {
+             if (!Calculate(cmdCv計算)) return false;
+             if (sized) cmdSizing.Click();
+             return !sized || !lblNoise.Text().empty();  // the noise is the last result
+           }}};
 }
 
 }  // namespace sheets

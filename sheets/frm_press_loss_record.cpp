@@ -14,6 +14,7 @@ enum Column {
   kFluid = 2,
   kFirstFitting = 22,
   kUnused = 38,
+  kTotalLoss = 47,
   kLossUnit = 49,
 };
 
@@ -64,7 +65,7 @@ std::vector<std::pair<int, Label*>> frmPressLoss::ResultColumns() {
           {44, &lblζout},
           {45, &lblTerminalLoss[kIn]},
           {46, &lblTerminalLoss[kOut]},
-          {47, &lblTotalLoss},
+          {kTotalLoss, &lblTotalLoss},
           {48, &lbl付属品ζ}};
 }
 
@@ -110,6 +111,10 @@ void frmPressLoss::RestoreDiagram() {
   } catch (const common::RuntimeFault&) {
     // A record whose entries cannot be calculated was not written by this sheet.
   }
+}
+
+std::vector<shell::Sheet::Calculation> frmPressLoss::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kTotalLoss), cmd計算);
 }
 
 }  // namespace sheets

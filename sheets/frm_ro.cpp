@@ -290,6 +290,7 @@ namespace {
 
 constexpr int kFluidColumn = 3;
 constexpr int kUnusedColumn = 2;
+constexpr int kRatioColumn = 33;
 
 }  // namespace
 
@@ -325,7 +326,7 @@ TagColumns frmRO::RecordColumns() {
           {{30, &lbl流速1},
            {31, &lbl流量係数},
            {32, &lbl背圧補正},
-           {33, &lblβ},
+           {kRatioColumn, &lblβ},
            {34, &lbl絞り径},
            {35, &lbl応力係数},
            {36, &lblたわみ係数},
@@ -362,6 +363,10 @@ void frmRO::GetRO(int row) {
     CautionResults();
   }
   pic断面.Redraw();
+}
+
+std::vector<shell::Sheet::Calculation> frmRO::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kRatioColumn), cmd計算);
 }
 
 void frmRO::DeclareLayout() {

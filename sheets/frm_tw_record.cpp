@@ -14,7 +14,14 @@ using common::At;
 using common::Val;
 
 /// Columns of the record that are not in the tables below.
-enum Column { kFlowUnit = 14, kDensityUnit = 8, kMaterial = 16, kMaterialText = 17, kMark = 49 };
+enum Column {
+  kFlowUnit = 14,
+  kDensityUnit = 8,
+  kMaterial = 16,
+  kMaterialText = 17,
+  kVelocity = 31,
+  kMark = 49
+};
 
 /// Records marked older have other columns from 28 on, which reading a file empties.
 constexpr const char* kVersion = "Ver 2.2";
@@ -44,7 +51,7 @@ std::vector<std::pair<int, ComboBox*>> frmTW::SelectionColumns() {
 }
 
 std::vector<std::pair<int, Label*>> frmTW::ResultColumns() {
-  return {{31, &lbl流速R},
+  return {{kVelocity, &lbl流速R},
           {32, &lblレイノルズ数R},
           {33, &lblストローハル数},
           {34, &lblカルマン渦周波数R},
@@ -134,6 +141,10 @@ void frmTW::GetResults(const shell::TagRow& record) {
   } catch (const common::RuntimeFault&) {
     // A record whose entries cannot be calculated shows its results without notes and diagram.
   }
+}
+
+std::vector<shell::Sheet::Calculation> frmTW::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kVelocity), cmd計算);
 }
 
 }  // namespace sheets

@@ -36,6 +36,8 @@ void Sheet::GetFrom(int) {}
 
 void Sheet::RestoreResults(int) {}
 
+std::vector<Sheet::Calculation> Sheet::CalculationsOf(const TagRow&) { return {}; }
+
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
 bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {
