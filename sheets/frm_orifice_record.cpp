@@ -22,7 +22,9 @@ enum Column {
   kViscosityUnit = 14,
   kWetBase = 16,
   kSaturationUnit = 18,
+  kElementExpansion = 22,
   kPipeBore = 26,
+  kPipeExpansion = 27,
   kDifferential = 28,
   kDifferentialUnit = 29,
   kBore = 30,
@@ -80,12 +82,12 @@ std::vector<std::pair<int, forms::Control*>> frmOrifice::EntryColumns() {
           {19, &txt偏差係数},
           {20, &txt比熱比},
           {21, &cbo絞り部材質},
-          {22, &txt絞り部膨張率},
+          {kElementExpansion, &txt絞り部膨張率},
           {23, &cbo配管呼称径},
           {24, &cbo配管種類},
           {25, &cboSchedule},
           {kPipeBore, &txt配管内径},
-          {27, &txt配管線膨張率},
+          {kPipeExpansion, &txt配管線膨張率},
           {kDifferential, &txt設計差圧},
           {kBore, &txt絞り径}};
 }
@@ -190,6 +192,14 @@ std::vector<shell::Sheet::Calculation> frmOrifice::CalculationsOf(const shell::T
     std::swap(ways[0], ways[1]);
   }
   return ways;
+}
+
+std::vector<int> frmOrifice::LookUpAnew() {
+  std::vector<int> columns;
+  LookUp(columns, kElementExpansion, txt絞り部膨張率, {&cbo絞り部材質});
+  LookUp(columns, kPipeExpansion, txt配管線膨張率, {&cbo配管種類});
+  LookUp(columns, kPipeBore, txt配管内径, {&cbo配管呼称径, &cboSchedule});
+  return columns;
 }
 
 }  // namespace sheets

@@ -273,6 +273,16 @@ std::vector<shell::Sheet::Calculation> ProcessSheet::OneWay(const std::string& r
   return {{"", [this, &button] { return Calculate(button); }}};
 }
 
+void ProcessSheet::LookUp(std::vector<int>& columns, int column, TextBox& box,
+                          const std::vector<const ComboBox*>& selections) {
+  const bool listed =
+      std::all_of(selections.begin(), selections.end(),
+                  [](const ComboBox* selection) { return selection->Index() >= 0; });
+  if (!listed) return;
+  box.DblClick();
+  columns.push_back(column);
+}
+
 forms::Block ProcessSheet::SheetBlock(Label& heading, forms::Block body) {
   return forms::Column(
       {forms::Table({{heading}}),

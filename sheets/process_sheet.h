@@ -200,6 +200,11 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   /// The calculation of a sheet without modes, for a record in which this result stands.
   std::vector<Calculation> OneWay(const std::string& result, Button& button);
 
+  /// Looks an entry up anew, as a double click on it does, where all selections that it depends on
+  /// are in the database, and adds its column then.
+  static void LookUp(std::vector<int>& columns, int column, TextBox& box,
+                     const std::vector<const ComboBox*>& selections);
+
   /// Heading and tag line above the body of a sheet.
   forms::Block SheetBlock(Label& heading, forms::Block body);
 

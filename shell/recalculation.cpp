@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "common/number.h"
 #include "shell/field_names.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
@@ -34,6 +35,13 @@ void SetRow(TagStore& tags, int row, const TagRow& record) {
   for (int column = 0; column < kTagColumns; ++column) {
     tags.SetText(row, column, record[static_cast<std::size_t>(column)]);
   }
+}
+
+/// The same text or, where both are numbers, the same number ("0.9", "0.90").
+bool SameValue(const std::string& one, const std::string& other) {
+  if (one == other) return true;
+  const common::Real number = common::Val(one);
+  return number != 0 && number == common::Val(other);
 }
 
 std::string NoteOf(const common::Message& message) {
@@ -92,6 +100,30 @@ void Recalculator::Recalculate(int row) {
     if (same) break;
   }
   Take(row, *likeliest, calculations.size() > 1);
+  try {
+    CheckEntries(*sheet, row);
+  } catch (const common::RuntimeFault&) {
+    // What cannot be looked up cannot be compared.
+  }
+}
+
+/// An entry that was looked up counts as the user's once it is registered, so a database that has
+/// changed does not change the tag; but he shall know. A value that the database lacks is none.
+void Recalculator::CheckEntries(Sheet& sheet, int row) {
+  const TagRow& record = Stored(row);
+  const std::string& kind = record[kKindColumn];
+  Fill(sheet, record);
+  const std::vector<int> columns = sheet.LookUpAnew();
+  listener_.Take();
+  sheet.AddTo(kRegistered);
+  for (const int column : columns) {
+    const std::string& found = workspace_.tags.Text(kRegistered, column);
+    const std::string& entered = common::At(record, column);
+    if (found.empty() || found == "0" || SameValue(found, entered)) continue;
+    Note(row, "入力値「" + FieldName(kind, column) + "」の登録値 " +
+                  ShownField(kind, column, entered) + " は、データベースの値 " + found +
+                  " と異なります。");
+  }
 }
 
 void Recalculator::Fill(Sheet& sheet, const TagRow& record) {

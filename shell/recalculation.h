@@ -71,12 +71,14 @@ class Recalculator {
   void Fill(Sheet& sheet, const TagRow& record);
   Outcome Run(Sheet& sheet, const Sheet::Calculation& calculation, const TagRow& record);
   void Take(int row, const Outcome& outcome, bool hasModes);
+  /// Tells the entries that the databases have otherwise today.
+  void CheckEntries(Sheet& sheet, int row);
   void Note(int row, std::string text);
   const TagRow& Stored(int row) const { return stored_[static_cast<std::size_t>(row - 1)]; }
 
   Workspace& workspace_;
-  HiddenSheets sheets_;
   Listener listener_;
+  HiddenSheets sheets_;
   /// Row 1 holds what is recalled, row 2 takes what would be registered.
   TagStore scratch_;
   std::vector<TagRow> stored_;

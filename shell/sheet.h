@@ -45,6 +45,10 @@ class Sheet : public forms::Form {
   /// record does not tell the mode of its calculation: that which gives the stored results again is
   /// the tag's. Empty for a record without results.
   virtual std::vector<Calculation> CalculationsOf(const TagRow& record);
+  /// After GetFrom: enters anew what the sheet looks up in the databases by selections that the
+  /// record holds (a material, a pipe, a valve). The columns of the record that were entered; those
+  /// whose selection the database does not have are left out.
+  virtual std::vector<int> LookUpAnew();
   /// Prints the sheet's own part of a page, from the texts that stand on it. False for a sheet that
   /// has none.
   virtual bool PrintBody(PrintSurface& target);
