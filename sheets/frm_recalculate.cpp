@@ -41,17 +41,19 @@ frm全タグ再計算::frm全タグ再計算(shell::Workspace& workspace)
   cmdCancel.onClick = [this] { cmdCancel_Click(); };
   SetLayout(forms::Column({
       forms::Table({{lbl説明}, {prg進行}, {lbl結果}}),
-      forms::Stretched(forms::Row({
-          forms::Stretched(
-              forms::Group("書き込むタグ",
-                           forms::Column({
-                               forms::Stretched(forms::Table({{forms::Cell(lstTag).Wide(22)}})),
-                               forms::Buttons({cmd全選択, cmd全解除, {}}),
-                           })),
-              3),
-          forms::Stretched(forms::Group("変わった結果", forms::Table({{grd変更}})), 8),
-      })),
-      forms::Group("メッセージ", forms::Table({{grdメッセージ}})),
+      forms::Stretched(
+          forms::Row({
+              forms::Stretched(
+                  forms::Group("書き込むタグ",
+                               forms::Column({
+                                   forms::Stretched(forms::Table({{forms::Cell(lstTag).Wide(22)}})),
+                                   forms::Buttons({cmd全選択, cmd全解除, {}}),
+                               })),
+                  3),
+              forms::Stretched(forms::Group("変わった結果", forms::Table({{grd変更}})), 8),
+          }),
+          2),
+      forms::Stretched(forms::Group("メッセージ", forms::Table({{grdメッセージ}})), 1),
       forms::Buttons({cmd再計算, {}, cmd書込, cmdCancel}),
   }));
 }

@@ -18,7 +18,7 @@ class frm全タグ再計算 : public forms::Form {
 
   forms::Label lbl説明{*this, "lbl説明", "", forms::LabelStyle::kNote};
   forms::ProgressBar prg進行{*this, "prg進行"};
-  forms::Label lbl結果{*this, "lbl結果", "", forms::LabelStyle::kNote};
+  forms::Label lbl結果{*this, "lbl結果"};
   /// The tags with changes; the marked ones are written.
   forms::CheckList lstTag{*this, "lstTag", 8};
   forms::Button cmd全選択{*this, "cmd全選択", "すべて選択"};
