@@ -154,7 +154,8 @@ void frm全タグ再計算::cmd書込_Click() {
     return;
   }
   ShowResults();
-  lbl結果.SetText(count + " タグに書き込みました。ファイルには、上書き保存するまで残りません。");
+  lbl結果.SetText(count +
+                  " タグの結果を書き込みました。ファイルには上書き保存するまで残りません。");
 }
 
 void frm全タグ再計算::cmdCancel_Click() {

@@ -203,11 +203,7 @@ bool Recalculator::Write(const std::vector<int>& rows) {
     std::erase_if(changes_, [row](const TagChange& change) { return change.row == row; });
     workspace_.tags.tagModified = true;
   }
-  workspace_.tags.Refresh();
-  if (forms::Form* const list = workspace_.forms.Find(kTagListForm)) {
-    list->RunEvent(nullptr, [list] { list->Activate(); });
-  }
-  ShowTitle(workspace_);
+  ShowTitle(workspace_);  // the lines of the list, number and kind, are as before
   return true;
 }
 
