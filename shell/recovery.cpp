@@ -36,6 +36,12 @@ void MakeFolder(const std::string& folder) {
   mkdir(folder.c_str(), 0700);  // what fails shows when a file is written
 }
 
+/// The path as it means the same file in a run that starts in another folder.
+std::string LastingPath(const std::string& path) {
+  std::error_code unknown;
+  return path.empty() ? path : std::filesystem::absolute(path, unknown).string();
+}
+
 template <class Row>
 std::string FileWas(const std::optional<Unsaved<Row>>& before, const std::string& path) {
   return before && before->path == path ? before->fileWas : FileFingerprint(path);
@@ -47,13 +53,13 @@ RecoveryCopy UnsavedNow(const TagStore& tags, const DuctStore& ducts, const Reco
   RecoveryCopy copy;
   if (tags.tagModified && tags.HasTags()) {
     auto& list = copy.tags.emplace();
-    list.path = tags.zephaFileName;
+    list.path = LastingPath(tags.zephaFileName);
     list.fileWas = FileWas(before.tags, list.path);
     for (int row = 0; row <= tags.TagCount(); ++row) list.rows.push_back(tags.Row(row));
   }
   if (ducts.ductModified && ducts.DuctCount() > 0) {
     auto& list = copy.ducts.emplace();
-    list.path = ducts.ductFileName;
+    list.path = LastingPath(ducts.ductFileName);
     list.fileWas = FileWas(before.ducts, list.path);
     for (int row = 0; row < ducts.DuctCount(); ++row) list.rows.push_back(ducts.Row(row));
   }

@@ -1,0 +1,211 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+#include "common/file.h"
+#include "tests/shell/temporary_folder.h"
+
+namespace headless {
+namespace {
+
+using Json = nlohmann::json;
+namespace fs = std::filesystem;
+
+/// The driver as a process of its own, which speaks through pipes and can be killed.
+class Program {
+ public:
+  explicit Program(std::vector<std::string> arguments) {
+    int input[2], output[2];
+    if (pipe(input) != 0 || pipe(output) != 0) throw std::runtime_error("no pipes");
+    process_ = fork();
+    if (process_ == 0) {
+      dup2(input[0], STDIN_FILENO);
+      dup2(output[1], STDOUT_FILENO);
+      for (const int end : {input[0], input[1], output[0], output[1]}) close(end);
+      arguments.insert(arguments.begin(), ZEPHA_BUILD_DIR "/zepha-headless");
+      std::vector<char*> words;
+      for (std::string& argument : arguments) words.push_back(argument.data());
+      words.push_back(nullptr);
+      execv(words[0], words.data());
+      _exit(127);
+    }
+    close(input[0]);
+    close(output[1]);
+    in_ = fdopen(input[1], "w");
+    out_ = fdopen(output[0], "r");
+    start = Answer();
+  }
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+  /// Ends as a power failure would have it, unless Finish was called.
+  ~Program() {
+    if (process_ > 0) kill(process_, SIGKILL);
+    Finish();
+  }
+
+  Json Do(const std::string& line) {
+    std::fprintf(in_, "%s\n", line.c_str());
+    std::fflush(in_);
+    return Answer();
+  }
+  /// The end of the input is an orderly exit.
+  void Finish() {
+    if (process_ <= 0) return;
+    std::fclose(in_);
+    waitpid(process_, nullptr, 0);
+    std::fclose(out_);
+    process_ = 0;
+  }
+
+  Json start;
+
+ private:
+  Json Answer() {
+    std::string line;
+    for (int c = std::getc(out_); c != EOF && c != '\n'; c = std::getc(out_)) {
+      line += static_cast<char>(c);
+    }
+    return Json::parse(line, nullptr, false);
+  }
+
+  pid_t process_ = 0;
+  std::FILE* in_ = nullptr;
+  std::FILE* out_ = nullptr;
+};
+
+class RecoveryOfProcess : public testing::Test {
+ protected:
+  RecoveryOfProcess() { fs::copy_file(ZEPHA_SOURCE_DIR "/samples/plant.zph", plant_); }
+
+  std::unique_ptr<Program> Start(std::vector<std::string> more = {}) {
+    more.insert(more.begin(), {"--settings", folder_ / "settings.ini"});
+    return std::make_unique<Program>(more);
+  }
+  /// Registers a tag that no instrument file can hold in the plant's list, and dies.
+  void LoseATag() {
+    const auto program = Start();
+    program->Do("load " + plant_);
+    program->Do("open ⊿P Flow");
+    program->Do("type txtTagNo FE-é");
+    EXPECT_EQ(program->Do("register")["TagCount"], kTags + 1);
+  }
+  static std::string Question(const Program& program) {
+    return program.start.contains("messages") ? program.start["messages"][0]["text"] : "";
+  }
+  std::string State(const std::string& name) const {
+    return (folder_ / "settings.ini.state/") + name;
+  }
+
+  static constexpr int kTags = 61;
+  tests::TemporaryFolder folder_;
+  std::string plant_ = folder_ / "プラント.zph";
+};
+
+TEST_F(RecoveryOfProcess, AKilledRunIsOfferedUntilItsTagsAreSaved) {
+  LoseATag();
+  const auto later = Start({"--answer", "cancel"});
+  EXPECT_EQ(later->Do("workspace")["TagModified"], false);
+  later->Finish();
+
+  for (int crash = 0; crash < 2; ++crash) {
+    const auto program = Start({"--answer", "yes"});
+    const std::string question = Question(*program);
+    EXPECT_NE(question.find("計装データ：62件\nファイル：" + plant_ + "\n\n復元"),
+              std::string::npos)
+        << question;
+    const Json state = program->Do("workspace");
+    EXPECT_EQ(state["TagCount"], kTags + 1);
+    EXPECT_EQ(state["TagModified"], true);
+    EXPECT_EQ(state["ZephaFileName"], plant_);
+    EXPECT_EQ(program->Do("row 2")["row"][0], "FE-é");
+    EXPECT_EQ(Question(*Start()), "") << "the copy belongs to a living program";
+  }
+
+  const auto program = Start();
+  program->Do("load " + plant_);
+  EXPECT_EQ(program->Do("workspace")["TagCount"], kTags) << "the user's file is as it was";
+  program->Do("menu mnuTagList");
+  program->Do("click cmdDown");
+  EXPECT_EQ(program->Do("recovery")["copy"]["tags"], kTags);
+  EXPECT_EQ(program->Do("save")["TagModified"], false);
+  EXPECT_TRUE(program->Do("recovery")["copy"].is_null());
+  EXPECT_FALSE(fs::exists(State("recovery-1.copy")));
+}
+
+TEST_F(RecoveryOfProcess, ARefusedCopyIsSetAsideAndNotOfferedAgain) {
+  LoseATag();
+  EXPECT_EQ(Start({"--answer", "no"})->Do("workspace")["TagCount"], 0);
+  EXPECT_EQ(Question(*Start()), "");
+  ASSERT_TRUE(fs::exists(State("recovery-1.refused")));
+  fs::rename(State("recovery-1.refused"), State("recovery-1.copy"));
+  EXPECT_EQ(Start()->Do("workspace")["TagCount"], kTags + 1);
+}
+
+TEST_F(RecoveryOfProcess, TheQuestionTellsWhatBecameOfTheFile) {
+  LoseATag();
+  // An older time says nothing: what counts is what the file holds.
+  const auto time = fs::last_write_time(plant_);
+  common::WriteFile(plant_, common::ReadFile(plant_) + " ");
+  fs::last_write_time(plant_, time - std::chrono::hours(48));
+  EXPECT_NE(Question(*Start()).find("※このファイルは編集を始めた後に書き換えられています。"),
+            std::string::npos);
+  fs::remove(plant_);
+  const auto program = Start();
+  EXPECT_NE(Question(*program).find("※このファイルは見つからないか"), std::string::npos);
+  EXPECT_EQ(program->Do("workspace")["ZephaFileName"], plant_);
+}
+
+TEST_F(RecoveryOfProcess, WhatIsSavedOrGivenUpIsNotOffered) {
+  const struct {
+    const char* name;
+    std::vector<std::string> commands;
+    bool killed;
+  } rows[] = {
+      {"moved there and back", {"click cmdDown", "click cmdUp"}, true},
+      {"another file", {"click cmdDown", "load " ZEPHA_SOURCE_DIR "/samples/plant.zph"}, true},
+      {"new file", {"click cmdDown", "answer no", "menu mnuNewFileOpen"}, true},
+      {"saved elsewhere", {"click cmdDown", "save " + (folder_ / "b.zph")}, true},
+      {"orderly exit", {"click cmdDown"}, false},
+      {"ducts saved",
+       {"open CableDuct", "load " ZEPHA_SOURCE_DIR "/samples/ducts.dct", "pick lstDuct 1",
+        "click frmDuctList!cmdDelete", "open CableDuct", "save " + (folder_ / "b.dct")},
+       true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    auto program = Start();
+    program->Do("load " + plant_);
+    program->Do("menu mnuTagList");
+    for (const std::string& command : row.commands) {
+      const Json answer = program->Do(command);
+      EXPECT_EQ(answer["ok"], true) << answer;
+    }
+    if (!row.killed) program->Finish();
+    program.reset();
+    EXPECT_EQ(Question(*Start()), "");
+  }
+}
+
+TEST_F(RecoveryOfProcess, UnsavedDuctsComeBack) {
+  {
+    const auto program = Start();
+    program->Do("open CableDuct");
+    program->Do("load " ZEPHA_SOURCE_DIR "/samples/ducts.dct");
+    program->Do("pick lstDuct 1");
+    program->Do("click cmdDelete");
+    EXPECT_EQ(program->Do("recovery")["copy"]["ducts"], 3);
+  }
+  const auto program = Start();
+  EXPECT_NE(Question(*program).find("ケーブルダクト：3件"), std::string::npos);
+  const Json state = program->Do("workspace");
+  EXPECT_EQ(state["DuctCount"], 3);
+  EXPECT_EQ(state["DuctModified"], true);
+}
+
+}  // namespace
+}  // namespace headless
