@@ -65,11 +65,11 @@ std::string Paragraph(const char* what, int count, const Unsaved<Row>& list) {
   if (list.path.empty()) return text;
   const std::string now = FileFingerprint(list.path);
   if (now.empty()) {
-    text += "\n※このファイルは見つからないか、読み込めません。";
+    text += "\n※このファイルは、見つからないか読み込めません。";
   } else if (now != list.fileWas) {
     text +=
-        "\n※このファイルは編集を始めた後に書き換えられています。"
-        "復元して保存すると、その内容は失われます。";
+        "\n※このファイルは、編集を始めた後に書き換えられています。"
+        "\n　復元して保存すると、その内容は失われます。";
   }
   return text;
 }
@@ -80,8 +80,9 @@ common::Answer Ask(Workspace& workspace, const RecoveryCopy& copy) {
   if (copy.tags) text += Paragraph("計装データ", copy.TagCount(), *copy.tags);
   if (copy.ducts) text += Paragraph("ケーブルダクト", copy.DuctCount(), *copy.ducts);
   text +=
-      "\n\n復元しますか\n"
-      "（復元したデータはまだ保存されていません。キャンセルすると次回の起動時に再び確認します。）";
+      "\n\n復元しても、保存するまでファイルは変わりません。"
+      "\nキャンセルすると、次回の起動時に再び確認します。"
+      "\n\n復元しますか";
   return workspace.Shown().Present(
       {text, "データの復元", common::Icon::kQuestion, common::Buttons::kYesNoCancel});
 }

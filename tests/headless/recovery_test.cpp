@@ -152,11 +152,11 @@ TEST_F(RecoveryOfProcess, TheQuestionTellsWhatBecameOfTheFile) {
   const auto time = fs::last_write_time(plant_);
   common::WriteFile(plant_, common::ReadFile(plant_) + " ");
   fs::last_write_time(plant_, time - std::chrono::hours(48));
-  EXPECT_NE(Question(*Start()).find("※このファイルは編集を始めた後に書き換えられています。"),
+  EXPECT_NE(Question(*Start()).find("※このファイルは、編集を始めた後に書き換えられています。"),
             std::string::npos);
   fs::remove(plant_);
   const auto program = Start();
-  EXPECT_NE(Question(*program).find("※このファイルは見つからないか"), std::string::npos);
+  EXPECT_NE(Question(*program).find("※このファイルは、見つからないか"), std::string::npos);
   EXPECT_EQ(program->Do("workspace")["ZephaFileName"], plant_);
 }
 
