@@ -111,8 +111,9 @@ void Recovery::Discard(const Leftover& leftover) const {
 /// The first place where neither a program lives nor a copy waits.
 void Recovery::TakePlace() {
   if (lock_ && lock_->InPlace()) return;
-  lock_.reset();
   MakeFolder(folder_);
+  // Somebody has cleared the lock away; the place with this run's copy is still its own.
+  if (lock_ && (lock_ = common::FileLock::Take(PathOf(place_, kLock)))) return;
   for (place_ = 1; place_ <= kPlaces; ++place_) {
     if (Exists(PathOf(place_, kCopy))) continue;
     lock_ = common::FileLock::Take(PathOf(place_, kLock));
