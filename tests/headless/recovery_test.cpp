@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
-#include <cstdio>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
@@ -16,71 +17,68 @@ namespace {
 using Json = nlohmann::json;
 namespace fs = std::filesystem;
 
-/// The driver as a process of its own, which speaks through pipes and can be killed.
+/// The driver as a process of its own, which can be killed.
 class Program {
  public:
   explicit Program(std::vector<std::string> arguments) {
-    int input[2], output[2];
-    if (pipe(input) != 0 || pipe(output) != 0) throw std::runtime_error("no pipes");
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0) throw std::runtime_error("no sockets");
+    arguments.insert(arguments.begin(), ZEPHA_BUILD_DIR "/zepha-headless");
+    std::vector<char*> words(arguments.size() + 1);
+    std::transform(arguments.begin(), arguments.end(), words.begin(),
+                   [](std::string& argument) { return argument.data(); });
     process_ = fork();
     if (process_ == 0) {
-      dup2(input[0], STDIN_FILENO);
-      dup2(output[1], STDOUT_FILENO);
-      for (const int end : {input[0], input[1], output[0], output[1]}) close(end);
-      arguments.insert(arguments.begin(), ZEPHA_BUILD_DIR "/zepha-headless");
-      std::vector<char*> words;
-      for (std::string& argument : arguments) words.push_back(argument.data());
-      words.push_back(nullptr);
+      dup2(ends[1], STDIN_FILENO);
+      dup2(ends[1], STDOUT_FILENO);
+      for (const int end : ends) close(end);
       execv(words[0], words.data());
       _exit(127);
     }
-    close(input[0]);
-    close(output[1]);
-    in_ = fdopen(input[1], "w");
-    out_ = fdopen(output[0], "r");
+    close(ends[1]);
+    socket_ = ends[0];
     start = Answer();
   }
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
   /// Ends as a power failure would have it, unless Finish was called.
   ~Program() {
-    if (process_ > 0) kill(process_, SIGKILL);
+    if (!ended_) kill(process_, SIGKILL);
     Finish();
+    close(socket_);
   }
 
   Json Do(const std::string& line) {
-    std::fprintf(in_, "%s\n", line.c_str());
-    std::fflush(in_);
+    dprintf(socket_, "%s\n", line.c_str());
     return Answer();
   }
   /// The end of the input is an orderly exit.
   void Finish() {
-    if (process_ <= 0) return;
-    std::fclose(in_);
-    waitpid(process_, nullptr, 0);
-    std::fclose(out_);
-    process_ = 0;
+    shutdown(socket_, SHUT_WR);
+    if (!std::exchange(ended_, true)) waitpid(process_, nullptr, 0);
+  }
+  /// What the start asked or told.
+  std::string Question() const {
+    return start.contains("messages") ? start["messages"][0]["text"] : "";
   }
 
   Json start;
 
  private:
-  Json Answer() {
+  Json Answer() const {
     std::string line;
-    for (int c = std::getc(out_); c != EOF && c != '\n'; c = std::getc(out_)) {
-      line += static_cast<char>(c);
-    }
+    for (char c = 0; read(socket_, &c, 1) == 1 && c != '\n';) line += c;
     return Json::parse(line, nullptr, false);
   }
 
   pid_t process_ = 0;
-  std::FILE* in_ = nullptr;
-  std::FILE* out_ = nullptr;
+  int socket_ = -1;
+  bool ended_ = false;
 };
 
 class RecoveryOfProcess : public testing::Test {
  protected:
-  RecoveryOfProcess() { fs::copy_file(ZEPHA_SOURCE_DIR "/samples/plant.zph", plant_); }
+  RecoveryOfProcess() { fs::copy_file(sample_, plant_); }
 
   std::unique_ptr<Program> Start(std::vector<std::string> more = {}) {
     more.insert(more.begin(), {"--settings", folder_ / "settings.ini"});
@@ -94,14 +92,13 @@ class RecoveryOfProcess : public testing::Test {
     program->Do("type txtTagNo FE-é");
     EXPECT_EQ(program->Do("register")["TagCount"], kTags + 1);
   }
-  static std::string Question(const Program& program) {
-    return program.start.contains("messages") ? program.start["messages"][0]["text"] : "";
-  }
   std::string State(const std::string& name) const {
     return (folder_ / "settings.ini.state/") + name;
   }
 
   static constexpr int kTags = 61;
+  const std::string ducts_ = ZEPHA_SOURCE_DIR "/samples/ducts.dct";
+  const std::string sample_ = ZEPHA_SOURCE_DIR "/samples/plant.zph";
   tests::TemporaryFolder folder_;
   std::string plant_ = folder_ / "プラント.zph";
 };
@@ -114,7 +111,7 @@ TEST_F(RecoveryOfProcess, AKilledRunIsOfferedUntilItsTagsAreSaved) {
 
   for (int crash = 0; crash < 2; ++crash) {
     const auto program = Start({"--answer", "yes"});
-    const std::string question = Question(*program);
+    const std::string question = program->Question();
     EXPECT_NE(question.find("計装データ：62件\nファイル：" + plant_ + "\n\n復元"),
               std::string::npos)
         << question;
@@ -123,7 +120,7 @@ TEST_F(RecoveryOfProcess, AKilledRunIsOfferedUntilItsTagsAreSaved) {
     EXPECT_EQ(state["TagModified"], true);
     EXPECT_EQ(state["ZephaFileName"], plant_);
     EXPECT_EQ(program->Do("row 2")["row"][0], "FE-é");
-    EXPECT_EQ(Question(*Start()), "") << "the copy belongs to a living program";
+    EXPECT_EQ(Start()->Question(), "") << "the copy belongs to a living program";
   }
 
   const auto program = Start();
@@ -140,7 +137,7 @@ TEST_F(RecoveryOfProcess, AKilledRunIsOfferedUntilItsTagsAreSaved) {
 TEST_F(RecoveryOfProcess, ARefusedCopyIsSetAsideAndNotOfferedAgain) {
   LoseATag();
   EXPECT_EQ(Start({"--answer", "no"})->Do("workspace")["TagCount"], 0);
-  EXPECT_EQ(Question(*Start()), "");
+  EXPECT_EQ(Start()->Question(), "");
   ASSERT_TRUE(fs::exists(State("recovery-1.refused")));
   fs::rename(State("recovery-1.refused"), State("recovery-1.copy"));
   EXPECT_EQ(Start()->Do("workspace")["TagCount"], kTags + 1);
@@ -152,11 +149,11 @@ TEST_F(RecoveryOfProcess, TheQuestionTellsWhatBecameOfTheFile) {
   const auto time = fs::last_write_time(plant_);
   common::WriteFile(plant_, common::ReadFile(plant_) + " ");
   fs::last_write_time(plant_, time - std::chrono::hours(48));
-  EXPECT_NE(Question(*Start()).find("※このファイルは、編集を始めた後に書き換えられています。"),
+  EXPECT_NE(Start()->Question().find("※このファイルは、編集を始めた後に書き換えられています。"),
             std::string::npos);
   fs::remove(plant_);
   const auto program = Start();
-  EXPECT_NE(Question(*program).find("※このファイルは、見つからないか"), std::string::npos);
+  EXPECT_NE(program->Question().find("※このファイルは、見つからないか"), std::string::npos);
   EXPECT_EQ(program->Do("workspace")["ZephaFileName"], plant_);
 }
 
@@ -167,13 +164,13 @@ TEST_F(RecoveryOfProcess, WhatIsSavedOrGivenUpIsNotOffered) {
     bool killed;
   } rows[] = {
       {"moved there and back", {"click cmdDown", "click cmdUp"}, true},
-      {"another file", {"click cmdDown", "load " ZEPHA_SOURCE_DIR "/samples/plant.zph"}, true},
+      {"another file", {"click cmdDown", "load " + sample_}, true},
       {"new file", {"click cmdDown", "answer no", "menu mnuNewFileOpen"}, true},
       {"saved elsewhere", {"click cmdDown", "save " + (folder_ / "b.zph")}, true},
       {"orderly exit", {"click cmdDown"}, false},
       {"ducts saved",
-       {"open CableDuct", "load " ZEPHA_SOURCE_DIR "/samples/ducts.dct", "pick lstDuct 1",
-        "click frmDuctList!cmdDelete", "open CableDuct", "save " + (folder_ / "b.dct")},
+       {"open CableDuct", "load " + ducts_, "pick lstDuct 1", "click frmDuctList!cmdDelete",
+        "open CableDuct", "save " + (folder_ / "b.dct")},
        true},
   };
   for (const auto& row : rows) {
@@ -187,7 +184,7 @@ TEST_F(RecoveryOfProcess, WhatIsSavedOrGivenUpIsNotOffered) {
     }
     if (!row.killed) program->Finish();
     program.reset();
-    EXPECT_EQ(Question(*Start()), "");
+    EXPECT_EQ(Start()->Question(), "");
   }
 }
 
@@ -195,13 +192,13 @@ TEST_F(RecoveryOfProcess, UnsavedDuctsComeBack) {
   {
     const auto program = Start();
     program->Do("open CableDuct");
-    program->Do("load " ZEPHA_SOURCE_DIR "/samples/ducts.dct");
+    program->Do("load " + ducts_);
     program->Do("pick lstDuct 1");
     program->Do("click cmdDelete");
     EXPECT_EQ(program->Do("recovery")["copy"]["ducts"], 3);
   }
   const auto program = Start();
-  EXPECT_NE(Question(*program).find("ケーブルダクト：3件"), std::string::npos);
+  EXPECT_NE(program->Question().find("ケーブルダクト：3件"), std::string::npos);
   const Json state = program->Do("workspace");
   EXPECT_EQ(state["DuctCount"], 3);
   EXPECT_EQ(state["DuctModified"], true);

@@ -21,14 +21,26 @@ std::vector<TagRow> TagRows(int tags, const std::string& text) {
   return rows;
 }
 
-void Fill(TagStore& store, int tags, const std::string& text) {
-  store.TakeRows(TagRows(tags, text));
-  store.tagModified = true;
-}
+/// A run with tags that are not saved.
+struct Editing {
+  Editing(const std::string& folder, int tags, std::int64_t time = 1) {
+    store.TakeRows(TagRows(tags, "text"));
+    store.tagModified = true;
+    recovery.UseFolder(folder);
+    recovery.clock = [time]() mutable { return time++; };
+  }
+  /// Time of the copy, 0 for none.
+  std::int64_t Keep() {
+    recovery.Keep(store, {});
+    return recovery.Kept() ? recovery.Kept()->time : 0;
+  }
+  TagStore store;
+  Recovery recovery;
+};
 
-int FilesIn(const tests::TemporaryFolder& folder) {
+std::ptrdiff_t FilesIn(const tests::TemporaryFolder& folder) {
   const std::filesystem::directory_iterator files(folder.Path());
-  return static_cast<int>(std::distance(begin(files), end(files)));
+  return std::distance(begin(files), end(files));
 }
 
 TEST(RecoveryCopy, HoldsEveryTextAndNothingButAWholeFile) {
@@ -47,152 +59,108 @@ TEST(RecoveryCopy, HoldsEveryTextAndNothingButAWholeFile) {
   for (std::size_t length = 0; length < bytes.size(); ++length) {
     EXPECT_FALSE(ParseRecovery(bytes.substr(0, length))) << length;
   }
-}
-
-TEST(RecoveryCopy, RefusesWhatDoesNotFit) {
-  const std::string head = "ZEPHA recovery 1\n";
   RecoveryCopy tooMany;
   tooMany.tags = {"", "", TagRows(kMaxTags + 1, "")};
-  const std::string rows[] = {EncodeRecovery(tooMany),
-                              head + "1:5\n4:tags\n0:\n0:\n1:1\n3:end\n",
-                              head + "1:5\n5:ducts\n0:\n0:\n2:99\n3:end\n",
-                              head + "1:5\n5:other\n3:end\n",
-                              head + "1:5\n3:end\n3:end\n",
-                              head + "1:x\n3:end\n",
-                              head + "18446744073709551615:5\n3:end\n",
-                              head + "99999999999999999999999:5\n3:end\n",
-                              head + "-1:5\n3:end\n"};
-  for (const std::string& row : rows) EXPECT_FALSE(ParseRecovery(row)) << row.substr(0, 60);
-  EXPECT_TRUE(ParseRecovery(head + "1:5\n3:end\n")->Empty());
+  EXPECT_FALSE(ParseRecovery(EncodeRecovery(tooMany)));
+  const std::string head = "ZEPHA recovery 1\n";
+  for (const char* rest : {"1:5\n4:tags\n0:\n0:\n1:1\n3:end\n", "1:5\n5:other\n3:end\n",
+                           "1:5\n3:end\n3:end\n", "1:x\n3:end\n", "18446744073709551615:5\n3:end\n",
+                           "99999999999999999999999:5\n3:end\n", "-1:5\n3:end\n"}) {
+    EXPECT_FALSE(ParseRecovery(head + rest)) << rest;
+  }
 }
 
 TEST(Recovery, WritesWhatChangedAndRemovesWhatIsSaved) {
   const tests::TemporaryFolder folder;
-  Recovery recovery;
-  recovery.UseFolder(folder.Path());
-  recovery.clock = [time = 0]() mutable { return ++time; };
-  TagStore tags;
-  DuctStore ducts;
-  const auto timeAfterKeep = [&] {
-    recovery.Keep(tags, ducts);
-    return recovery.Kept() ? recovery.Kept()->time : 0;
-  };
-  EXPECT_EQ(timeAfterKeep(), 0);
-  tags.tagModified = true;
-  EXPECT_EQ(timeAfterKeep(), 0) << "an empty list is no work";
+  Editing run(folder.Path(), 0);
+  EXPECT_EQ(run.Keep(), 0) << "an empty list is no work";
   EXPECT_EQ(FilesIn(folder), 0);
-  Fill(tags, 3, "a");
-  EXPECT_EQ(timeAfterKeep(), 1);
-  EXPECT_EQ(timeAfterKeep(), 1) << "nothing changed";
-  tags.SetText(2, 7, "b");
-  EXPECT_EQ(timeAfterKeep(), 2);
-  ducts.TakeRows({{"CD-1"}});
-  ducts.ductModified = true;
-  tags.zephaFileName = folder / "named.zph";
-  EXPECT_EQ(timeAfterKeep(), 3);
-  tags.tagModified = false;
-  EXPECT_EQ(timeAfterKeep(), 4);
-  EXPECT_FALSE(recovery.Kept()->tags);
-  ducts.ductModified = false;
-  EXPECT_EQ(timeAfterKeep(), 0);
+  run.store.TakeRows(TagRows(3, "a"));
+  EXPECT_EQ(run.Keep(), 1);
+  EXPECT_EQ(run.Keep(), 1) << "nothing changed";
+  run.store.SetText(2, 7, "b");
+  EXPECT_EQ(run.Keep(), 2);
+  run.store.zephaFileName = folder / "named.zph";
+  EXPECT_EQ(run.Keep(), 3);
+  run.store.tagModified = false;
+  EXPECT_EQ(run.Keep(), 0);
   EXPECT_EQ(FilesIn(folder), 1) << "the lock alone";
-  tags.tagModified = true;
-  recovery.Keep(tags, ducts);
-  recovery.End();
-  recovery.Keep(tags, ducts);
+  run.store.tagModified = true;
+  EXPECT_EQ(run.Keep(), 4);
+  run.recovery.End();
+  EXPECT_EQ(run.Keep(), 0);
   EXPECT_EQ(FilesIn(folder), 0);
 }
 
 TEST(Recovery, ProgramsSideBySideDoNotSeeEachOthersCopies) {
   const tests::TemporaryFolder folder;
-  DuctStore ducts;
-  std::vector<std::unique_ptr<Recovery>> living;
-  for (int i = 0; i < 3; ++i) {
-    living.push_back(std::make_unique<Recovery>());
-    living.back()->UseFolder(folder.Path());
-    living.back()->clock = [i] { return i == 1 ? 900 : 100 + i; };
-    TagStore tags;
-    Fill(tags, 10 + i, "x");
-    living.back()->Keep(tags, ducts);
-  }
   Recovery other;
   other.UseFolder(folder.Path());
-  EXPECT_TRUE(other.Leftovers().empty());
-  living.clear();  // without End, as a crash does
+  {
+    Editing runs[] = {{folder.Path(), 10, 100}, {folder.Path(), 11, 900}, {folder.Path(), 12, 102}};
+    for (Editing& run : runs) run.Keep();
+    EXPECT_TRUE(other.Leftovers().empty());
+  }  // without End, as a crash does
   common::WriteFile(folder / "recovery-7.copy", "no recovery file");
   {
     const auto found = other.Leftovers();
     ASSERT_EQ(found.size(), 3U);
-    const int newestFirst[] = {found[0].copy.TagCount(), found[1].copy.TagCount(),
-                               found[2].copy.TagCount()};
-    EXPECT_EQ(testing::PrintToString(newestFirst), "{ 11, 12, 10 }");
-    Recovery third;
-    third.UseFolder(folder.Path());
-    EXPECT_TRUE(third.Leftovers().empty()) << "locked while they are looked at";
+    EXPECT_EQ(found[0].copy.TagCount(), 11) << "the newest first";
+    EXPECT_EQ(found[1].copy.TagCount(), 12);
+    EXPECT_TRUE(Editing(folder.Path(), 1).recovery.Leftovers().empty()) << "locked while looked at";
     other.SetAside(found[0]);
     other.Discard(found[1]);
   }
-  EXPECT_TRUE(std::filesystem::exists(folder / "recovery-7.refused"));
   auto left = other.Leftovers();
   ASSERT_EQ(left.size(), 1U);
   other.Continue(std::move(left[0]));
   EXPECT_EQ(other.Kept()->TagCount(), 10);
   other.End();
-  EXPECT_EQ(FilesIn(folder), 2) << "both refused";
+  EXPECT_EQ(FilesIn(folder), 2) << "recovery-2.refused, recovery-7.refused";
 }
 
 TEST(Recovery, AFolderThatCannotBeWrittenIsToldOnce) {
   const tests::TemporaryFolder folder;
   common::WriteFile(folder / "file", "");
-  TagStore tags;
-  DuctStore ducts;
-  Fill(tags, 300, "some text");
-  Recovery recovery;
+  Editing run(folder / "file/below", 300);
   int told = 0;
-  recovery.onTrouble = [&told](const std::string&) { ++told; };
-  recovery.UseFolder(folder / "file/below");
-  for (int i = 0; i < 3; ++i) recovery.Keep(tags, ducts);
+  run.recovery.onTrouble = [&told](const std::string&) { ++told; };
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(run.Keep(), 0);
   EXPECT_EQ(told, 1);
-  EXPECT_FALSE(recovery.Kept());
 
-  recovery.UseFolder(folder / "new/folder");
-  recovery.Keep(tags, ducts);
-  EXPECT_EQ(recovery.Trouble(), "");
+  run.recovery.UseFolder(folder / "new/folder");
+  const auto before = run.Keep();
+  EXPECT_EQ(run.recovery.Trouble(), "");
   // A disk that fills up, as a process may see it; the old copy stands.
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
+  rlimit room{};
+  getrlimit(RLIMIT_FSIZE, &room);
   const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit full{1000, before.rlim_max};
+  const rlimit full{1000, room.rlim_max};
   setrlimit(RLIMIT_FSIZE, &full);
-  tags.SetText(1, 1, "changed");
-  recovery.Keep(tags, ducts);
-  setrlimit(RLIMIT_FSIZE, &before);
+  run.store.SetText(1, 1, "changed");
+  EXPECT_EQ(run.Keep(), before);
+  setrlimit(RLIMIT_FSIZE, &room);
   std::signal(SIGXFSZ, oldHandler);
-  EXPECT_NE(recovery.Trouble(), "");
+  EXPECT_NE(run.recovery.Trouble(), "");
   EXPECT_EQ(told, 1);
-  EXPECT_EQ(recovery.Kept()->tags->rows[1][1], "some text");
   EXPECT_FALSE(std::filesystem::exists(folder / "new/folder/recovery-1.copy.new"));
   // Somebody clears the folder away: the next copy is made anew.
   std::filesystem::remove_all(folder / "new");
-  recovery.Keep(tags, ducts);
-  EXPECT_EQ(
-      ParseRecovery(common::ReadFile(folder / "new/folder/recovery-1.copy"))->tags->rows[1][1],
-      "changed");
+  EXPECT_GT(run.Keep(), before);
+  EXPECT_TRUE(std::filesystem::exists(folder / "new/folder/recovery-1.copy"));
 }
 
 /// Goes on with the copy that is there and replaces it without a pause, by contents that tell their
 /// number in every text. Writes a byte when it begins.
 [[noreturn]] void WriteCopies(const std::string& folder, int begun) {
-  Recovery recovery;
-  recovery.UseFolder(folder);
-  auto found = recovery.Leftovers();
+  Editing run(folder, kMaxTags);
+  auto found = run.recovery.Leftovers();
   int number = found.empty() ? 0 : std::stoi(found[0].copy.tags->rows[0][0]);
-  if (!found.empty()) recovery.Continue(std::move(found[0]));
-  for (bool first = true;; first = false) {
-    TagStore tags;
-    Fill(tags, kMaxTags, std::to_string(++number));
-    if (first && write(begun, "!", 1) != 1) _exit(1);
-    recovery.Keep(tags, {});
+  if (!found.empty()) run.recovery.Continue(std::move(found[0]));
+  if (write(begun, "!", 1) != 1) _exit(1);
+  while (true) {
+    run.store.TakeRows(TagRows(kMaxTags, std::to_string(++number)));
+    run.Keep();
   }
 }
 
