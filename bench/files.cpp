@@ -6,6 +6,7 @@
 
 #include "common/file.h"
 #include "shell/instrument_file.h"
+#include "shell/recovery.h"
 #include "shell/tables.h"
 
 namespace {
@@ -59,5 +60,23 @@ void OpenFullStore(benchmark::State& state) {
   std::remove(TemporaryPath().c_str());
 }
 BENCHMARK(OpenFullStore)->Unit(benchmark::kMillisecond);
+
+/// The recovery copy, written anew at every round as if one text had changed.
+void CopyFullStore(benchmark::State& state) {
+  shell::TagStore store = FullStore(shell::LoadTables(ZEPHA_BUILD_DIR));
+  store.tagModified = true;
+  shell::Recovery recovery;
+  const std::string folder = TemporaryPath() + ".state";
+  recovery.UseFolder(folder);
+  int round = 0;
+  for (auto _ : state) {
+    store.SetText(1, 1, std::to_string(++round));
+    recovery.Keep(store, {});
+    if (!recovery.Trouble().empty()) state.SkipWithError("not copied");
+  }
+  recovery.End();
+  std::remove(folder.c_str());
+}
+BENCHMARK(CopyFullStore)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <utility>
@@ -59,6 +60,23 @@ class Descriptor {
                      std::string(FaultText(Fault::kFileAccess)) + "\n" + path + "\n" + reason);
 }
 
+void WriteAll(const Descriptor& file, const std::string& path, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseFileFault(path, errno);
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+/// A new file whose contents have reached the disk.
+void WriteDurably(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+  if (file.Number() < 0) RaiseFileFault(path, errno);
+  WriteAll(file, path, bytes);
+  if (fsync(file.Number()) != 0 || file.Close() != 0) RaiseFileFault(path, errno);
+}
+
 }  // namespace
 
 std::string JoinPath(std::string_view folder, std::string_view name) {
@@ -93,13 +111,19 @@ std::string ReadFile(const std::string& path) {
 void WriteFile(const std::string& path, std::string_view bytes) {
   Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   if (file.Number() < 0) RaiseFileFault(path, errno);
-  while (!bytes.empty()) {
-    const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) RaiseFileFault(path, errno);
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-  }
+  WriteAll(file, path, bytes);
   if (file.Close() != 0) RaiseFileFault(path, errno);
+}
+
+void ReplaceFile(const std::string& path, std::string_view bytes) {
+  const std::string passing = path + ".new";
+  try {
+    WriteDurably(passing, bytes);
+    if (std::rename(passing.c_str(), path.c_str()) != 0) RaiseFileFault(path, errno);
+  } catch (const RuntimeFault&) {
+    std::remove(passing.c_str());  // a part of it would fill the disk further
+    throw;
+  }
 }
 
 }  // namespace common

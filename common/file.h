@@ -19,4 +19,9 @@ std::string ReadFile(const std::string& path);
 /// point; the file may then be cut short.
 void WriteFile(const std::string& path, std::string_view bytes);
 
+/// Replaces a file so that a crash at any moment leaves its old or its new contents, whole: they
+/// are written beside it under its name + ".new", brought to the disk, and renamed. The file is for
+/// the user's eyes only. Raises kFileAccess with the system's reason; the old contents then stand.
+void ReplaceFile(const std::string& path, std::string_view bytes);
+
 }  // namespace common

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "shell/tag_store.h"
 
 namespace shell {
 
@@ -31,6 +34,8 @@ void OpenFile(Workspace& workspace);
 void OpenFileNamed(Workspace& workspace, const std::string& path);
 /// Opens an instrument or a duct file, by its extension, whatever is on top.
 void OpenFileOfItsKind(Workspace& workspace, const std::string& path);
+/// Takes rows, header first, as unsaved changes of a file, "" for a new one.
+void TakeUnsavedTags(Workspace& workspace, std::vector<TagRow> rows, const std::string& path);
 /// Puts a file in front of those opened last.
 void RememberFile(Workspace& workspace, const std::string& path);
 

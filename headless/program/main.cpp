@@ -4,8 +4,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "headless/driver.h"
+#include "headless/states.h"
 
 namespace {
 
@@ -13,10 +15,11 @@ struct Arguments {
   std::string installDir;
   std::string settings;
   std::string script;
+  std::vector<std::string> answers;
 };
 
 constexpr const char* kUsage =
-    "usage: zepha-headless [--install-dir DIR] [--settings FILE] [SCRIPT]\n";
+    "usage: zepha-headless [--install-dir DIR] [--settings FILE] [--answer WORD]... [SCRIPT]\n";
 
 std::optional<Arguments> Parse(int count, char** values) {
   Arguments arguments;
@@ -25,6 +28,9 @@ std::optional<Arguments> Parse(int count, char** values) {
     if (word == "--install-dir" || word == "--settings") {
       if (++i == count) return std::nullopt;
       (word == "--settings" ? arguments.settings : arguments.installDir) = values[i];
+    } else if (word == "--answer") {
+      if (++i == count || !headless::AnswerOf(values[i])) return std::nullopt;
+      arguments.answers.emplace_back(values[i]);
     } else if (word.starts_with("--") || !arguments.script.empty()) {
       return std::nullopt;
     } else {
@@ -43,6 +49,11 @@ std::string ProgramFolder() {
 std::unique_ptr<shell::SettingsStore> Settings(const std::string& path) {
   if (path.empty()) return std::make_unique<shell::MemorySettings>();
   return std::make_unique<shell::FileSettings>(path);
+}
+
+/// Beside the settings, so that a trial never touches the user's own work in progress.
+std::string StateFolder(const std::string& settings) {
+  return settings.empty() ? settings : settings + ".state";
 }
 
 void Tell(const headless::Json& answer) {
@@ -78,7 +89,9 @@ int main(int count, char** values) {
   }
   const std::unique_ptr<shell::SettingsStore> settings = Settings(arguments->settings);
   headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir,
-                          *settings);
+                          *settings, StateFolder(arguments->settings));
+  // The start may ask before the first command can be read.
+  for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());
   RunScript(driver, arguments->script.empty() ? std::cin : script);
   return driver.Misunderstood() ? 1 : 0;
