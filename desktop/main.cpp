@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <csignal>
 
 #include "desktop/application.h"
 #include "desktop/main_window.h"
@@ -9,6 +10,8 @@
 #include "shell/instrument_file.h"
 
 int main(int count, char** arguments) {
+  // A limit on the size of files is told like a full disk; the tags in memory must not go with it.
+  std::signal(SIGXFSZ, SIG_IGN);
   QApplication application(count, arguments);
   desktop::PrepareApplication(application);
   desktop::Splash splash(QStringLiteral("Ver.") + QLatin1String(shell::kProgramVersion));

@@ -40,8 +40,8 @@ std::unique_ptr<QPrinter> ChoosePrinter(QtPresenter& presenter) {
 /// A document that the system's printing takes.
 class PrinterDocument : public PagedDocument {
  public:
-  PrinterDocument(std::unique_ptr<QPrinter> printer, double unitsPerTwip, const std::string& path)
-      : PagedDocument(std::move(printer), unitsPerTwip, path) {}
+  PrinterDocument(std::unique_ptr<QPrinter> printer, double unitsPerTwip)
+      : PagedDocument(std::move(printer), unitsPerTwip) {}
 
   bool Finish() override {
     const bool finished = EndDrawing();
@@ -55,6 +55,23 @@ class PrinterDocument : public PagedDocument {
  private:
   QPrinter& Printer() const { return static_cast<QPrinter&>(Device()); }
 };
+
+/// The document of a chosen printer or file, begun; null when it cannot be, which the user has been
+/// told, or when there is no printer.
+std::unique_ptr<PagedDocument> StartDocument(std::unique_ptr<QPrinter> printer,
+                                             QtPresenter& presenter) {
+  if (!printer) return nullptr;
+  if (const QString path = printer->outputFileName(); !path.isEmpty()) {
+    if (std::unique_ptr<PagedDocument> file = StartPdf(path.toStdString())) return file;
+  } else {
+    const double unitsPerTwip = printer->resolution() / kTwipsPerInch;
+    auto document = std::make_unique<PrinterDocument>(std::move(printer), unitsPerTwip);
+    if (document->Begin()) return document;
+  }
+  presenter.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
+                 common::Icon::kWarning);
+  return nullptr;
+}
 
 }  // namespace
 
@@ -74,15 +91,7 @@ bool QtPlatform::StartProgram(const std::string& program,
 }
 
 std::unique_ptr<shell::PrintJob> QtPlatform::AskForPrinter() {
-  std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
-  if (!printer) return nullptr;
-  const double unitsPerTwip = printer->resolution() / kTwipsPerInch;
-  const std::string path = printer->outputFileName().toStdString();
-  auto document = std::make_unique<PrinterDocument>(std::move(printer), unitsPerTwip, path);
-  if (document->Begin()) return document;
-  presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
-                  common::Icon::kWarning);
-  return nullptr;
+  return StartDocument(ChoosePrinter(presenter_), presenter_);
 }
 
 std::unique_ptr<shell::PrintJob> QtPlatform::StartPdf(const std::string& path) {
@@ -95,18 +104,17 @@ void QtPlatform::PrintImage(forms::Form& form) {
   if (view == nullptr) return;
   // Before the dialogue hides a part of it.
   const QPixmap image = view->grab();
-  const std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
-  if (!printer) return;
-  QPainter painter;
-  if (!painter.begin(printer.get())) {
-    presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
-                    common::Icon::kWarning);
-    return;
-  }
-  const double width = printer->width();
+  const std::unique_ptr<PagedDocument> document =
+      StartDocument(ChoosePrinter(presenter_), presenter_);
+  if (!document) return;
+  QPainter& painter = document->Painter();
+  const double width = painter.device()->width();
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawPixmap(QRectF(0, 0, width, width * image.height() / image.width()), image,
                      image.rect());
+  if (document->Finish()) return;
+  presenter_.Show("印刷できませんでした。プリンタまたは保存先を確認してください。", "印刷",
+                  common::Icon::kWarning);
 }
 
 }  // namespace desktop

@@ -38,10 +38,12 @@ UserPrograms ParseUserPrograms(std::string bytes) {
 
 UserPrograms ReadUserPrograms(const std::string& folder) {
   try {
-    return ParseUserPrograms(common::ReadFile(FilePath(folder)));
+    const std::string bytes = common::ReadFile(FilePath(folder));
+    if (!common::IsUnfinished(bytes)) return ParseUserPrograms(bytes);
   } catch (const common::RuntimeFault&) {
-    return {};  // Most users have no such file.
+    // Most users have no such file.
   }
+  return {};
 }
 
 std::string EncodeUserPrograms(const UserPrograms& programs) {
@@ -60,9 +62,8 @@ void WriteUserPrograms(const std::string& folder, UserPrograms& programs) {
   for (UserProgram& program : stripped) {
     program.command = WithoutOuterQuotes(std::move(program.command));
   }
-  const std::string bytes = EncodeUserPrograms(stripped);
+  SaveUserFile(FilePath(folder), [&stripped] { return EncodeUserPrograms(stripped); });
   programs = std::move(stripped);
-  common::WriteFile(FilePath(folder), bytes);
 }
 
 }  // namespace shell

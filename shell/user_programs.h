@@ -26,8 +26,7 @@ std::string EncodeUserPrograms(const UserPrograms& programs);
 UserPrograms ReadUserPrograms(const std::string& folder);
 
 /// Takes the outer quotes off the commands and writes the file anew. A text that cannot be stored
-/// and a file that cannot be written are raised with a sentence; in the first case neither the file
-/// nor `programs` has changed.
+/// and a file that cannot be written are raised with a sentence; `programs` has not changed then.
 void WriteUserPrograms(const std::string& folder, UserPrograms& programs);
 
 }  // namespace shell

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -63,6 +64,8 @@ void RunScript(headless::Driver& driver, std::istream& input) {
 }  // namespace
 
 int main(int count, char** values) {
+  // A limit on the size of files is told like a full disk instead of ending the run.
+  std::signal(SIGXFSZ, SIG_IGN);
   const std::optional<Arguments> arguments = Parse(count, values);
   if (!arguments) {
     std::cerr << kUsage;
