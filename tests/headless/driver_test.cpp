@@ -4,8 +4,12 @@
 
 #include <cstdio>
 
+#include "tests/support/program.h"
+
 namespace headless {
 namespace {
+
+using tests::OutputOf;
 
 class DriverTest : public testing::Test {
  protected:
@@ -134,19 +138,6 @@ TEST_F(DriverTest, DumpsTheActiveForm) {
   EXPECT_EQ(Do("forms")["forms"], Json::array());
   Do("quit");
   EXPECT_TRUE(driver.Ended());
-}
-
-/// What another program prints about a file.
-std::string OutputOf(const std::string& command) {
-  std::string output;
-  FILE* const pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return output;
-  char part[4096];
-  while (const std::size_t count = std::fread(part, 1, sizeof part, pipe)) {
-    output.append(part, count);
-  }
-  EXPECT_EQ(pclose(pipe), 0) << command;
-  return output;
 }
 
 TEST_F(DriverTest, TellsThePageOfTheSheetOnTop) {

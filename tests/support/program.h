@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -30,6 +31,19 @@ inline bool MountsAllowed() {
   static const bool allowed =
       std::system("unshare -rm sh -c 'mount -t tmpfs tmpfs /mnt' >/dev/null 2>&1") == 0;
   return allowed;
+}
+
+/// What another program prints about a file.
+inline std::string OutputOf(const std::string& command) {
+  std::string output;
+  FILE* const pipe = popen(command.c_str(), "r");
+  if (pipe == nullptr) return output;
+  char part[4096];
+  while (const std::size_t count = std::fread(part, 1, sizeof part, pipe)) {
+    output.append(part, count);
+  }
+  EXPECT_EQ(pclose(pipe), 0) << command;
+  return output;
 }
 
 /// The driver as a process of its own, which takes a command a line and answers each.
