@@ -1,11 +1,14 @@
 #include "desktop/platform.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "desktop/form_view.h"
@@ -73,12 +76,31 @@ std::unique_ptr<PagedDocument> StartDocument(std::unique_ptr<QPrinter> printer,
   return nullptr;
 }
 
+/// Whether the opener of the desktop has a program for a file. Its exit status tells; the toolkit
+/// would start it and take that for success. One that is still at it has found one.
+bool OpenedBy(const QString& opener, const QString& path) {
+  constexpr int kPatience = 2000;  // ms
+  // It may outlive this program, so nobody owns it who would end it.
+  auto* const process = new QProcess;
+  QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  process->setStandardInputFile(QProcess::nullDevice());
+  process->setStandardOutputFile(QProcess::nullDevice());
+  process->setStandardErrorFile(QProcess::nullDevice());
+  process->setChildProcessModifier([] { setsid(); });
+  process->start(opener, {path});
+  if (!process->waitForStarted()) return false;
+  if (!process->waitForFinished(kPatience)) return true;
+  return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+}
+
 }  // namespace
 
 bool QtPlatform::OpenWithDesktop(const std::string& path) {
   const QFileInfo file(QString::fromStdString(path));
   // Without this look the user's program would be started and complain in words of its own.
   if (path.empty() || !file.exists()) return false;
+  const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+  if (!opener.isEmpty()) return OpenedBy(opener, file.absoluteFilePath());
   return QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
 }
 
