@@ -84,5 +84,9 @@ int main(int count, char** values) {
                           *settings);
   Tell(driver.Start());
   RunScript(driver, arguments->script.empty() ? std::cin : script);
+  if (!std::cout.flush()) {
+    std::cerr << "zepha-headless: the answers could not be written\n";
+    return 1;
+  }
   return driver.Misunderstood() ? 1 : 0;
 }

@@ -260,6 +260,12 @@ TEST_F(Faults, PagesAndWorkbooksFailAloud) {
   }
 }
 
+TEST_F(Faults, AnswersThatNobodyGetsAreNoSuccess) {
+  const std::string run = "echo workspace | " ZEPHA_BUILD_DIR "/zepha-headless 2>/dev/null >";
+  EXPECT_EQ(std::system((run + "/dev/null").c_str()), 0);
+  EXPECT_NE(std::system((run + "/dev/full").c_str()), 0);
+}
+
 // There is no printer and no program for workbooks: the user learns where the workbook is, and that
 // there is none when it could not be made.
 TEST_F(Faults, AWorkbookIsFoundWithoutAProgramForIt) {
