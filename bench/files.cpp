@@ -39,7 +39,7 @@ void SaveFullStore(benchmark::State& state) {
   const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   shell::TagStore store = FullStore(tables);
   Silent user;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     if (!shell::SaveInstrumentFile(store, user)) state.SkipWithError("not saved");
   }
   std::remove(TemporaryPath().c_str());
@@ -51,7 +51,7 @@ void OpenFullStore(benchmark::State& state) {
   shell::TagStore store = FullStore(tables);
   Silent user;
   shell::SaveInstrumentFile(store, user);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const bool opened =
         shell::OpenInstrumentFile(store, TemporaryPath(), tables.pipes, tables.lists, user);
     if (!opened || store.TagCount() != shell::kMaxTags) state.SkipWithError("not opened");

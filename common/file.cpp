@@ -81,7 +81,7 @@ class Descriptor {
   RaiseAccessFault(path, reason);
 }
 
-void WriteBytes(const Descriptor& file, const std::string& path, std::string_view bytes) {
+void WriteAll(const Descriptor& file, const std::string& path, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
     if (count < 0 && errno == EINTR) continue;
@@ -93,11 +93,11 @@ void WriteBytes(const Descriptor& file, const std::string& path, std::string_vie
 /// An old file stays as it is until the mark stands in it; then it is cut.
 void ReplaceContents(const Descriptor& file, const std::string& path, std::string_view bytes) {
   const std::size_t marked = std::min(bytes.size(), kUnfinished.size());
-  WriteBytes(file, path, kUnfinished.substr(0, marked));
+  WriteAll(file, path, kUnfinished.substr(0, marked));
   if (ftruncate(file.Number(), static_cast<off_t>(marked)) != 0) RaiseFileFault(path, errno);
-  WriteBytes(file, path, bytes.substr(marked));
+  WriteAll(file, path, bytes.substr(marked));
   if (lseek(file.Number(), 0, SEEK_SET) != 0) RaiseFileFault(path, errno);
-  WriteBytes(file, path, bytes.substr(0, marked));
+  WriteAll(file, path, bytes.substr(0, marked));
 }
 
 }  // namespace
@@ -140,7 +140,7 @@ void WriteFile(const std::string& path, std::string_view bytes) {
   if (S_ISREG(status.st_mode)) {
     ReplaceContents(file, path, bytes);
   } else {
-    WriteBytes(file, path, bytes);
+    WriteAll(file, path, bytes);
   }
   if (file.Close() != 0) RaiseFileFault(path, errno);
 }

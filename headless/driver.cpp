@@ -12,6 +12,7 @@
 #include "shell/duct_commands.h"
 #include "shell/lifecycle.h"
 #include "shell/page_recorder.h"
+#include "shell/recalculation.h"
 #include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
@@ -83,7 +84,7 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"print", &Driver::Print},
       {"printall", &Driver::PrintAll},
       {"export", &Driver::Export},
-      {"recalculate", &Driver::NotThereYet},
+      {"recalculate", &Driver::Recalculate},
   };
   return kActions;
 }
@@ -481,8 +482,25 @@ void Driver::Quit(const std::string&, const std::string&, Json&) {
   ended_ = true;
 }
 
-void Driver::NotThereYet(const std::string&, const std::string&, Json&) {
-  Misunderstand("This command is not there yet.");
+void Driver::Recalculate(const std::string& object, const std::string& text, Json& answer) {
+  const std::string what = WholeLine(object, text);
+  if (!what.empty() && what != "write") Misunderstand("recalculate knows \"write\" alone.");
+  shell::Recalculator recalculator(workbench_.Space());
+  while (recalculator.Next()) continue;
+  answer["tags"] = recalculator.Recalculated();
+  answer["changes"] = Json::array();
+  for (const shell::TagChange& change : recalculator.Changes()) {
+    answer["changes"].push_back({{"row", change.row},
+                                 {"tag", change.tag},
+                                 {"field", change.field},
+                                 {"old", change.before},
+                                 {"new", change.after}});
+  }
+  answer["notes"] = Json::array();
+  for (const shell::TagNote& note : recalculator.Notes()) {
+    answer["notes"].push_back({{"row", note.row}, {"tag", note.tag}, {"text", note.text}});
+  }
+  if (what == "write") recalculator.Write(recalculator.ChangedRows());
 }
 
 }  // namespace headless

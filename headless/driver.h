@@ -84,7 +84,7 @@ class Driver {
   void Export(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
-  void NotThereYet(const std::string& object, const std::string& text, Json& answer);
+  void Recalculate(const std::string& object, const std::string& text, Json& answer);
 
   ScriptPresenter presenter_;
   ScriptPlatform platform_{presenter_};

@@ -180,6 +180,7 @@ void RememberFile(Workspace& workspace, const std::string& path) {
 }
 
 void ShowTitle(Workspace& workspace) {
+  workspace.window.SetCommandEnabled(kRecalculateCommand, workspace.tags.HasTags());
   const std::string name = common::FileNameOf(workspace.tags.zephaFileName);
   const std::string mark = workspace.tags.tagModified ? " *" : "";
   if (name.empty() && mark.empty()) {

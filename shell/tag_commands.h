@@ -7,6 +7,7 @@ namespace shell {
 struct Workspace;
 
 inline constexpr const char* kTagListForm = "frmTagList";
+inline constexpr const char* kRecalculateCommand = "mnuRecalculate";
 
 /// Registers the sheet on top under its tag number, with the question whether to replace.
 void RegisterTag(Workspace& workspace);
@@ -38,7 +39,8 @@ void SaveFile(Workspace& workspace);
 void SaveFileAs(Workspace& workspace);
 void SaveFileNamed(Workspace& workspace, const std::string& path);
 
-/// Shows the open file's name, and a mark while there are unsaved changes, as the window's title.
+/// Shows the open file's name, and a mark while there are unsaved changes, as the window's title;
+/// offers what works on all tags while there are any.
 void ShowTitle(Workspace& workspace);
 
 /// Lists the files opened last in their submenu.

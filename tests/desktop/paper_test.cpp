@@ -126,6 +126,20 @@ TEST_F(Paper, StoppedPrintingLeavesNoFile) {
   EXPECT_FALSE(QFileInfo::exists(folder_.filePath("stopped.pdf")));
 }
 
+TEST_F(Paper, RecalculationRunsBetweenEventsAndStops) {
+  bench_.Window().Run("mnuRecalculate");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
+  EXPECT_FALSE(Find<QPushButton>("cmd再計算").isEnabled());
+  QTest::mouseClick(&Find<QPushButton>("cmdCancel"), Qt::LeftButton);
+  const int stopped = Find<QProgressBar>("prg進行").value();
+  QTest::qWait(20);
+  EXPECT_EQ(Find<QProgressBar>("prg進行").value(), stopped);
+  EXPECT_LT(stopped, bench_.Space().tags.TagCount());
+  QTest::mouseClick(&Find<QPushButton>("cmd再計算"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>("cmd再計算").isEnabled(); }));
+  EXPECT_EQ(Find<QProgressBar>("prg進行").value(), bench_.Space().tags.TagCount());
+}
+
 /// Answers the printer dialogue: a file to print into, or Cancel with none.
 void AnswerPrinterDialogue(const QString& file) {
   QTimer::singleShot(50, [file] {

@@ -215,5 +215,27 @@ TEST_F(DriverTest, FilesAreThoseOfTheDuctsWhileTheirSheetIsOnTop) {
   std::remove(path.c_str());
 }
 
+TEST_F(DriverTest, RecalculatesAndWritesWhenItIsTold) {
+  Do(std::string("load ") + ZEPHA_SOURCE_DIR + "/samples/plant.zph");
+  Json answer = Do("recalculate");
+  EXPECT_EQ(answer["tags"], 61);
+  EXPECT_EQ(answer["changes"], Json::array());
+  EXPECT_EQ(answer["notes"][0]["tag"], "TW-2201");
+  EXPECT_EQ(answer["messages"], nullptr);
+  driver.Bench().Space().tags.SetText(3, 32, "1,000");
+  const Json change = {{"row", 3},
+                       {"tag", "FE-1103"},
+                       {"field", "最大ﾚｲﾉﾙｽﾞ数"},
+                       {"old", "1,000"},
+                       {"new", "823,849"}};
+  EXPECT_EQ(Do("recalculate")["changes"], Json::array({change}));
+  EXPECT_EQ(Do("row 3")["row"][32], "1,000");
+  EXPECT_EQ(Do("workspace")["TagModified"], false);
+  EXPECT_EQ(Do("recalculate write")["changes"], Json::array({change}));
+  EXPECT_EQ(Do("row 3")["row"][32], "823,849");
+  EXPECT_EQ(Do("workspace")["TagModified"], true);
+  EXPECT_EQ(Do("recalculate all")["ok"], false);
+}
+
 }  // namespace
 }  // namespace headless
