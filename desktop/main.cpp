@@ -2,6 +2,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <algorithm>
+#include <csignal>
 
 #include "desktop/application.h"
 #include "desktop/main_window.h"
@@ -27,6 +28,8 @@ void ShowQuietly(const desktop::MainWindow& window, std::string text) {
 }  // namespace
 
 int main(int count, char** arguments) {
+  // A limit on the size of files is told like a full disk; the tags in memory must not go with it.
+  std::signal(SIGXFSZ, SIG_IGN);
   QApplication application(count, arguments);
   desktop::PrepareApplication(application);
   desktop::Splash splash(QStringLiteral("Ver.") + QLatin1String(shell::kProgramVersion));

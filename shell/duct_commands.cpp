@@ -83,11 +83,13 @@ void SaveDuctListAs(Workspace& workspace) {
 void SaveDuctListNamed(Workspace& workspace, const std::string& path) {
   DuctStore& ducts = workspace.ducts;
   if (!HasDuctsToSave(ducts, workspace.Shown())) return;
+  const bool modified = ducts.ductModified;
   const std::string before = std::exchange(ducts.ductFileName, WithExtension(path, kDuctExtension));
   try {
     SaveDuctFile(ducts, workspace.Shown());
   } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file.
+    // What could not be written is not the open file, unless it has that name already.
+    if (before != ducts.ductFileName) ducts.ductModified = modified;
     ducts.ductFileName = before;
     throw;
   }

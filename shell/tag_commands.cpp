@@ -170,12 +170,14 @@ void SaveFileAs(Workspace& workspace) {
 
 void SaveFileNamed(Workspace& workspace, const std::string& path) {
   if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
+  const bool modified = workspace.tags.tagModified;
   const std::string before =
       std::exchange(workspace.tags.zephaFileName, WithExtension(path, kExtension));
   try {
     SaveInstrumentFile(workspace.tags, workspace.Shown());
   } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file.
+    // What could not be written is not the open file, unless it has that name already.
+    if (before != workspace.tags.zephaFileName) workspace.tags.tagModified = modified;
     workspace.tags.zephaFileName = before;
     throw;
   }

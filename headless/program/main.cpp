@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -74,6 +75,8 @@ void RunScript(headless::Driver& driver, std::istream& input) {
 }  // namespace
 
 int main(int count, char** values) {
+  // A limit on the size of files is told like a full disk instead of ending the run.
+  std::signal(SIGXFSZ, SIG_IGN);
   const std::optional<Arguments> arguments = Parse(count, values);
   if (!arguments) {
     std::cerr << kUsage;
@@ -94,5 +97,9 @@ int main(int count, char** values) {
   for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());
   RunScript(driver, arguments->script.empty() ? std::cin : script);
+  if (!std::cout.flush()) {
+    std::cerr << "zepha-headless: the answers could not be written\n";
+    return 1;
+  }
   return driver.Misunderstood() ? 1 : 0;
 }
