@@ -128,8 +128,10 @@ void CheckRow(const Row& row, const std::string& where) {
   for (const std::string& text : row) CheckText(text, where);
 }
 
-/// A text as it comes back from a file.
-std::string FromFile(const std::string& text) { return common::FromCp932(common::ToCp932(text)); }
+/// A text as it comes back from a file, in which a quote ends it.
+std::string FromFile(const std::string& text) {
+  return common::FromCp932(common::ToCp932(text.substr(0, text.find('"'))));
+}
 
 template <class Row>
 void CompareRows(const Row& kept, const Row& read, const std::string& where) {
@@ -192,19 +194,18 @@ void CheckForms(sheets::Workbench& bench, bool thoroughly) {
 void CheckStores(const shell::Workspace& space) {
   const shell::TagStore& tags = space.tags;
   const int count = std::max(tags.TagCount(), 0);
-  if (tags.currentTag < 0 || tags.currentTag > count) {
+  const int lines = static_cast<int>(tags.Lines().size());
+  // A new file leaves the current row where it was; the list's selection is what counts.
+  if (tags.currentTag < 0 || tags.currentTag > shell::kMaxTags || count > shell::kMaxTags) {
     throw Finding{"CurrentTag is " + std::to_string(tags.currentTag) + " of " +
                   std::to_string(count)};
   }
-  if (static_cast<int>(tags.Lines().size()) > shell::kMaxTags || count > shell::kMaxTags) {
-    throw Finding{"there are more than 300 tags"};
-  }
-  if (tags.Selection() < -1 || tags.Selection() >= std::max(count, 1)) {
-    throw Finding{"line " + std::to_string(tags.Selection()) + " is selected of " +
-                  std::to_string(count)};
+  if (lines != count || tags.Selection() < -1 || tags.Selection() >= lines) {
+    throw Finding{"line " + std::to_string(tags.Selection()) + " of " + std::to_string(lines) +
+                  " is selected for " + std::to_string(count) + " tags"};
   }
   const shell::DuctStore& ducts = space.ducts;
-  if (ducts.Selection() < -1 || ducts.Selection() >= std::max(ducts.DuctCount(), 1)) {
+  if (ducts.Selection() < -1 || ducts.Selection() >= ducts.DuctCount()) {
     throw Finding{"duct " + std::to_string(ducts.Selection()) + " is selected of " +
                   std::to_string(ducts.DuctCount())};
   }

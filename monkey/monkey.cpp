@@ -223,8 +223,8 @@ std::string Monkey::NewText(const std::string& present, bool plausible) {
     // Mostly a little more or less, now and then another order of magnitude.
     const double spread = random_.Percent(85) ? 0.3 : 3;
     try {
-      const double value = common::Val(present);
-      return Short(value * std::pow(10, spread * (2 * random_.Fraction() - 1)));
+      const common::Real factor = std::pow(10, spread * (2 * random_.Fraction() - 1));
+      return Short(common::Val(present) * factor);
     } catch (const common::RuntimeFault&) {
       return "1";
     }

@@ -31,11 +31,18 @@ constexpr int kFound = 3;
 /// Runs that shrinking a script may take.
 constexpr int kMostReplays = 250;
 
+/// Where folders of trials stand: in memory where there is such a place, because trials write much.
+fs::path BaseFolder() {
+  const fs::path memory = "/dev/shm";
+  const bool told = std::getenv("TMPDIR") != nullptr;
+  return !told && fs::is_directory(memory) ? memory : fs::temp_directory_path();
+}
+
 /// A folder that goes with its object.
 class PassingFolder {
  public:
   PassingFolder() {
-    std::string name = (fs::temp_directory_path() / "zepha-monkey-XXXXXX").string();
+    std::string name = (BaseFolder() / "zepha-monkey-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder " + name);
     path_ = name;
   }
