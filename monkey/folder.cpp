@@ -34,7 +34,7 @@ void Write(const fs::path& path, const std::string& bytes) {
 
 }  // namespace
 
-void FillFolder(const fs::path& folder, Random& random) {
+bool FillFolder(const fs::path& folder, Random& random) {
   const fs::path source = ZEPHA_SOURCE_DIR;
   fs::create_directories(folder / kDataFolder);
   fs::create_directories(folder / "tmp");
@@ -46,7 +46,8 @@ void FillFolder(const fs::path& folder, Random& random) {
   for (const fs::path& name : data) {
     fs::copy_file(fs::path(ZEPHA_BUILD_DIR) / name, folder / kDataFolder / name);
   }
-  if (random.Below(8) == 0) {
+  const bool sound = random.Below(8) != 0;
+  if (!sound) {
     const fs::path victim = folder / kDataFolder / random.Of(data);
     Write(victim, Damaged(common::ReadFile(victim.string()), random));
   }
@@ -63,6 +64,7 @@ void FillFolder(const fs::path& folder, Random& random) {
     fs::copy_file(folder / name, folder / ("locked" + extension));
     fs::permissions(folder / ("locked" + extension), fs::perms::owner_read);
   }
+  return sound;
 }
 
 const std::vector<std::string>& InstrumentFiles() {

@@ -15,7 +15,8 @@ inline constexpr const char* kSettingsFile = "settings.ini";
 
 /// Fills an empty folder with what a trial starts from: the shipped data, one file of it damaged in
 /// one trial of eight, the sample files, and files and folders that cannot be read or written.
-void FillFolder(const std::filesystem::path& folder, Random& random);
+/// Whether the data are sound.
+bool FillFolder(const std::filesystem::path& folder, Random& random);
 
 /// Names of files to open and to write, good ones more often than bad ones.
 const std::vector<std::string>& InstrumentFiles();

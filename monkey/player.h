@@ -28,7 +28,9 @@ struct Tally {
 /// they are remarks.
 class Player {
  public:
-  explicit Player(Tally& tally);
+  /// sound: the data files and all that will be opened are as this program writes them, so that no
+  /// table can be too short for what is looked up in it.
+  Player(Tally& tally, bool sound);
 
   /// The program's start; throws a Finding as Do does.
   void Start();
@@ -47,6 +49,7 @@ class Player {
   Tally& tally_;
   shell::FileSettings settings_;
   std::unique_ptr<headless::Driver> driver_;
+  bool sound_;
   long sinceStart_ = 0;
 };
 

@@ -103,14 +103,14 @@ std::vector<std::string> LinesOf(const fs::path& path) {
 
 /// The trial's own process, in the trial's folder. Each line is written down before it is done, so
 /// that it is known even if it ends the process.
-[[noreturn]] void Play(const TrialPlan& plan, Random& random,
+[[noreturn]] void Play(const TrialPlan& plan, Random& random, bool sound,
                        const std::vector<std::string>* given) {
   std::ofstream script(kScript);
   std::ofstream result(kResult);
   Tally tally;
   int end = 0;
   try {
-    Player player(tally);
+    Player player(tally, sound);
     Monkey monkey(player, tally, random, plan.form);
     player.Start();
     const auto events = given == nullptr ? static_cast<std::size_t>(plan.events) : given->size();
@@ -157,7 +157,7 @@ std::string KindOf(const std::string& finding) {
 TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* lines) {
   const PassingFolder folder;
   Random random(plan.seed, plan.number);
-  FillFolder(folder.Path(), random);
+  const bool sound = FillFolder(folder.Path(), random);
   const pid_t child = fork();
   if (child < 0) throw std::runtime_error("no process for a trial");
   if (child == 0) {
@@ -167,7 +167,7 @@ TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* line
     const int report = open(kReport, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     dup2(report, STDOUT_FILENO);
     dup2(report, STDERR_FILENO);
-    Play(plan, random, lines);
+    Play(plan, random, sound, lines);
   }
   int status = 0;
   while (waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
