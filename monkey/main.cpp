@@ -98,7 +98,7 @@ int RunOne(const Arguments& arguments, monkey::TrialPlan plan) {
     for (std::string line; std::getline(file, line);) lines.push_back(line);
   }
   const monkey::TrialResult result =
-      monkey::RunTrial(plan, arguments.script.empty() ? nullptr : &lines);
+      monkey::RunOnDriver(plan, arguments.script.empty() ? nullptr : &lines);
   for (const std::string& line : result.lines) std::printf("%s\n", line.c_str());
   if (result.finding.empty()) return 0;
   std::printf("FOUND: %s\n%s", result.finding.c_str(), result.report.c_str());
@@ -138,7 +138,7 @@ int Run(const Arguments& arguments, monkey::TrialPlan plan) {
   while (tally.events < arguments.events && findings.size() < kEnoughFindings) {
     plan.events =
         static_cast<int>(std::min<long>(kEventsPerTrial, arguments.events - tally.events));
-    const monkey::TrialResult result = monkey::RunTrial(plan);
+    const monkey::TrialResult result = monkey::RunOnDriver(plan);
     Add(result.tally, tally);
     if (!result.finding.empty()) {
       ++failures;

@@ -23,6 +23,9 @@ struct Tally {
   std::string slowestLine;
 };
 
+/// Ends the process with a signal when what begins now takes too long, on the processor or asleep.
+void StartWatch();
+
 /// Executes lines on the driver, in the current folder, and checks what comes of each. Lines that
 /// begin with kOwnMark are events that a script of the driver has no command for; to the driver
 /// they are remarks.

@@ -101,32 +101,24 @@ std::vector<std::string> LinesOf(const fs::path& path) {
   return lines;
 }
 
-/// The trial's own process, in the trial's folder. Each line is written down before it is done, so
-/// that it is known even if it ends the process.
-[[noreturn]] void Play(const TrialPlan& plan, Random& random, bool sound,
-                       const std::vector<std::string>* given) {
+/// The trial's own process, in the trial's folder.
+[[noreturn]] void Play(Random& random, bool sound,
+                       const std::function<void(const TrialStage&)>& perform) {
   std::ofstream script(kScript);
   std::ofstream result(kResult);
   Tally tally;
   int end = 0;
   try {
-    Player player(tally, sound);
-    Monkey monkey(player, tally, random, plan.form);
-    player.Start();
-    const auto events = given == nullptr ? static_cast<std::size_t>(plan.events) : given->size();
-    for (std::size_t i = 0; i < events; ++i) {
-      const std::string line = given == nullptr ? monkey.Next() : (*given)[i];
-      script << line << '\n' << std::flush;
-      player.Do(line);
-    }
-    player.Finish();
+    perform({random, sound, tally, [&script](const std::string& line) {
+               script << line << '\n' << std::flush;
+             }});
   } catch (const Finding& finding) {
     std::string what = finding.what;
     std::replace(what.begin(), what.end(), '\n', ' ');
     result << "found " << what << '\n';
     end = kFound;
   } catch (const std::exception& failure) {
-    result << "found an exception leaves the driver: " << failure.what() << '\n';
+    result << "found an exception leaves the program: " << failure.what() << '\n';
     end = kFound;
   }
   WriteTally(tally, result);
@@ -154,7 +146,7 @@ std::string KindOf(const std::string& finding) {
 
 }  // namespace
 
-TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* lines) {
+TrialResult RunTrial(const TrialPlan& plan, const std::function<void(const TrialStage&)>& perform) {
   const PassingFolder folder;
   Random random(plan.seed, plan.number);
   const bool sound = FillFolder(folder.Path(), random);
@@ -167,7 +159,7 @@ TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* line
     const int report = open(kReport, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     dup2(report, STDOUT_FILENO);
     dup2(report, STDERR_FILENO);
-    Play(plan, random, sound, lines);
+    Play(random, sound, perform);
   }
   int status = 0;
   while (waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
@@ -183,12 +175,27 @@ TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* line
   return result;
 }
 
+TrialResult RunOnDriver(const TrialPlan& plan, const std::vector<std::string>* lines) {
+  return RunTrial(plan, [&](const TrialStage& stage) {
+    Player player(stage.tally, stage.sound);
+    Monkey monkey(player, stage.tally, stage.random, plan.form);
+    player.Start();
+    const auto events = lines == nullptr ? static_cast<std::size_t>(plan.events) : lines->size();
+    for (std::size_t i = 0; i < events; ++i) {
+      const std::string line = lines == nullptr ? monkey.Next() : (*lines)[i];
+      stage.note(line);
+      player.Do(line);
+    }
+    player.Finish();
+  });
+}
+
 std::vector<std::string> Shrunk(const TrialPlan& plan, const TrialResult& failed) {
   std::vector<std::string> lines = failed.lines;
   int replays = 0;
   const auto stillFails = [&](const std::vector<std::string>& shorter) {
     return ++replays <= kMostReplays &&
-           KindOf(RunTrial(plan, &shorter).finding) == KindOf(failed.finding);
+           KindOf(RunOnDriver(plan, &shorter).finding) == KindOf(failed.finding);
   };
   for (std::size_t part = lines.size() / 2; part > 0 && replays < kMostReplays;) {
     bool shorter = false;

@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "player.h"
+#include "random.h"
 
 namespace monkey {
 
@@ -28,12 +30,25 @@ struct TrialResult {
   std::vector<std::string> lines;
 };
 
-/// Runs a trial in a process and a folder of its own. With lines it plays these instead of random
-/// ones, in the same folder contents.
-TrialResult RunTrial(const TrialPlan& plan, const std::vector<std::string>* lines = nullptr);
+/// What a trial has at hand while it runs.
+struct TrialStage {
+  Random& random;
+  /// Whether the data files are undamaged.
+  bool sound;
+  Tally& tally;
+  /// Writes an event down, before it is done, so that it is known even if it ends the process.
+  std::function<void(const std::string& line)> note;
+};
 
-/// As few lines of a failed trial as still give the same finding, by leaving out ever smaller
-/// parts.
+/// Runs a trial in a process and a folder of its own. perform throws a Finding to end it.
+TrialResult RunTrial(const TrialPlan& plan,
+                     const std::function<void(const TrialStage& stage)>& perform);
+
+/// The same on the driver: random lines, or the given ones in the same folder contents.
+TrialResult RunOnDriver(const TrialPlan& plan, const std::vector<std::string>* lines = nullptr);
+
+/// As few lines of a failed trial on the driver as still give the same finding, by leaving out ever
+/// smaller parts.
 std::vector<std::string> Shrunk(const TrialPlan& plan, const TrialResult& failed);
 
 /// Leaves the start of the trial's folder and the script in a new folder, for a look with the
