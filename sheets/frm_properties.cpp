@@ -132,8 +132,7 @@ void frm物性::FluidsChanged() {
   const Quiet quiet(*this);
   const int fluid = lst流体名称.Index();
   FillNames();
-  // The last one may have been deleted.
-  lst流体名称.SetIndex(std::min(fluid, lst流体名称.Count() - 1));
+  if (fluid < lst流体名称.Count()) lst流体名称.SetIndex(fluid);
   ShowFluidName();
   ClearResults();
 }
