@@ -41,7 +41,7 @@ void QtPresenter::CloseAll() {
   const Counting steering(steering_);
   for (const auto& [form, shown] : shown_) closed_.push_back(shown.window);
   shown_.clear();
-  for (QWidget* window : closed_) delete window;
+  for (const QPointer<QWidget>& window : closed_) delete window.data();
   closed_.clear();
 }
 
@@ -121,6 +121,14 @@ void QtPresenter::CloseForm(forms::Form& form) {
   }
   shown_.erase(found);
   closed_.push_back(window);
+  // A window that was opened from this one would go with it.
+  for (const auto& [other, shown] : shown_) {
+    if (shown.window->parentWidget() != window) continue;
+    const QPoint place = shown.window->pos();
+    shown.window->setParent(mainWindow_, shown.window->windowFlags());
+    shown.window->move(place);
+    shown.window->show();
+  }
   // Hiding the focus would hand it on to the next field, as if the user had gone there.
   QWidget* const focus = QApplication::focusWidget();
   if (focus != nullptr && window->isAncestorOf(focus)) focus->clearFocus();
@@ -185,7 +193,7 @@ void QtPresenter::CollectLater() { collector_.start(); }
 void QtPresenter::Collect() {
   // A handler may stand behind a box that waits; the box calls again.
   if (waiting_ > 0) return;
-  for (QWidget* window : closed_) delete window;
+  for (const QPointer<QWidget>& window : closed_) delete window.data();
   closed_.clear();
   forms_->CollectClosed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QRect>
 #include <QTimer>
 #include <map>
@@ -69,7 +70,8 @@ class QtPresenter : public forms::Presenter {
   std::map<const forms::Form*, Shown> shown_;
   /// Where the tools stood when they were closed, by form name.
   std::map<std::string, QRect> toolPlaces_;
-  std::vector<QWidget*> closed_;
+  /// They may go with each other.
+  std::vector<QPointer<QWidget>> closed_;
   /// Dialogues that wait.
   int waiting_ = 0;
   /// The program moves windows itself; what Qt says about activation is no act of the user.

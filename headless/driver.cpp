@@ -279,13 +279,17 @@ void Driver::Pick(const std::string& object, const std::string& text, Json&) {
   }
   const std::optional<int> index = WholeNumber(text);
   if (!index) Misunderstand("\"" + text + "\" is neither an entry's number nor =TEXT.");
-  if (list != nullptr) {
-    if (*index < -1 || *index >= list->Count()) {
-      Misunderstand(control.Name() + " has entries 0 to " + std::to_string(list->Count() - 1) +
-                    ".");
+  const auto checkRange = [&](int first, std::size_t count) {
+    if (*index < first || *index >= static_cast<int>(count)) {
+      Misunderstand(control.Name() + " has entries 0 to " +
+                    std::to_string(static_cast<int>(count) - 1) + ".");
     }
+  };
+  if (list != nullptr) {
+    checkRange(-1, list->Items().size());
     list->Pick(*index);
   } else if (auto* const grid = dynamic_cast<forms::Grid*>(&control)) {
+    checkRange(0, grid->Rows().size());
     grid->Pick(*index);
   } else if (auto* const bar = dynamic_cast<forms::ScrollBar*>(&control)) {
     bar->SetValue(*index);

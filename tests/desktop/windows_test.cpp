@@ -101,6 +101,17 @@ TEST_F(Windows, NothingIsDestroyedWhileABoxWaits) {
   EXPECT_TRUE(gone);
 }
 
+TEST_F(Windows, WindowOutlivesTheDialogItWasOpenedFrom) {
+  DemoDialog& dialog = ShowDialog();
+  auto& tool = forms_.Show("frmDemoTool");
+  forms_.Unload(dialog);
+  QTest::qWait(1);
+  QPointer<QWidget> window = presenter_.ViewOf(tool)->window();
+  ASSERT_TRUE(window);
+  EXPECT_TRUE(window->isVisible());
+  forms_.Show("frmDemoTool");
+}
+
 TEST_F(Windows, ToolKeepsItsPlaceWhileTheProgramRuns) {
   const auto open = [this]() -> QWidget& {
     auto& tool = forms_.Show("frmDemoTool");

@@ -68,6 +68,8 @@ TEST_F(DriverTest, RefusesWhatAUserCannotReach) {
             "The main window is locked while frmRegCompany is open.");
   Do("click cmdCancel");
   EXPECT_EQ(Do("pick txt温度 0")["ok"], false);
+  Do("open frm振動数判定");
+  EXPECT_EQ(Do("pick grd振動数 0")["error"], "grd振動数 has entries 0 to -1.");
 }
 
 TEST_F(DriverTest, PressesKeysAndWalksWithEnter) {
