@@ -207,7 +207,7 @@ class IntegralThereAndBack : public ThereAndBack {
     const auto p = fluid.phase == kLiquid ? 0u : 1u;
     const auto bore = static_cast<std::size_t>(i);
     const double rho = fluid.FlowDensity();
-    const double step = 0.5 / dP;
+    const double step = 0.5 / (dP - 0.5);
     if (model == 3) {
       constexpr double kPipe = 0.014008;  // m
       constexpr double kSettled = 1e-4;   // at which the iteration ends
