@@ -33,7 +33,7 @@ class Random {
   std::mt19937_64 engine_;
 };
 
-/// A number as a user types it, with so many significant digits and no exponent.
+/// A number as text, with so many significant digits.
 inline std::string Digits(double value, int digits) {
   if (value == 0) return "0";
   const int decimals = digits - 1 - static_cast<int>(std::floor(std::log10(std::fabs(value))));

@@ -233,7 +233,7 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
     Compare("flow", found, w, w * (outlet / 2 * 1.1 + lag / 2 * 1.1 + decimals + 5e-6));
     Count(fluid.phase, {{"phase", fluid.phase}});
   }
-  ExpectEach("phase", 3, 400);
+  ExpectEach("phase", 3, 500);
   ExpectEachUnit(40, 2);  // no gas in cSt
 }
 
