@@ -28,7 +28,7 @@ Number Coefficient(Number beta, Number re) {
 
 void Checked(benchmark::State& state) {
   Real beta = 0.5;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(beta);
     benchmark::DoNotOptimize(Coefficient<Real>(beta, 70000));
   }
@@ -37,7 +37,7 @@ BENCHMARK(Checked);
 
 void Unchecked(benchmark::State& state) {
   double beta = 0.5;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(beta);
     benchmark::DoNotOptimize(Coefficient<double>(beta, 70000));
   }
@@ -46,7 +46,7 @@ BENCHMARK(Unchecked);
 
 void UncheckedWithFlagTest(benchmark::State& state) {
   double beta = 0.5;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(beta);
     std::feclearexcept(FE_ALL_EXCEPT);
     benchmark::DoNotOptimize(Coefficient<double>(beta, 70000));

@@ -6,6 +6,10 @@
 #include "flow/differential_pressure.h"
 #include "piping/pressure_loss.h"
 #include "shell/tables.h"
+#include "temperature/sensor.h"
+#include "temperature/thermowell.h"
+#include "valve/noise.h"
+#include "valve/sizing.h"
 
 namespace {
 
@@ -19,6 +23,9 @@ const shell::Tables& Tables() {
   static const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   return tables;
 }
+
+/// The result beside the time, to be compared with that of other programs.
+void Tell(benchmark::State& state, double result) { state.counters["result"] = result; }
 
 /// 20 t/h of water at 20 degC in 102.3 mm by 25 kPa.
 flow::Context Water() {
@@ -60,9 +67,11 @@ common::Real ReNor(const flow::Context& context) {
 void SolveBore(benchmark::State& state, flow::Context context) {
   Agreeing user;
   const common::Real reNor = ReNor(context);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(flow::SolveBore(context, Tables().orifice, reNor, user));
   }
+  Tell(state,
+       flow::SolveBore(context, Tables().orifice, reNor, user).value().beta * context.pipeBore);
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK_CAPTURE(SolveBore, water, Water());
@@ -73,7 +82,7 @@ void SolveDifferentialForSteam(benchmark::State& state) {
   flow::Context context = Compressible(flow::kSteam);
   context.boreToDifferential = true;
   const common::Real reNor = ReNor(context);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(
         flow::SolveDifferentialPressure(context, Tables().orifice, reNor, user));
   }
@@ -83,7 +92,7 @@ BENCHMARK(SolveDifferentialForSteam);
 
 void CoefficientCall(benchmark::State& state) {
   common::Real beta = 0.5;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(beta);
     benchmark::DoNotOptimize(flow::OrificeDischarge(flow::kFlangeTapOrifice, 70000, beta, 102.3F));
   }
@@ -98,7 +107,7 @@ void ConvertGasFlow(benchmark::State& state) {
   process.temperatureK = 293.15;
   process.densityBase = 1.293;
   process.flowUnit = 5;
-  for (auto _ : state) benchmark::DoNotOptimize(data::FlowToMass(process, 1500));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(data::FlowToMass(process, 1500));
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(ConvertGasFlow);
@@ -107,7 +116,8 @@ void SteamDensity(benchmark::State& state) {
   data::ProcessState process;
   process.pressureAbs = 10.2;
   process.temperatureK = 473.15;
-  for (auto _ : state) benchmark::DoNotOptimize(data::SteamDensity(process));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(data::SteamDensity(process));
+  Tell(state, data::SteamDensity(process));
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SteamDensity);
@@ -124,7 +134,7 @@ void LineLoss(benchmark::State& state, int phase) {
   line.innerDiameter = 102.3;
   line.roughness = 0.05;
   line.pipeLength = 200;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(line);
     benchmark::DoNotOptimize(piping::CalculateLineLoss(line));
   }
@@ -132,8 +142,114 @@ void LineLoss(benchmark::State& state, int phase) {
 BENCHMARK_CAPTURE(LineLoss, steam, data::kSteam);
 BENCHMARK_CAPTURE(LineLoss, gas, data::kGas);
 
+void FrictionFactor(benchmark::State& state) {
+  common::Real reynolds = 100000;
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(reynolds);
+    benchmark::DoNotOptimize(piping::FrictionFactor(reynolds, 0.05, 102.3));
+  }
+  Tell(state, piping::FrictionFactor(reynolds, 0.05, 102.3));
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(FrictionFactor);
+
+/// 100 t/h of water at 20 degC from 10 to 8 kgf/cm2 absolute, or 10 t/h of steam, in a 4 in valve
+/// in a 4 in pipe.
+valve::Service ValveService(int phase) {
+  valve::Service service;
+  service.fluidPhase = phase;
+  service.w = phase == data::kLiquid ? 100000 : 10000;
+  service.p1 = 10;
+  service.p2 = 8;
+  service.dP = 2;
+  service.t = phase == data::kLiquid ? 20 : 200;
+  service.tk = service.t + 273.15;
+  service.superheat = 20;
+  service.rho = phase == data::kLiquid ? 998.2 : 4.75;
+  service.rho1 = service.rho;
+  service.mu = phase == data::kLiquid ? 1.0 : 0.016;
+  service.pv = 0.0238;
+  service.pc = 225.65;
+  service.k = 1.3;
+  return service;
+}
+
+valve::SelectedValve FourInchValve() {
+  valve::SelectedValve valve;
+  valve.ratedCv = 195;
+  valve.d = 100;
+  valve.d1 = 100;
+  valve.d2 = 100;
+  valve.wallWeight = 42;
+  return valve;
+}
+
+void SizeValve(benchmark::State& state, int phase) {
+  valve::Service service = ValveService(phase);
+  const valve::SelectedValve valve = FourInchValve();
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(service);
+    benchmark::DoNotOptimize(valve::SizeCv(service, valve));
+  }
+  Tell(state, valve::SizeCv(service, valve).value().cv);
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK_CAPTURE(SizeValve, liquid, data::kLiquid);
+BENCHMARK_CAPTURE(SizeValve, steam, data::kSteam);
+
+void ValveNoise(benchmark::State& state) {
+  Agreeing user;
+  valve::Service service = ValveService(data::kSteam);
+  const valve::SelectedValve valve = FourInchValve();
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(service);
+    benchmark::DoNotOptimize(valve::NoiseLevel(service, valve, 150, user));
+  }
+  Tell(state, valve::NoiseLevel(service, valve, 150, user));
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(ValveNoise);
+
+void TemperatureOfOutput(benchmark::State& state, int kind, common::Real output) {
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(output);
+    benchmark::DoNotOptimize(temperature::CalcTemperature(Tables().sensors, kind, output));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK_CAPTURE(TemperatureOfOutput, typeK, temperature::kTypeK, 20644);
+BENCHMARK_CAPTURE(TemperatureOfOutput, pt100, temperature::kPt100, 175.86);
+
+/// A straight 16 mm well in 2 m/s of water.
+void AnalyseThermowell(benchmark::State& state) {
+  Agreeing user;
+  temperature::Thermowell well;
+  well.totalLength = 0.25;
+  well.insertionLength = 0.15;
+  well.tipDiameter = 0.016;
+  well.rootDiameter = 0.016;
+  well.bore = 0.008;
+  well.tipThickness = 0.006;
+  well.wellDensity = 7930;
+  well.youngsModulus = 1.98e10;
+  well.allowableStress = 1.3e7;
+  well.dampingRatio = 0.0005;
+  well.stressConcentration = 2;
+  well.density = 998;
+  well.viscosity = 1;
+  well.volumeFlow = 131;
+  well.pipeBore = 151;
+  for ([[maybe_unused]] auto _ : state) {
+    temperature::ThermowellFindings findings;
+    benchmark::DoNotOptimize(well);
+    benchmark::DoNotOptimize(temperature::AnalyseThermowell(well, user, findings));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(AnalyseThermowell);
+
 void LoadAllDataFiles(benchmark::State& state) {
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
     if (!tables.unread.empty()) state.SkipWithError("a data file was not read");
     benchmark::DoNotOptimize(tables);

@@ -6,6 +6,7 @@
 
 #include "common/file.h"
 #include "shell/instrument_file.h"
+#include "shell/recovery.h"
 #include "shell/tables.h"
 
 namespace {
@@ -39,7 +40,7 @@ void SaveFullStore(benchmark::State& state) {
   const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   shell::TagStore store = FullStore(tables);
   Silent user;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     if (!shell::SaveInstrumentFile(store, user)) state.SkipWithError("not saved");
   }
   std::remove(TemporaryPath().c_str());
@@ -51,7 +52,7 @@ void OpenFullStore(benchmark::State& state) {
   shell::TagStore store = FullStore(tables);
   Silent user;
   shell::SaveInstrumentFile(store, user);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const bool opened =
         shell::OpenInstrumentFile(store, TemporaryPath(), tables.pipes, tables.lists, user);
     if (!opened || store.TagCount() != shell::kMaxTags) state.SkipWithError("not opened");
@@ -59,5 +60,23 @@ void OpenFullStore(benchmark::State& state) {
   std::remove(TemporaryPath().c_str());
 }
 BENCHMARK(OpenFullStore)->Unit(benchmark::kMillisecond);
+
+/// The recovery copy, written anew at every round as if one text had changed.
+void CopyFullStore(benchmark::State& state) {
+  shell::TagStore store = FullStore(shell::LoadTables(ZEPHA_BUILD_DIR));
+  store.tagModified = true;
+  shell::Recovery recovery;
+  const std::string folder = TemporaryPath() + ".state";
+  recovery.UseFolder(folder);
+  int round = 0;
+  for (auto _ : state) {
+    store.SetText(1, 1, std::to_string(++round));
+    recovery.Keep(store, {});
+    if (!recovery.Trouble().empty()) state.SkipWithError("not copied");
+  }
+  recovery.End();
+  std::remove(folder.c_str());
+}
+BENCHMARK(CopyFullStore)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -4,8 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <cstdio>
 #include <filesystem>
 #include <utility>
 
@@ -16,6 +17,8 @@ namespace common {
 namespace {
 
 constexpr off_t kLargestFile = 64LL << 20;
+constexpr std::string_view kUnfinished("\0", 1);
+constexpr const char* kNoFile = "通常のファイルではありません。";
 
 class Descriptor {
  public:
@@ -33,9 +36,14 @@ class Descriptor {
   int number_;
 };
 
+[[noreturn]] void RaiseAccessFault(const std::string& path, const std::string& reason) {
+  throw RuntimeFault(Fault::kFileAccess,
+                     std::string(FaultText(Fault::kFileAccess)) + "\n" + path + "\n" + reason);
+}
+
 [[noreturn]] void RaiseFileFault(const std::string& path, int error) {
   if (error == ENOENT || error == ENOTDIR) throw RuntimeFault(Fault::kFileNotFound);
-  const char* reason = "";
+  std::string reason;
   switch (error) {
     case ENOSPC:
     case EDQUOT:
@@ -52,11 +60,53 @@ class Descriptor {
     case EISDIR:
       reason = "ファイルではなくフォルダです。";
       break;
+    case ENAMETOOLONG:
+      reason = "ファイル名が長すぎます。";
+      break;
+    case EBUSY:
+    case ETXTBSY:
+      reason = "ほかのプログラムが使用中です。";
+      break;
+    case EIO:
+    case ESTALE:
+      reason = "ディスクまたはネットワークの読み書きに失敗しました。";
+      break;
+    case ENXIO:
+    case ENODEV:
+      reason = kNoFile;
+      break;
     default:
-      reason = std::strerror(error);
+      // The system's own words are in the language and the code of the locale.
+      reason = "システムエラー " + std::to_string(error) + " が発生しました。";
   }
-  throw RuntimeFault(Fault::kFileAccess,
-                     std::string(FaultText(Fault::kFileAccess)) + "\n" + path + "\n" + reason);
+  RaiseAccessFault(path, reason);
+}
+
+void WriteAll(const Descriptor& file, const std::string& path, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseFileFault(path, errno);
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+/// An old file stays as it is until the mark stands in it; then it is cut.
+void ReplaceContents(const Descriptor& file, const std::string& path, std::string_view bytes) {
+  const std::size_t marked = std::min(bytes.size(), kUnfinished.size());
+  WriteAll(file, path, kUnfinished.substr(0, marked));
+  if (ftruncate(file.Number(), static_cast<off_t>(marked)) != 0) RaiseFileFault(path, errno);
+  WriteAll(file, path, bytes.substr(marked));
+  if (lseek(file.Number(), 0, SEEK_SET) != 0) RaiseFileFault(path, errno);
+  WriteAll(file, path, bytes.substr(0, marked));
+}
+
+/// A new file whose contents have reached the disk.
+void WriteDurably(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+  if (file.Number() < 0) RaiseFileFault(path, errno);
+  WriteAll(file, path, bytes);
+  if (fsync(file.Number()) != 0 || file.Close() != 0) RaiseFileFault(path, errno);
 }
 
 }  // namespace
@@ -74,10 +124,12 @@ std::string TemporaryFolder() {
 }
 
 std::string ReadFile(const std::string& path) {
-  Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
   if (file.Number() < 0 || fstat(file.Number(), &status) != 0) RaiseFileFault(path, errno);
   if (S_ISDIR(status.st_mode)) RaiseFileFault(path, EISDIR);
+  if (!S_ISREG(status.st_mode)) RaiseAccessFault(path, kNoFile);
+  if (status.st_size > kLargestFile) RaiseFileFault(path, EFBIG);
   std::string bytes;
   char buffer[65536];
   while (true) {
@@ -91,15 +143,28 @@ std::string ReadFile(const std::string& path) {
 }
 
 void WriteFile(const std::string& path, std::string_view bytes) {
-  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-  if (file.Number() < 0) RaiseFileFault(path, errno);
-  while (!bytes.empty()) {
-    const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) RaiseFileFault(path, errno);
-    bytes.remove_prefix(static_cast<std::size_t>(count));
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666));
+  struct stat status {};
+  if (file.Number() < 0 || fstat(file.Number(), &status) != 0) RaiseFileFault(path, errno);
+  if (S_ISREG(status.st_mode)) {
+    ReplaceContents(file, path, bytes);
+  } else {
+    WriteAll(file, path, bytes);
   }
   if (file.Close() != 0) RaiseFileFault(path, errno);
 }
+
+void ReplaceFile(const std::string& path, std::string_view bytes) {
+  const std::string passing = path + ".new";
+  try {
+    WriteDurably(passing, bytes);
+    if (std::rename(passing.c_str(), path.c_str()) != 0) RaiseFileFault(path, errno);
+  } catch (const RuntimeFault&) {
+    std::remove(passing.c_str());  // a part of it would fill the disk further
+    throw;
+  }
+}
+
+bool IsUnfinished(std::string_view bytes) { return bytes.starts_with(kUnfinished); }
 
 }  // namespace common

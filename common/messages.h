@@ -8,6 +8,11 @@ enum class Icon { kNone, kInformation, kQuestion, kWarning, kCritical };
 enum class Buttons { kOk, kYesNo, kYesNoCancel, kOkCancel };
 enum class Answer { kOk, kCancel, kYes, kNo };
 
+/// What Enter answers: the first button.
+constexpr Answer DefaultAnswer(Buttons buttons) {
+  return buttons == Buttons::kOk || buttons == Buttons::kOkCancel ? Answer::kOk : Answer::kYes;
+}
+
 /// A message box as the user sees it. Line breaks are "\n".
 struct Message {
   std::string text;

@@ -157,7 +157,12 @@ bool IsNumber(std::string_view text) {
   }
 }
 
-std::string NumberText(Real value) { return GeneralText(static_cast<double>(value), 15); }
+std::string NumberText(Real value) {
+  // Beyond it 15 digits would round up to a number that no double can hold, and that could not be
+  // read back.
+  constexpr double kLargest = 1.79769313486231e308;
+  return GeneralText(std::clamp(static_cast<double>(value), -kLargest, kLargest), 15);
+}
 
 std::string SpacedNumberText(Real value) {
   std::string text = NumberText(value);

@@ -1,11 +1,14 @@
 #include "desktop/platform.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "desktop/form_view.h"
@@ -40,8 +43,8 @@ std::unique_ptr<QPrinter> ChoosePrinter(QtPresenter& presenter) {
 /// A document that the system's printing takes.
 class PrinterDocument : public PagedDocument {
  public:
-  PrinterDocument(std::unique_ptr<QPrinter> printer, double unitsPerTwip, const std::string& path)
-      : PagedDocument(std::move(printer), unitsPerTwip, path) {}
+  PrinterDocument(std::unique_ptr<QPrinter> printer, double unitsPerTwip)
+      : PagedDocument(std::move(printer), unitsPerTwip) {}
 
   bool Finish() override {
     const bool finished = EndDrawing();
@@ -56,12 +59,48 @@ class PrinterDocument : public PagedDocument {
   QPrinter& Printer() const { return static_cast<QPrinter&>(Device()); }
 };
 
+/// The document of a chosen printer or file, begun; null when it cannot be, which the user has been
+/// told, or when there is no printer.
+std::unique_ptr<PagedDocument> StartDocument(std::unique_ptr<QPrinter> printer,
+                                             QtPresenter& presenter) {
+  if (!printer) return nullptr;
+  if (const QString path = printer->outputFileName(); !path.isEmpty()) {
+    if (std::unique_ptr<PagedDocument> file = StartPdf(path.toStdString())) return file;
+  } else {
+    const double unitsPerTwip = printer->resolution() / kTwipsPerInch;
+    auto document = std::make_unique<PrinterDocument>(std::move(printer), unitsPerTwip);
+    if (document->Begin()) return document;
+  }
+  presenter.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
+                 common::Icon::kWarning);
+  return nullptr;
+}
+
+/// Whether the opener of the desktop has a program for a file. Its exit status tells; the toolkit
+/// would start it and take that for success. One that is still at it has found one.
+bool OpenedBy(const QString& opener, const QString& path) {
+  constexpr int kPatience = 2000;  // ms
+  // It may outlive this program, so nobody owns it who would end it.
+  auto* const process = new QProcess;
+  QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  process->setStandardInputFile(QProcess::nullDevice());
+  process->setStandardOutputFile(QProcess::nullDevice());
+  process->setStandardErrorFile(QProcess::nullDevice());
+  process->setChildProcessModifier([] { setsid(); });
+  process->start(opener, {path});
+  if (!process->waitForStarted()) return false;
+  if (!process->waitForFinished(kPatience)) return true;
+  return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+}
+
 }  // namespace
 
 bool QtPlatform::OpenWithDesktop(const std::string& path) {
   const QFileInfo file(QString::fromStdString(path));
   // Without this look the user's program would be started and complain in words of its own.
   if (path.empty() || !file.exists()) return false;
+  const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+  if (!opener.isEmpty()) return OpenedBy(opener, file.absoluteFilePath());
   return QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
 }
 
@@ -74,15 +113,7 @@ bool QtPlatform::StartProgram(const std::string& program,
 }
 
 std::unique_ptr<shell::PrintJob> QtPlatform::AskForPrinter() {
-  std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
-  if (!printer) return nullptr;
-  const double unitsPerTwip = printer->resolution() / kTwipsPerInch;
-  const std::string path = printer->outputFileName().toStdString();
-  auto document = std::make_unique<PrinterDocument>(std::move(printer), unitsPerTwip, path);
-  if (document->Begin()) return document;
-  presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
-                  common::Icon::kWarning);
-  return nullptr;
+  return StartDocument(ChoosePrinter(presenter_), presenter_);
 }
 
 std::unique_ptr<shell::PrintJob> QtPlatform::StartPdf(const std::string& path) {
@@ -95,18 +126,17 @@ void QtPlatform::PrintImage(forms::Form& form) {
   if (view == nullptr) return;
   // Before the dialogue hides a part of it.
   const QPixmap image = view->grab();
-  const std::unique_ptr<QPrinter> printer = ChoosePrinter(presenter_);
-  if (!printer) return;
-  QPainter painter;
-  if (!painter.begin(printer.get())) {
-    presenter_.Show("印刷を開始できません。プリンタまたは保存先を確認してください。", "印刷",
-                    common::Icon::kWarning);
-    return;
-  }
-  const double width = printer->width();
+  const std::unique_ptr<PagedDocument> document =
+      StartDocument(ChoosePrinter(presenter_), presenter_);
+  if (!document) return;
+  QPainter& painter = document->Painter();
+  const double width = painter.device()->width();
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawPixmap(QRectF(0, 0, width, width * image.height() / image.width()), image,
                      image.rect());
+  if (document->Finish()) return;
+  presenter_.Show("印刷できませんでした。プリンタまたは保存先を確認してください。", "印刷",
+                  common::Icon::kWarning);
 }
 
 }  // namespace desktop

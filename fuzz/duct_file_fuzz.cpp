@@ -1,22 +1,17 @@
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "fuzz/fuzz.h"
 #include "shell/duct_file.h"
 
 namespace {
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::Require;
 
 bool HasQuote(const std::vector<shell::DuctRow>& rows) {
   return std::any_of(rows.begin(), rows.end(), [](const shell::DuctRow& row) {
-    return std::any_of(row.begin(), row.end(),
-                       [](const std::string& text) { return text.find('"') != std::string::npos; });
+    return std::any_of(row.begin(), row.end(), fuzz::HasQuote);
   });
 }
 
@@ -26,8 +21,7 @@ bool HasQuote(const std::vector<shell::DuctRow>& rows) {
 /// unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   shell::DuctStore store;
-  const shell::DuctFileContents read =
-      shell::ParseDuctFile({reinterpret_cast<const char*>(data), size});
+  const shell::DuctFileContents read = shell::ParseDuctFile(fuzz::Bytes(data, size));
   store.TakeRows(read.rows);
   Require(store.Lines().size() == read.rows.size());
   store.MoveDown();

@@ -1,17 +1,14 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "common/fault.h"
+#include "fuzz/fuzz.h"
 #include "shell/instrument_file.h"
 
 namespace {
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::Require;
 
 data::PipeTable Pipes() {
   data::PipeTable pipes;
@@ -27,12 +24,9 @@ data::ConvertLists Lists() {
 }
 
 bool HasQuote(const std::vector<shell::TagRow>& rows) {
-  for (const shell::TagRow& row : rows) {
-    for (const std::string& text : row) {
-      if (text.find('"') != std::string::npos) return true;
-    }
-  }
-  return false;
+  return std::any_of(rows.begin(), rows.end(), [](const shell::TagRow& row) {
+    return std::any_of(row.begin(), row.end(), fuzz::HasQuote);
+  });
 }
 
 }  // namespace
@@ -45,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static shell::TagStore store;
   std::vector<shell::TagRow> rows;
   try {
-    rows = shell::ParseInstrumentFile({reinterpret_cast<const char*>(data), size}, pipes, lists);
+    rows = shell::ParseInstrumentFile(fuzz::Bytes(data, size), pipes, lists);
   } catch (const common::RuntimeFault&) {
     return 0;
   }

@@ -12,6 +12,8 @@
 #include "shell/duct_commands.h"
 #include "shell/lifecycle.h"
 #include "shell/page_recorder.h"
+#include "shell/recalculation.h"
+#include "shell/recovery_commands.h"
 #include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
@@ -50,8 +52,10 @@ std::vector<std::string> ControlNames(const forms::Form& form) {
 
 }  // namespace
 
-Driver::Driver(std::string installDir, shell::SettingsStore& settings)
-    : workbench_(presenter_, std::move(installDir), settings, &platform_) {}
+Driver::Driver(std::string installDir, shell::SettingsStore& settings, std::string stateFolder)
+    : workbench_(presenter_, std::move(installDir), settings, &platform_) {
+  workbench_.Space().recovery.UseFolder(std::move(stateFolder));
+}
 
 const std::map<std::string, Driver::Action>& Driver::Actions() {
   static const std::map<std::string, Action> kActions = {
@@ -72,6 +76,7 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"dump", &Driver::Dump},
       {"forms", &Driver::Forms},
       {"workspace", &Driver::TellWorkspace},
+      {"recovery", &Driver::TellRecovery},
       {"close", &Driver::CloseForm},
       {"quit", &Driver::Quit},
       {"row", &Driver::Row},
@@ -83,7 +88,7 @@ const std::map<std::string, Driver::Action>& Driver::Actions() {
       {"print", &Driver::Print},
       {"printall", &Driver::PrintAll},
       {"export", &Driver::Export},
-      {"recalculate", &Driver::NotThereYet},
+      {"recalculate", &Driver::Recalculate},
   };
   return kActions;
 }
@@ -113,6 +118,8 @@ Json Driver::Execute(const std::string& line) {
   for (const auto& shown : presenter_.TakeShown()) answer["messages"].push_back(StateOf(shown));
   presenter_.TakeBeeps();
   workbench_.Forms().CollectClosed();
+  // A script has no time to pass between its commands, so each is as good as a tick of the clock.
+  shell::KeepRecovery(workbench_.Space());
   return answer;
 }
 
@@ -472,6 +479,14 @@ void Driver::Export(const std::string& object, const std::string& text, Json& an
   answer["tags"] = std::max(space.tags.TagCount(), 0);
 }
 
+/// The copy as it is after the command before.
+void Driver::TellRecovery(const std::string&, const std::string&, Json& answer) {
+  const shell::Recovery& recovery = workbench_.Space().recovery;
+  answer["folder"] = recovery.Folder();
+  answer["copy"] = StateOf(recovery.Kept());
+  answer["trouble"] = recovery.Trouble();
+}
+
 void Driver::CloseForm(const std::string&, const std::string&, Json&) {
   workbench_.Forms().Unload(ActiveForm());
 }
@@ -481,8 +496,25 @@ void Driver::Quit(const std::string&, const std::string&, Json&) {
   ended_ = true;
 }
 
-void Driver::NotThereYet(const std::string&, const std::string&, Json&) {
-  Misunderstand("This command is not there yet.");
+void Driver::Recalculate(const std::string& object, const std::string& text, Json& answer) {
+  const std::string what = WholeLine(object, text);
+  if (!what.empty() && what != "write") Misunderstand("recalculate knows \"write\" alone.");
+  shell::Recalculator recalculator(workbench_.Space());
+  while (recalculator.Next()) continue;
+  answer["tags"] = recalculator.Recalculated();
+  answer["changes"] = Json::array();
+  for (const shell::TagChange& change : recalculator.Changes()) {
+    answer["changes"].push_back({{"row", change.row},
+                                 {"tag", change.tag},
+                                 {"field", change.field},
+                                 {"old", change.before},
+                                 {"new", change.after}});
+  }
+  answer["notes"] = Json::array();
+  for (const shell::TagNote& note : recalculator.Notes()) {
+    answer["notes"].push_back({{"row", note.row}, {"tag", note.tag}, {"text", note.text}});
+  }
+  if (what == "write") recalculator.Write(recalculator.ChangedRows());
 }
 
 }  // namespace headless

@@ -18,8 +18,8 @@ using Json = nlohmann::ordered_json;
 class Driver {
  public:
   /// installDir: folder of the data files. settings: where runs leave their state; it must outlive
-  /// the driver.
-  Driver(std::string installDir, shell::SettingsStore& settings);
+  /// the driver. stateFolder: where unsaved work is kept for the case of a crash, "" for nowhere.
+  Driver(std::string installDir, shell::SettingsStore& settings, std::string stateFolder = {});
 
   /// The program's own start.
   Json Start();
@@ -82,9 +82,10 @@ class Driver {
   void Print(const std::string& object, const std::string& text, Json& answer);
   void PrintAll(const std::string& object, const std::string& text, Json& answer);
   void Export(const std::string& object, const std::string& text, Json& answer);
+  void TellRecovery(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
-  void NotThereYet(const std::string& object, const std::string& text, Json& answer);
+  void Recalculate(const std::string& object, const std::string& text, Json& answer);
 
   ScriptPresenter presenter_;
   ScriptPlatform platform_{presenter_};

@@ -25,17 +25,13 @@ bool Offers(Buttons buttons, Answer answer) {
   return false;
 }
 
-Answer DefaultOf(Buttons buttons) {
-  return buttons == Buttons::kOk || buttons == Buttons::kOkCancel ? Answer::kOk : Answer::kYes;
-}
-
 }  // namespace
 
 Answer ScriptPresenter::NextAnswer(Buttons buttons) {
-  if (buttons == Buttons::kOk || answers_.empty()) return DefaultOf(buttons);
+  if (buttons == Buttons::kOk || answers_.empty()) return common::DefaultAnswer(buttons);
   const Answer answer = answers_.front();
   answers_.pop_front();
-  return Offers(buttons, answer) ? answer : DefaultOf(buttons);
+  return Offers(buttons, answer) ? answer : common::DefaultAnswer(buttons);
 }
 
 Answer ScriptPresenter::Present(const common::Message& message) {

@@ -5,6 +5,7 @@
 
 #include "common/text.h"
 #include "forms/controls.h"
+#include "shell/recovery_commands.h"
 
 namespace headless {
 
@@ -196,6 +197,14 @@ Json StateOf(const shell::Workspace& workspace) {
                 {"CalcNote", workspace.calcNote},
                 {"MultiWindowMode", workspace.multiWindowMode}};
   state.update(ProcessOf(workspace.process));
+  return state;
+}
+
+Json StateOf(const std::optional<shell::RecoveryCopy>& copy) {
+  if (!copy) return nullptr;
+  Json state = {{"time", shell::LocalTimeText(copy->time)}};
+  if (copy->tags) state.update({{"path", copy->tags->path}, {"tags", copy->TagCount()}});
+  if (copy->ducts) state.update({{"ductpath", copy->ducts->path}, {"ducts", copy->DuctCount()}});
   return state;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,9 @@ Json StateOf(const ScriptPresenter::Shown& shown);
 
 /// The workspace's values by name.
 Json StateOf(const shell::Workspace& workspace);
+
+/// What a recovery copy holds; null for none.
+Json StateOf(const std::optional<shell::RecoveryCopy>& copy);
 
 /// What stands on a printed page, in the order of drawing: texts and lines; a frame is four lines.
 Json ItemsOf(const shell::PageRecorder& page);

@@ -117,6 +117,8 @@ class frmCV : public ProcessSheet,
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddCV(row); }
   void GetFrom(int row) override { GetCV(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
+  std::vector<int> LookUpAnew() override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintCV(target); }
   /// Writes entries and results into a row of the tag store.
   void AddCV(int row);
@@ -188,6 +190,7 @@ class frmCV : public ProcessSheet,
   void GetValve(const shell::TagRow& record);
   void GetEntries(const shell::TagRow& record);
   void GetResults(const shell::TagRow& record);
+  int TrimRow(const std::string& size, const std::string& ratedCv) const;
 
   void PrintConditions(CalculationPage& page);
   void PrintValve(CalculationPage& page);

@@ -1,5 +1,7 @@
 // The tag record of the valve sheet.
 
+#include <algorithm>
+
 #include "common/number.h"
 #include "sheets/frm_cv.h"
 #include "sheets/record_fields.h"
@@ -11,20 +13,29 @@ namespace {
 using common::Val;
 
 /// Columns of the record. What is not named here is a text in the order of the tables below.
-enum Column : std::size_t {
+enum Column {
   kFluid = 2,
   kFlowUnit = 4,
   kSecondary = 7,
   kPressureKind = 8,
   kDensityUnit = 14,
+  kRequiredCv = 24,
   kMaker = 25,
+  kValveBore = 26,
   kModel = 27,
   kFlangeRating = 28,
+  kFL = 29,
+  kNoiseCoefficient = 30,
+  kFd = 32,
+  kRatedCv = 33,
+  kRangeability = 34,
   kCharacteristic = 35,
   kCharacteristicIndex = 36,
   kBodySize = 37,
   kMaterial = 42,
   kMaterialIndex = 43,
+  kWallWeight = 44,
+  kSizedCv = 45,
   kVelocityColour = 49,
 };
 
@@ -43,18 +54,18 @@ std::vector<std::pair<int, TextBox*>> frmCV::EntryColumns() {
           {19, &critical.txt臨界圧力},
           {21, &txt偏差係数},
           {22, &txt比熱比},
-          {26, &txt弁口径},
-          {29, &txtFL},
-          {30, &txtN係数},
+          {kValveBore, &txt弁口径},
+          {kFL, &txtFL},
+          {kNoiseCoefficient, &txtN係数},
           {31, &txtValveSize},
-          {32, &txt弁Fd},
-          {33, &txtCvv},
-          {34, &txtRangeability},
+          {kFd, &txt弁Fd},
+          {kRatedCv, &txtCvv},
+          {kRangeability, &txtRangeability},
           {38, &txt上流配管外径},
           {39, &txt上流配管厚},
           {40, &txt下流配管外径},
           {41, &txt下流配管厚},
-          {44, &txtWallWeight}};
+          {kWallWeight, &txtWallWeight}};
 }
 
 std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
@@ -67,8 +78,8 @@ std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
 }
 
 std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
-  return {{23, &lblFCI計算Cv}, {24, &lblISA計算Cv}, {45, &lblSizingCv},
-          {46, &lblOpening},   {47, &lblVelocity},  {48, &lblNoise}};
+  return {{23, &lblFCI計算Cv}, {kRequiredCv, &lblISA計算Cv}, {kSizedCv, &lblSizingCv},
+          {46, &lblOpening},   {47, &lblVelocity},           {48, &lblNoise}};
 }
 
 void frmCV::AddCV(int row) {
@@ -155,6 +166,61 @@ void frmCV::GetResults(const shell::TagRow& record) {
     GetEntries(record);
   }
   pic特性.Redraw();
+}
+
+/// A valve may have been chosen or not.
+std::vector<shell::Sheet::Calculation> frmCV::CalculationsOf(const shell::TagRow& record) {
+  if (record[kRequiredCv].empty()) return {};
+  const bool sized = !record[kSizedCv].empty();
+  return {{"", [this, sized] {
+             if (!Calculate(cmdCv計算)) return false;
+             if (sized) cmdSizing.Click();
+             return !sized || !lblNoise.Text().empty();  // the noise is the last result
+           }}};
+}
+
+std::vector<int> frmCV::LookUpAnew() {
+  std::vector<int> columns;
+  if (cboMaker.Index() >= 0 && cboValveModel.Index() >= 0) {
+    const std::string trim = txtValveSize.Text();
+    const std::string ratedCv = txtCvv.Text();
+    cboValveModel_Click();
+    columns = {kFL, kNoiseCoefficient, kFd, kCharacteristic};
+    if (const int row = TrimRow(trim, ratedCv); row >= 0) {
+      TakeTrim(row);
+      columns.insert(columns.end(), {kRatedCv, kRangeability});
+    }
+  }
+  const auto& ratings = valve::kFlangeRatings;
+  const auto rating = std::find(ratings.begin(), ratings.end(), flangeRating_);
+  if (rating != ratings.end() && cboBodySize.Index() >= 0) {
+    txt弁口径.SetText(common::At(
+        common::At(Tables().valveDiameters.valveDia, static_cast<int>(rating - ratings.begin())),
+        cboBodySize.Index()));
+    columns.push_back(kValveBore);
+  }
+  if (cbo配管材質.Index() >= 0) {
+    cbo配管材質_Click();
+    columns.push_back(kWallWeight);
+  }
+  return columns;
+}
+
+/// The catalogue's row of a trim size of the selected model, -1 for none. One size may stand there
+/// with more than one Cv.
+int frmCV::TrimRow(const std::string& size, const std::string& ratedCv) const {
+  const valve::ValveCatalogue& valves = Tables().valves;
+  const int maker = cboMaker.Index();
+  const int model = cboValveModel.Index();
+  const auto& sizes = common::At(common::At(valves.valveSize, maker), model);
+  const auto& cvs = common::At(common::At(valves.valveCv, maker), model);
+  int found = -1;
+  for (int row = 0; row < valve::ValveCatalogue::kTrims; ++row) {
+    if (size.empty() || common::At(sizes, row) != size) continue;
+    if (common::At(cvs, row) == ratedCv) return row;
+    if (found < 0) found = row;
+  }
+  return found;
 }
 
 }  // namespace sheets

@@ -1,9 +1,9 @@
 #include "sheets/frm_edit_prop_data.h"
 
-#include "common/file.h"
 #include "common/text.h"
 #include "data/fluid_check.h"
 #include "sheets/property_target.h"
+#include "shell/data_file.h"
 #include "shell/instrument_file.h"
 
 namespace sheets {
@@ -204,18 +204,17 @@ void frmEditPropData::ShowModified() {
 /// marked as unsaved, even when the form is about to go.
 void frmEditPropData::Save() {
   const shell::Tables& tables = Space().tables;
-  try {
-    for (const FluidTable* table : {&tables.liquids, &tables.gases}) CheckStorable(*table);
-    for (const auto& [file, table] :
-         {std::pair(kLiquidFile, &tables.liquids), {kGasFile, &tables.gases}}) {
-      if (!tables.IsRead(file)) continue;
-      common::WriteFile(common::JoinPath(Space().installDir, file), data::WriteFluidTable(*table));
-    }
-  } catch (const common::RuntimeFault& fault) {
-    User().Show(fault.Text(), {}, common::Icon::kWarning);
-    return;
+  for (const auto& [file, table] :
+       {std::pair(kLiquidFile, &tables.liquids), {kGasFile, &tables.gases}}) {
+    if (!tables.IsRead(file)) continue;
+    const bool saved =
+        shell::SaveDataFile(Space(), file, Space().fluidsModified, [&tables, table = table] {
+          // Both, so that one that cannot be saved leaves both files alone.
+          for (const FluidTable* each : {&tables.liquids, &tables.gases}) CheckStorable(*each);
+          return data::WriteFluidTable(*table);
+        });
+    if (!saved) return;
   }
-  Space().fluidsModified = false;
   ShowModified();
 }
 

@@ -31,6 +31,7 @@ bool IsNote(const std::string& text) {
 // Columns of the record that are neither entries nor plain results.
 constexpr int kFluidColumn = 3;
 constexpr int kUnusedColumns[] = {16, 21, 22, 23};
+constexpr int kFirstBoreColumn = 24;
 constexpr int kBoreColumn = 31;
 constexpr int kPlainDPColumn = 42;
 constexpr int kPlainLossColumn = 43;
@@ -264,8 +265,7 @@ TagColumns frmIntegral::RecordColumns() {
                          {39, &lbl差圧結果[1]},
                          {40, &lbl永久圧損[0]},
                          {41, &lbl永久圧損[1]}}};
-  constexpr int kFirstBore = 24;
-  for (int i = 0; i < kRows; ++i) columns.results.emplace_back(kFirstBore + i, &lblDPmm[i]);
+  for (int i = 0; i < kRows; ++i) columns.results.emplace_back(kFirstBoreColumn + i, &lblDPmm[i]);
   return columns;
 }
 
@@ -305,6 +305,17 @@ void frmIntegral::GetDetail(const shell::TagRow& record) {
   if (bore < 0 || lblNorReynolds.Text().empty()) return;
   lblReynoldsKind.SetText(Group() == 0 ? "(Red)" : "(ReD)");
   for (const auto& label : lbl差圧結果) label->SetForeColor(lblDPmm[bore].ForeColor());
+}
+
+/// The detail is that of the bore which was picked behind the calculation.
+std::vector<shell::Sheet::Calculation> frmIntegral::CalculationsOf(const shell::TagRow& record) {
+  if (sheets::At(record, kFirstBoreColumn).empty()) return {};
+  const int bore = common::IntIndex(Val(sheets::At(record, kBoreColumn)));
+  return {{"", [this, bore] {
+             if (!Calculate(cmd計算)) return false;
+             if (bore >= 0) cboOrificeNo.Pick(bore);
+             return true;
+           }}};
 }
 
 void frmIntegral::DeclareLayout() {

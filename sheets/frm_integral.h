@@ -66,6 +66,7 @@ class frmIntegral : public ProcessSheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddIntegral(row); }
   void GetFrom(int row) override { GetIntegral(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintIntegral(target); }
   /// Writes entries, the list of bores and the detail into a row of the tag store.
   void AddIntegral(int row);

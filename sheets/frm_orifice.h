@@ -90,6 +90,8 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddOrifice(row); }
   void GetFrom(int row) override { GetOrifice(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
+  std::vector<int> LookUpAnew() override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintOrifice(target); }
   /// Writes entries and results into a row of the tag store.
   void AddOrifice(int row);

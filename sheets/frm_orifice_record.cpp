@@ -22,15 +22,26 @@ enum Column {
   kViscosityUnit = 14,
   kWetBase = 16,
   kSaturationUnit = 18,
+  kElementExpansion = 22,
   kPipeBore = 26,
+  kPipeExpansion = 27,
+  kDifferential = 28,
   kDifferentialUnit = 29,
+  kBore = 30,
   kUnused1 = 31,
+  kMaxReynolds = 32,
   kDownstreamTap = 39,
   kOperatingDensity = 43,
   kNormalDensity = 44,
   kEquationEdition = 45,
   kUnused2 = 46,
 };
+
+/// Digits behind the point.
+std::size_t Decimals(const std::string& number) {
+  const std::size_t point = number.find('.');
+  return point == std::string::npos ? 0 : number.size() - point - 1;
+}
 
 }  // namespace
 
@@ -71,22 +82,27 @@ std::vector<std::pair<int, forms::Control*>> frmOrifice::EntryColumns() {
           {19, &txt偏差係数},
           {20, &txt比熱比},
           {21, &cbo絞り部材質},
-          {22, &txt絞り部膨張率},
+          {kElementExpansion, &txt絞り部膨張率},
           {23, &cbo配管呼称径},
           {24, &cbo配管種類},
           {25, &cboSchedule},
           {kPipeBore, &txt配管内径},
-          {27, &txt配管線膨張率},
-          {28, &txt設計差圧},
-          {30, &txt絞り径}};
+          {kPipeExpansion, &txt配管線膨張率},
+          {kDifferential, &txt設計差圧},
+          {kBore, &txt絞り径}};
 }
 
 std::vector<std::pair<int, Label*>> frmOrifice::ResultColumns() {
-  return {{32, &lblMaxReynolds},   {33, &lblNorReynolds},
-          {34, &lbl流出係数R},     {35, &lbl流量係数R},
-          {36, &lbl膨張補正係数R}, {37, &lbl表示β},
-          {38, &lbl四分円半径R},   {kDownstreamTap, &lbl下流Tap位置},
-          {40, &lbl永久圧損R},     {41, &lbl使用下限},
+  return {{kMaxReynolds, &lblMaxReynolds},
+          {33, &lblNorReynolds},
+          {34, &lbl流出係数R},
+          {35, &lbl流量係数R},
+          {36, &lbl膨張補正係数R},
+          {37, &lbl表示β},
+          {38, &lbl四分円半径R},
+          {kDownstreamTap, &lbl下流Tap位置},
+          {40, &lbl永久圧損R},
+          {41, &lbl使用下限},
           {42, &lbl使用上限}};
 }
 
@@ -160,6 +176,30 @@ void frmOrifice::ShowUpstreamTapOf(const shell::TagRow& record) {
     default:
       lbl上流Tap位置.SetText(kNoTap);
   }
+}
+
+/// What was entered has few decimals, what was calculated those to which it is rounded.
+std::vector<shell::Sheet::Calculation> frmOrifice::CalculationsOf(const shell::TagRow& record) {
+  if (common::At(record, kMaxReynolds).empty()) return {};
+  const auto by = [this](OptionButton& mode) -> Calculation {
+    return {mode.Text(), [this, &mode] {
+              mode.Choose();
+              return Calculate(cmd計算);
+            }};
+  };
+  std::vector<Calculation> ways = {by(opt差圧_絞り径), by(opt絞り径_差圧)};
+  if (Decimals(common::At(record, kDifferential)) > Decimals(common::At(record, kBore))) {
+    std::swap(ways[0], ways[1]);
+  }
+  return ways;
+}
+
+std::vector<int> frmOrifice::LookUpAnew() {
+  std::vector<int> columns;
+  LookUp(columns, kElementExpansion, txt絞り部膨張率, {&cbo絞り部材質});
+  LookUp(columns, kPipeExpansion, txt配管線膨張率, {&cbo配管種類});
+  LookUp(columns, kPipeBore, txt配管内径, {&cbo配管呼称径, &cboSchedule});
+  return columns;
 }
 
 }  // namespace sheets

@@ -84,6 +84,8 @@ class frmPressLoss : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddPressLoss(row); }
   void GetFrom(int row) override { GetPressLoss(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
+  std::vector<int> LookUpAnew() override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintPressLoss(target); }
   /// Writes entries and results into a row of the tag store.
   void AddPressLoss(int row);

@@ -12,8 +12,10 @@ using common::At;
 /// Columns of the record that are read or written by themselves.
 enum Column {
   kFluid = 2,
+  kPipeBore = 19,
   kFirstFitting = 22,
   kUnused = 38,
+  kTotalLoss = 47,
   kLossUnit = 49,
 };
 
@@ -42,7 +44,7 @@ std::vector<std::pair<int, TextBox*>> frmPressLoss::EntryColumns() {
                                                    {13, &humidity.txt相対湿度},
                                                    {14, &humidity.txt飽和水蒸気圧},
                                                    {16, &txt偏差係数},
-                                                   {19, &txt配管内径},
+                                                   {kPipeBore, &txt配管内径},
                                                    {20, &txtPipeRoughness},
                                                    {21, &txtPipeLength},
                                                    {32, &txtInletType},
@@ -64,7 +66,7 @@ std::vector<std::pair<int, Label*>> frmPressLoss::ResultColumns() {
           {44, &lblζout},
           {45, &lblTerminalLoss[kIn]},
           {46, &lblTerminalLoss[kOut]},
-          {47, &lblTotalLoss},
+          {kTotalLoss, &lblTotalLoss},
           {48, &lbl付属品ζ}};
 }
 
@@ -110,6 +112,16 @@ void frmPressLoss::RestoreDiagram() {
   } catch (const common::RuntimeFault&) {
     // A record whose entries cannot be calculated was not written by this sheet.
   }
+}
+
+std::vector<shell::Sheet::Calculation> frmPressLoss::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kTotalLoss), cmd計算);
+}
+
+std::vector<int> frmPressLoss::LookUpAnew() {
+  std::vector<int> columns;
+  LookUp(columns, kPipeBore, txt配管内径, {&cbo配管呼称径, &cboSchedule});
+  return columns;
 }
 
 }  // namespace sheets

@@ -290,6 +290,10 @@ namespace {
 
 constexpr int kFluidColumn = 3;
 constexpr int kUnusedColumn = 2;
+constexpr int kModulusColumn = 22;
+constexpr int kStressColumn = 24;
+constexpr int kPipeBoreColumn = 28;
+constexpr int kRatioColumn = 33;
 
 }  // namespace
 
@@ -316,16 +320,16 @@ TagColumns frmRO::RecordColumns() {
            {19, &txt圧縮係数},
            {20, &txt比熱比},
            {21, &cboRO材質},
-           {22, &txtヤング率},
-           {24, &txt許容応力},
+           {kModulusColumn, &txtヤング率},
+           {kStressColumn, &txt許容応力},
            {26, &cbo配管呼称径},
            {27, &cboSchedule},
-           {28, &txt配管内径},
+           {kPipeBoreColumn, &txt配管内径},
            {29, &txtThickness}},
           {{30, &lbl流速1},
            {31, &lbl流量係数},
            {32, &lbl背圧補正},
-           {33, &lblβ},
+           {kRatioColumn, &lblβ},
            {34, &lbl絞り径},
            {35, &lbl応力係数},
            {36, &lblたわみ係数},
@@ -362,6 +366,18 @@ void frmRO::GetRO(int row) {
     CautionResults();
   }
   pic断面.Redraw();
+}
+
+std::vector<shell::Sheet::Calculation> frmRO::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kRatioColumn), cmd計算);
+}
+
+std::vector<int> frmRO::LookUpAnew() {
+  std::vector<int> columns;
+  LookUp(columns, kModulusColumn, txtヤング率, {&cboRO材質});
+  LookUp(columns, kStressColumn, txt許容応力, {&cboRO材質});
+  LookUp(columns, kPipeBoreColumn, txt配管内径, {&cbo配管呼称径, &cboSchedule});
+  return columns;
 }
 
 void frmRO::DeclareLayout() {

@@ -76,6 +76,8 @@ class frmRO : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddRO(row); }
   void GetFrom(int row) override { GetRO(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
+  std::vector<int> LookUpAnew() override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintRO(target); }
   /// Writes entries, results and the colours of the judgements into a row of the tag store.
   void AddRO(int row);

@@ -263,6 +263,15 @@ void frmTE::GetTC(int row) {
   if (complete && Space().tables.IsRead("TE.dat")) PrepareChart();
 }
 
+std::vector<shell::Sheet::Calculation> frmTE::CalculationsOf(const shell::TagRow& record) {
+  if (At(record, kOutputs).empty()) return {};
+  return {{"", [this] {
+             ClearCalibration();
+             cmd計算.Click();
+             return Space().calcDone && !Space().calcFailed;
+           }}};
+}
+
 bool frmTE::printTC(shell::PrintSurface& target) {
   // Bytes in which the columns of the table end.
   constexpr int kPercentEnd = 10;

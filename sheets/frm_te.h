@@ -61,6 +61,7 @@ class frmTE : public shell::Sheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { addTC(row); }
   void GetFrom(int row) override { GetTC(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
   bool PrintBody(shell::PrintSurface& target) override { return printTC(target); }
   /// Writes entries and results into a row of the tag store.
   void addTC(int row);

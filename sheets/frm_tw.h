@@ -91,6 +91,8 @@ class frmTW : public ProcessSheet, public PipeTarget {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { addTW(row); }
   void GetFrom(int row) override { GetTW(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
+  std::vector<int> LookUpAnew() override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintTW(target); }
   /// Writes entries and results into a row of the tag store.
   void addTW(int row);

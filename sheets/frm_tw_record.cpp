@@ -13,8 +13,18 @@ namespace {
 using common::At;
 using common::Val;
 
-/// Columns of the record that are not in the tables below.
-enum Column { kFlowUnit = 14, kDensityUnit = 8, kMaterial = 16, kMaterialText = 17, kMark = 49 };
+/// Columns of the record that are read or written by themselves.
+enum Column {
+  kDensityUnit = 8,
+  kFlowUnit = 14,
+  kMaterial = 16,
+  kMaterialText = 17,
+  kDensity = 18,
+  kModulus = 19,
+  kStress = 21,
+  kVelocity = 31,
+  kMark = 49,
+};
 
 /// Records marked older have other columns from 28 on, which reading a file empties.
 constexpr const char* kVersion = "Ver 2.2";
@@ -24,11 +34,26 @@ bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == st
 }  // namespace
 
 std::vector<std::pair<int, forms::Control*>> frmTW::EntryColumns() {
-  return {{0, &txtTagNo},       {1, &txt用途},        {3, &txt圧力},        {5, &txt温度},
-          {7, &txt密度},        {9, &txt粘性係数},    {12, &txt配管内径},   {13, &txt流量},
-          {15, &txt攪拌槽内径}, {18, &txt保護管密度}, {19, &txtヤング率},   {21, &txt許容応力},
-          {23, &txt先端外径},   {24, &txt根元外径},   {25, &txt保護管内径}, {26, &txt保護管長},
-          {27, &txt挿入長},     {28, &txtWellT},      {29, &txt臨界減衰率}, {30, &txt応力集中係数}};
+  return {{0, &txtTagNo},
+          {1, &txt用途},
+          {3, &txt圧力},
+          {5, &txt温度},
+          {7, &txt密度},
+          {9, &txt粘性係数},
+          {12, &txt配管内径},
+          {13, &txt流量},
+          {15, &txt攪拌槽内径},
+          {kDensity, &txt保護管密度},
+          {kModulus, &txtヤング率},
+          {kStress, &txt許容応力},
+          {23, &txt先端外径},
+          {24, &txt根元外径},
+          {25, &txt保護管内径},
+          {26, &txt保護管長},
+          {27, &txt挿入長},
+          {28, &txtWellT},
+          {29, &txt臨界減衰率},
+          {30, &txt応力集中係数}};
 }
 
 std::vector<std::pair<int, ComboBox*>> frmTW::SelectionColumns() {
@@ -44,7 +69,7 @@ std::vector<std::pair<int, ComboBox*>> frmTW::SelectionColumns() {
 }
 
 std::vector<std::pair<int, Label*>> frmTW::ResultColumns() {
-  return {{31, &lbl流速R},
+  return {{kVelocity, &lbl流速R},
           {32, &lblレイノルズ数R},
           {33, &lblストローハル数},
           {34, &lblカルマン渦周波数R},
@@ -134,6 +159,18 @@ void frmTW::GetResults(const shell::TagRow& record) {
   } catch (const common::RuntimeFault&) {
     // A record whose entries cannot be calculated shows its results without notes and diagram.
   }
+}
+
+std::vector<shell::Sheet::Calculation> frmTW::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kVelocity), cmd計算);
+}
+
+std::vector<int> frmTW::LookUpAnew() {
+  std::vector<int> columns;
+  LookUp(columns, kDensity, txt保護管密度, {&cbo保護管材質});
+  LookUp(columns, kModulus, txtヤング率, {&cbo保護管材質});
+  LookUp(columns, kStress, txt許容応力, {&cbo保護管材質});
+  return columns;
 }
 
 }  // namespace sheets

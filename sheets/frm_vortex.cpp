@@ -210,6 +210,10 @@ void frmVortex::RestoreResults(int row) {
   if (!Space().tags.Text(row, kSizeColumn).empty()) cmd計算_Click();
 }
 
+std::vector<shell::Sheet::Calculation> frmVortex::CalculationsOf(const shell::TagRow& record) {
+  return OneWay(At(record, kSizeColumn), cmd計算);
+}
+
 void frmVortex::DeclareLayout() {
   SetLayout(
       SheetBlock(lblタイトル,

@@ -51,6 +51,7 @@ class frmVortex : public ProcessSheet {
   std::string TagNumber() const override { return txtTagNo.Text(); }
   void AddTo(int row) override { AddVortex(row); }
   void GetFrom(int row) override { GetVortex(row); }
+  std::vector<Calculation> CalculationsOf(const shell::TagRow& record) override;
   /// The record names the recommended size alone; the list and the chart are worked out again.
   void RestoreResults(int row) override;
   bool PrintBody(shell::PrintSurface& target) override { return PrintVortex(target); }

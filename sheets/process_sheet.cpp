@@ -261,6 +261,28 @@ const shell::TagRow* ProcessSheet::GetRecord(int row, int fluidColumn,
   return &record;
 }
 
+bool ProcessSheet::Calculate(Button& button) {
+  ClearResults();
+  button.Click();
+  return Space().calcDone && !Space().calcFailed;
+}
+
+std::vector<shell::Sheet::Calculation> ProcessSheet::OneWay(const std::string& result,
+                                                            Button& button) {
+  if (result.find_first_not_of(' ') == std::string::npos) return {};
+  return {{"", [this, &button] { return Calculate(button); }}};
+}
+
+void ProcessSheet::LookUp(std::vector<int>& columns, int column, TextBox& box,
+                          const std::vector<const ComboBox*>& selections) {
+  const bool listed =
+      std::all_of(selections.begin(), selections.end(),
+                  [](const ComboBox* selection) { return selection->Index() >= 0; });
+  if (!listed) return;
+  box.DblClick();
+  columns.push_back(column);
+}
+
 forms::Block ProcessSheet::SheetBlock(Label& heading, forms::Block body) {
   return forms::Column(
       {forms::Table({{heading}}),
@@ -333,7 +355,9 @@ void ProcessSheet::SwitchHumidity() {
   fields_.base->optDryBase.SetEnabled(humid);
 }
 
+/// The list belongs to the sheet on top; one that nobody sees leaves it alone.
 void ProcessSheet::UpdateFluidList() {
+  if (Space().forms.ActiveSheet() != this) return;
   auto* const names = dynamic_cast<frm流体名表示*>(Space().forms.Find(frm流体名表示::kName));
   if (names == nullptr) return;
   if (IsSteam()) {

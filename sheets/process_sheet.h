@@ -194,6 +194,17 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   const shell::TagRow* GetRecord(int row, int fluidColumn,
                                  const std::function<TagColumns()>& columns);
 
+  /// Empties the results, so that none of the record's is taken for a new one, and clicks a button.
+  /// Whether results stand then.
+  bool Calculate(Button& button);
+  /// The calculation of a sheet without modes, for a record in which this result stands.
+  std::vector<Calculation> OneWay(const std::string& result, Button& button);
+
+  /// Looks an entry up anew, as a double click on it does, where all selections that it depends on
+  /// are in the database, and adds its column then.
+  static void LookUp(std::vector<int>& columns, int column, TextBox& box,
+                     const std::vector<const ComboBox*>& selections);
+
   /// Heading and tag line above the body of a sheet.
   forms::Block SheetBlock(Label& heading, forms::Block body);
 

@@ -21,6 +21,7 @@
 #include "sheets/frm_print_all.h"
 #include "sheets/frm_properties.h"
 #include "sheets/frm_rating.h"
+#include "sheets/frm_recalculate.h"
 #include "sheets/frm_ro.h"
 #include "sheets/frm_tag_list.h"
 #include "sheets/frm_te.h"
@@ -86,6 +87,7 @@ void Workbench::ProvideForms() {
   provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
   provide(frmPreview::kName, std::type_identity<frmPreview>());
   provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
+  provide(frm全タグ再計算::kName, std::type_identity<frm全タグ再計算>());
   provide(frmZepha2Excel::kName, std::type_identity<frmZepha2Excel>());
   provide(frmTagList::kName, std::type_identity<frmTagList>());
   provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());

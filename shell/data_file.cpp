@@ -1,19 +1,22 @@
 #include "shell/data_file.h"
 
 #include "common/file.h"
+#include "shell/record_text.h"
 
 namespace shell {
 
-void SaveDataFile(Workspace& workspace, const std::string& fileName, bool& modified,
+bool SaveDataFile(Workspace& workspace, const std::string& fileName, bool& modified,
                   const std::function<std::string()>& encode) {
   try {
-    common::WriteFile(common::JoinPath(workspace.installDir, fileName), encode());
+    modified = true;  // until all of it is written
+    SaveUserFile(common::JoinPath(workspace.installDir, fileName), encode);
   } catch (const common::RuntimeFault& fault) {
     workspace.Shown().Show(fault.Text(), {}, common::Icon::kWarning);
-    return;
+    return false;
   }
   modified = false;
   std::erase(workspace.tables.unread, fileName);
+  return true;
 }
 
 }  // namespace shell

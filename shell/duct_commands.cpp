@@ -4,6 +4,7 @@
 
 #include "shell/duct_file.h"
 #include "shell/instrument_file.h"
+#include "shell/recovery_commands.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
 
@@ -38,6 +39,7 @@ void NewDuctList(Workspace& workspace) {
     return;
   }
   workspace.ducts.StartNewFile();
+  KeepRecovery(workspace);
   workspace.ducts.CaptionList();
   workspace.forms.Show(kDuctListForm);
 }
@@ -50,7 +52,16 @@ void OpenDuctList(Workspace& workspace) {
 
 void OpenDuctListNamed(Workspace& workspace, const std::string& path) {
   if (OpenDuctFile(workspace.ducts, path, workspace.Shown())) RememberFile(workspace, path);
+  KeepRecovery(workspace);
   workspace.forms.Show(kDuctListForm);
+}
+
+void TakeUnsavedDucts(Workspace& workspace, std::vector<DuctRow> rows, const std::string& path) {
+  DuctStore& ducts = workspace.ducts;
+  ducts.TakeRows(std::move(rows));
+  ducts.ductFileName = path;
+  ducts.ductModified = true;
+  ducts.CaptionList();
 }
 
 void SaveDuctList(Workspace& workspace) {
@@ -58,6 +69,7 @@ void SaveDuctList(Workspace& workspace) {
     SaveDuctListAs(workspace);
   } else {
     SaveDuctFile(workspace.ducts, workspace.Shown());
+    KeepRecovery(workspace);
   }
 }
 
@@ -71,14 +83,17 @@ void SaveDuctListAs(Workspace& workspace) {
 void SaveDuctListNamed(Workspace& workspace, const std::string& path) {
   DuctStore& ducts = workspace.ducts;
   if (!HasDuctsToSave(ducts, workspace.Shown())) return;
+  const bool modified = ducts.ductModified;
   const std::string before = std::exchange(ducts.ductFileName, WithExtension(path, kDuctExtension));
   try {
     SaveDuctFile(ducts, workspace.Shown());
   } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file.
+    // What could not be written is not the open file, unless it has that name already.
+    if (before != ducts.ductFileName) ducts.ductModified = modified;
     ducts.ductFileName = before;
     throw;
   }
+  KeepRecovery(workspace);
   RememberFile(workspace, ducts.ductFileName);
   ducts.CaptionList();
   if (forms::Form* const list = workspace.forms.Find(kDuctListForm)) list->Activate();

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "shell/duct_store.h"
 
 namespace shell {
 
@@ -23,6 +26,8 @@ void NewDuctList(Workspace& workspace);
 /// Asks for a duct file and opens it.
 void OpenDuctList(Workspace& workspace);
 void OpenDuctListNamed(Workspace& workspace, const std::string& path);
+/// Takes rows as unsaved changes of a file, "" for a new one.
+void TakeUnsavedDucts(Workspace& workspace, std::vector<DuctRow> rows, const std::string& path);
 
 /// Saves under the present name, or asks for one.
 void SaveDuctList(Workspace& workspace);

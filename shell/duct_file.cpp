@@ -14,8 +14,6 @@ namespace {
 using common::Fault;
 using common::RuntimeFault;
 
-RuntimeFault CutShort() { return {Fault::kFileAccess, "ファイルのデータが途中で終わっています。"}; }
-
 /// Whether the record is what an instrument file looks like from here: the 50 empty fields of its
 /// header and a tag number, which would be the area of a cable that is not there.
 bool IsStartOfTags(const DuctRow& row) {
@@ -28,8 +26,9 @@ bool IsStartOfTags(const DuctRow& row) {
 }  // namespace
 
 DuctFileContents ParseDuctFile(std::string bytes) {
-  common::FieldReader reader(std::move(bytes));
   DuctFileContents contents;
+  if (common::IsUnfinished(bytes)) contents.fault = CutShort();
+  common::FieldReader reader(std::move(bytes));
   if (!reader.Next()) contents.fault = CutShort();
   while (!reader.AtEnd()) {
     if (contents.rows.size() == kMaxDucts) {
@@ -93,6 +92,7 @@ bool HasDuctsToSave(const DuctStore& store, common::Messages& messages) {
 
 bool SaveDuctFile(DuctStore& store, common::Messages& messages) {
   if (!HasDuctsToSave(store, messages)) return false;
+  store.ductModified = true;  // until all of it is written
   SaveUserFile(store.ductFileName, [&store] { return EncodeDuctFile(store); });
   store.ductModified = false;
   return true;

@@ -34,15 +34,15 @@ forms::Form& FormManager::Show(const std::string& name) {
   if (form == nullptr) {
     open_.push_back(Create(name));
     form = open_.back().get();
-    form->SetPresenter(&presenter_);
+    form->SetPresenter(presenter_);
     form->RunEvent(nullptr, [&] { form->Load(); });
-    presenter_.ShowForm(*form);
+    presenter_->ShowForm(*form);
     form->RunEvent(nullptr, [&] { form->Activate(); });
   } else {
     // One that is in front already is shown anew all the same: what it lists may have changed.
     if (form == Active()) form->RunEvent(nullptr, [&] { form->Activate(); });
     MakeActive(*form);
-    presenter_.RaiseForm(*form);
+    presenter_->RaiseForm(*form);
   }
   return *form;
 }
@@ -67,7 +67,7 @@ void FormManager::Unload(forms::Form& form) {
   if (place == open_.end()) return;
   closed_.push_back(std::move(*place));
   open_.erase(place);
-  presenter_.CloseForm(form);
+  presenter_->CloseForm(form);
   form.SetPresenter(nullptr);
   if (!wasInFront || open_.empty()) return;
   // The sheet now on top takes the workspace over, even when a tool window stands before it.
@@ -75,7 +75,7 @@ void FormManager::Unload(forms::Form& form) {
   if (form.Role() == forms::FormRole::kSheet && sheet != nullptr) {
     sheet->RunEvent(nullptr, [&] { sheet->Activate(); });
   }
-  presenter_.RaiseForm(*open_.back());
+  presenter_->RaiseForm(*open_.back());
 }
 
 void FormManager::UnloadAll() {

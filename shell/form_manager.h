@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/form.h"
@@ -17,7 +18,7 @@ class FormManager {
  public:
   using Factory = std::function<std::unique_ptr<forms::Form>()>;
 
-  explicit FormManager(forms::Presenter& presenter) : presenter_(presenter) {}
+  explicit FormManager(forms::Presenter& presenter) : presenter_(&presenter) {}
   FormManager(const FormManager&) = delete;
   FormManager& operator=(const FormManager&) = delete;
   ~FormManager();
@@ -51,10 +52,24 @@ class FormManager {
   /// Destroys what has been unloaded. To be called between events.
   void CollectClosed() { closed_.clear(); }
 
-  forms::Presenter& Shown() const { return presenter_; }
+  forms::Presenter& Shown() const { return *presenter_; }
+
+  /// While one lives, another presenter hears what forms tell: for work that nobody shall see.
+  class Diverted {
+   public:
+    Diverted(FormManager& forms, forms::Presenter& hearer)
+        : forms_(forms), presenter_(std::exchange(forms.presenter_, &hearer)) {}
+    ~Diverted() { forms_.presenter_ = presenter_; }
+    Diverted(const Diverted&) = delete;
+    Diverted& operator=(const Diverted&) = delete;
+
+   private:
+    FormManager& forms_;
+    forms::Presenter* presenter_;
+  };
 
  private:
-  forms::Presenter& presenter_;
+  forms::Presenter* presenter_;
   std::map<std::string, Factory> factories_;
   /// The last one is in front.
   std::vector<std::unique_ptr<forms::Form>> open_;

@@ -98,6 +98,8 @@ void ConvertOldRecord(TagRow& record, const std::string& fileVersion, const data
 
 std::vector<TagRow> ParseInstrumentFile(std::string bytes, const data::PipeTable& pipes,
                                         const data::ConvertLists& lists) {
+  // A record may end where the file is cut.
+  if (common::IsUnfinished(bytes)) throw CutShort();
   common::FieldReader reader(std::move(bytes));
   std::vector<TagRow> records;
   while (!reader.AtEnd()) {
@@ -105,9 +107,7 @@ std::vector<TagRow> ParseInstrumentFile(std::string bytes, const data::PipeTable
     TagRow& record = records.emplace_back();
     for (std::string& field : record) {
       auto text = reader.Next();
-      if (!text) {
-        throw RuntimeFault(Fault::kFileAccess, "ファイルのデータが途中で終わっています。");
-      }
+      if (!text) throw CutShort();
       field = std::move(*text);
     }
     ConvertOldRecord(record, records.front()[kTagNumberColumn], pipes, lists);
@@ -144,6 +144,8 @@ bool HasTagsToSave(const TagStore& store, common::Messages& messages) {
 
 bool SaveInstrumentFile(TagStore& store, common::Messages& messages) {
   if (!HasTagsToSave(store, messages)) return false;
+  // From here on nobody knows what stands in the file until all of it is written.
+  store.tagModified = true;
   SaveUserFile(store.zephaFileName, [&store] { return EncodeInstrumentFile(store); });
   store.SetText(0, kTagNumberColumn, kProgramVersion);
   store.SetText(0, kKindColumn, "");

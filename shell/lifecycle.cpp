@@ -6,6 +6,7 @@
 #include "common/file.h"
 #include "common/number.h"
 #include "shell/duct_file.h"
+#include "shell/recovery_commands.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
@@ -104,6 +105,7 @@ void RestoreLastRun(Workspace& workspace) {
   ShowRecentFiles(workspace);
   PassOver([&] { RestoreDucts(workspace); });
   PassOver([&] { RestoreFile(workspace); });
+  PassOver([&] { OfferRecovery(workspace); });
   PassOver([&] { RestoreSheet(workspace); });
   PassOver([&] { RestoreTag(workspace); });
 }
@@ -123,6 +125,7 @@ void WorkspaceEnd(Workspace& workspace) {
   keep("WinTop", std::to_string(placement.top));
   keep("WinLeft", std::to_string(placement.left));
   workspace.forms.UnloadAll();
+  workspace.recovery.End();
   if (workspace.onExit) workspace.onExit();
 }
 

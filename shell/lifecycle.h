@@ -5,12 +5,12 @@ namespace shell {
 struct Workspace;
 
 /// Brings a run to where the last one ended: issuer, window, user programs, duct file, instrument
-/// file, sheet and tag. The tables have been read and the forms are known. Each failure is passed
-/// over singly.
+/// file, sheet and tag, with an offer of what an earlier run left unsaved. The tables have been
+/// read and the forms are known. Each failure is passed over singly.
 void RestoreLastRun(Workspace& workspace);
 
 /// Keeps for the next run where this one ends, and unloads all forms. There is deliberately no
-/// question about unsaved work.
+/// question about unsaved work; the recovery copy goes.
 void WorkspaceEnd(Workspace& workspace);
 
 /// The main window at its first place and size, with the sheet on top alone.

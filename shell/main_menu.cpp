@@ -7,6 +7,7 @@
 #include "shell/duct_commands.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
+#include "shell/recalculation.h"
 #include "shell/report.h"
 #include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
@@ -110,6 +111,7 @@ void AddFileMenu(MenuBuilder& menu) {
   menu.Add("mnuSave", "名前を付けて保存(&S)", menu.Calls(SaveFileAs));
   menu.Separator();
   menu.AddForm("mnuExcel", "EXCELデータ生成(&E)", kExportForm, "excel");
+  menu.AddForm(kRecalculateCommand, "全タグ再計算(&C)", kRecalculateForm);
   menu.Separator();
   menu.Add("mnuPrint", "印刷(&P)", menu.Calls(Print), "Ctrl+P", "print");
   menu.AddForm("mnuPrintAll", "一括印刷(&A)", kPrintAllForm, "print");

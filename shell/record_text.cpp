@@ -50,6 +50,8 @@ void AppendField(std::string& bytes, const std::string& text, const std::string&
   bytes += '"';
 }
 
+RuntimeFault CutShort() { return {Fault::kFileAccess, "ファイルのデータが途中で終わっています。"}; }
+
 void SaveUserFile(const std::string& path, const std::function<std::string()>& encode) {
   try {
     if (path.empty()) throw RuntimeFault(Fault::kFileAccess, "ファイル名が指定されていません。");

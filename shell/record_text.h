@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "common/fault.h"
+
 namespace shell {
 
 /// Version text of this program, which it writes into the files of its users. Its major number must
@@ -20,6 +22,9 @@ void CheckStorable(const std::string& owner, const std::string& text);
 /// Appends a text as a field in CP932, with a comma in front unless a line begins there. Raises as
 /// CheckStorable does.
 void AppendField(std::string& bytes, const std::string& text, const std::string& owner);
+
+/// The fault of a file that ends in the middle.
+common::RuntimeFault CutShort();
 
 /// Replaces a file of the user's by what `encode` makes, which is called before the file is
 /// touched. What fails is raised with a sentence that ends in "データは保存されていません。".

@@ -43,41 +43,6 @@ bool PrintPage(const Workspace& workspace, Sheet* sheet, forms::DrawSurface& tar
   return sheet != nullptr && sheet->PrintBody(surface);
 }
 
-/// What loading and filling a sheet changes for the others; put back when it goes.
-class KeptValues {
- public:
-  explicit KeptValues(Workspace& workspace)
-      : workspace_(workspace),
-        process_(workspace.process),
-        orifice_(workspace.tables.orifice),
-        activeSheetKind_(workspace.activeSheetKind),
-        calcNote_(workspace.calcNote),
-        elementKind_(workspace.elementKind),
-        calcFailed_(workspace.calcFailed),
-        calcDone_(workspace.calcDone) {}
-  ~KeptValues() {
-    workspace_.process = process_;
-    workspace_.tables.orifice = orifice_;
-    workspace_.activeSheetKind = std::move(activeSheetKind_);
-    workspace_.calcNote = std::move(calcNote_);
-    workspace_.elementKind = elementKind_;
-    workspace_.calcFailed = calcFailed_;
-    workspace_.calcDone = calcDone_;
-  }
-  KeptValues(const KeptValues&) = delete;
-  KeptValues& operator=(const KeptValues&) = delete;
-
- private:
-  Workspace& workspace_;
-  data::ProcessState process_;
-  flow::OrificeTable orifice_;
-  std::string activeSheetKind_;
-  std::string calcNote_;
-  int elementKind_;
-  bool calcFailed_;
-  bool calcDone_;
-};
-
 }  // namespace
 
 bool PrintSheet(Workspace& workspace, forms::DrawSurface& target) {
@@ -141,7 +106,7 @@ bool PrintToPdf(Workspace& workspace, const std::string& path) {
 }
 
 TagPrinter::TagPrinter(Workspace& workspace, std::unique_ptr<PrintJob> job, std::vector<int> rows)
-    : workspace_(workspace), job_(std::move(job)), rows_(std::move(rows)) {
+    : workspace_(workspace), job_(std::move(job)), rows_(std::move(rows)), sheets_(workspace) {
   workspace_.printScale = kPaperScale;
 }
 
@@ -162,7 +127,7 @@ bool TagPrinter::Next() {
 void TagPrinter::PrintTag(int row) {
   const std::string kind = workspace_.tags.Text(row, kKindColumn);
   workspace_.activeSheetKind = kind;
-  Sheet* const sheet = SheetOf(kind);
+  Sheet* const sheet = sheets_.Of(kind);
   if (sheet == nullptr) {
     left_.push_back(workspace_.tags.Text(row, kTagNumberColumn) + "（" + kind +
                     "は印刷できません）");
@@ -172,20 +137,6 @@ void TagPrinter::PrintTag(int row) {
   sheet->RestoreResults(row);
   PrintPage(workspace_, sheet, job_->NewPage());
   ++pages_;
-}
-
-/// The sheet of a kind, filled without a window; null if there is none that prints.
-Sheet* TagPrinter::SheetOf(const std::string& kind) {
-  const auto found = std::find_if(sheets_.begin(), sheets_.end(),
-                                  [&](const auto& sheet) { return sheet->Entry().kind == kind; });
-  if (found != sheets_.end()) return found->get();
-  const SheetEntry* const entry = FindSheet(kind);
-  if (entry == nullptr || !entry->holdsTags || !workspace_.forms.Knows(entry->form)) return nullptr;
-  std::unique_ptr<forms::Form> form = workspace_.forms.Create(entry->form);
-  std::unique_ptr<Sheet> sheet(dynamic_cast<Sheet*>(form.release()));
-  sheet->Load();
-  sheets_.push_back(std::move(sheet));
-  return sheets_.back().get();
 }
 
 std::string PrintedText(const TagPrinter& printer) {

@@ -6,12 +6,10 @@
 #include <vector>
 
 #include "forms/draw_surface.h"
+#include "shell/hidden_sheets.h"
 #include "shell/print_job.h"
 
 namespace shell {
-
-class Sheet;
-struct Workspace;
 
 /// The name under which the preview window is known.
 inline constexpr const char* kPreviewForm = "frmPreview";
@@ -60,12 +58,11 @@ class TagPrinter {
 
  private:
   void PrintTag(int row);
-  Sheet* SheetOf(const std::string& kind);
 
   Workspace& workspace_;
   std::unique_ptr<PrintJob> job_;
   std::vector<int> rows_;
-  std::vector<std::unique_ptr<Sheet>> sheets_;
+  HiddenSheets sheets_;
   std::vector<std::string> left_;
   int done_ = 0;
   int pages_ = 0;

@@ -187,15 +187,18 @@ bool FileSettings::Set(const std::string& section, const std::string& key,
   return Replace(settings.FileText());
 }
 
-std::string DefaultSettingsPath() {
-  const char* const configured = std::getenv("XDG_CONFIG_HOME");
+std::string UserFolder(const char* variable, const char* inHome) {
+  const char* const configured = std::getenv(variable);
   // A relative path counts for nothing, as the base directory rules have it.
-  if (configured != nullptr && configured[0] == '/') {
-    return common::JoinPath(configured, "zepha/settings.ini");
-  }
+  if (configured != nullptr && configured[0] == '/') return common::JoinPath(configured, "zepha");
   const char* const home = std::getenv("HOME");
   if (home == nullptr || home[0] == '\0') return {};
-  return common::JoinPath(home, ".config/zepha/settings.ini");
+  return common::JoinPath(common::JoinPath(home, inHome), "zepha");
+}
+
+std::string DefaultSettingsPath() {
+  const std::string folder = UserFolder("XDG_CONFIG_HOME", ".config");
+  return folder.empty() ? folder : common::JoinPath(folder, "settings.ini");
 }
 
 int RowNumberSetting(const std::string& text) {

@@ -60,6 +60,10 @@ class FileSettings : public SettingsStore {
   std::string path_;
 };
 
+/// The program's folder in the one that the environment variable names, or else in that folder of
+/// the user's home; "" when the user has no home.
+std::string UserFolder(const char* variable, const char* inHome);
+
 /// "zepha/settings.ini" in $XDG_CONFIG_HOME or ~/.config; "" when the user has no home.
 std::string DefaultSettingsPath();
 

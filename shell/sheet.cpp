@@ -36,6 +36,10 @@ void Sheet::GetFrom(int) {}
 
 void Sheet::RestoreResults(int) {}
 
+std::vector<Sheet::Calculation> Sheet::CalculationsOf(const TagRow&) { return {}; }
+
+std::vector<int> Sheet::LookUpAnew() { return {}; }
+
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
 bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {

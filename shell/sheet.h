@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/form.h"
 #include "shell/sheet_registry.h"
@@ -31,6 +33,22 @@ class Sheet : public forms::Form {
   /// After GetFrom: works the results out that the tag has and its record does not hold, for a page
   /// that is printed without the user.
   virtual void RestoreResults(int row);
+  /// A way to come to the results of a record.
+  struct Calculation {
+    /// What the sheet calls it; "" where there is one way alone.
+    std::string mode;
+    /// Does on the sheet that the record has filled what the user does, through its events. Whether
+    /// all results came.
+    std::function<bool()> press;
+  };
+  /// After GetFrom: the ways in which this record may have been calculated, the likeliest first. A
+  /// record does not tell the mode of its calculation: that which gives the stored results again is
+  /// the tag's. Empty for a record without results.
+  virtual std::vector<Calculation> CalculationsOf(const TagRow& record);
+  /// After GetFrom: enters anew what the sheet looks up in the databases by selections that the
+  /// record holds (a material, a pipe, a valve). The columns of the record that were entered; those
+  /// whose selection the database does not have are left out.
+  virtual std::vector<int> LookUpAnew();
   /// Prints the sheet's own part of a page, from the texts that stand on it. False for a sheet that
   /// has none.
   virtual bool PrintBody(PrintSurface& target);

@@ -14,7 +14,8 @@ template <class Table>
 void Load(const std::string& folder, const char* name, bool (*read)(std::string, Table&),
           Table& table, std::vector<std::string>& unread) {
   try {
-    if (read(common::ReadFile(common::JoinPath(folder, name)), table)) return;
+    std::string bytes = common::ReadFile(common::JoinPath(folder, name));
+    if (!common::IsUnfinished(bytes) && read(std::move(bytes), table)) return;
   } catch (const common::RuntimeFault&) {
     // Told below with the name; the reason is of no use to the reader of the message.
   }

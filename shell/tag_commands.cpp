@@ -8,6 +8,7 @@
 #include "forms/control.h"
 #include "shell/duct_commands.h"
 #include "shell/instrument_file.h"
+#include "shell/recovery_commands.h"
 #include "shell/sheet.h"
 #include "shell/sheet_registry.h"
 #include "shell/workspace.h"
@@ -93,6 +94,7 @@ void NewFile(Workspace& workspace) {
     return;
   }
   if (!NewInstrumentFile(workspace.tags, workspace.Shown())) return;
+  KeepRecovery(workspace);
   RefreshTagList(workspace);
   ShowListNumber(workspace, 0);
 }
@@ -110,9 +112,23 @@ void OpenFile(Workspace& workspace) {
 void OpenFileNamed(Workspace& workspace, const std::string& path) {
   const bool opened = OpenInstrumentFile(workspace.tags, path, workspace.tables.pipes,
                                          workspace.tables.lists, workspace.Shown());
+  KeepRecovery(workspace);
   if (opened) RememberFile(workspace, path);
   RefreshTagList(workspace);
   ShowListNumber(workspace, workspace.tags.currentTag);
+}
+
+void TakeUnsavedTags(Workspace& workspace, std::vector<TagRow> rows, const std::string& path) {
+  TagStore& tags = workspace.tags;
+  tags.PrepareForReading();
+  // The list is loaded while the store is empty; otherwise it would forget the last tag.
+  workspace.forms.Show(kTagListForm);
+  tags.TakeRows(std::move(rows));
+  tags.zephaFileName = path;
+  tags.ShowTagsRead();
+  tags.tagModified = true;
+  RefreshTagList(workspace);
+  ShowListNumber(workspace, tags.currentTag);
 }
 
 void OpenFileOfItsKind(Workspace& workspace, const std::string& path) {
@@ -137,6 +153,7 @@ void SaveFile(Workspace& workspace) {
     return;
   }
   SaveInstrumentFile(workspace.tags, workspace.Shown());
+  KeepRecovery(workspace);
   ShowTitle(workspace);
 }
 
@@ -153,15 +170,18 @@ void SaveFileAs(Workspace& workspace) {
 
 void SaveFileNamed(Workspace& workspace, const std::string& path) {
   if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
+  const bool modified = workspace.tags.tagModified;
   const std::string before =
       std::exchange(workspace.tags.zephaFileName, WithExtension(path, kExtension));
   try {
     SaveInstrumentFile(workspace.tags, workspace.Shown());
   } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file.
+    // What could not be written is not the open file, unless it has that name already.
+    if (before != workspace.tags.zephaFileName) workspace.tags.tagModified = modified;
     workspace.tags.zephaFileName = before;
     throw;
   }
+  KeepRecovery(workspace);
   RememberFile(workspace, workspace.tags.zephaFileName);
   ShowTitle(workspace);
 }
@@ -178,6 +198,7 @@ void RememberFile(Workspace& workspace, const std::string& path) {
 }
 
 void ShowTitle(Workspace& workspace) {
+  workspace.window.SetCommandEnabled(kRecalculateCommand, workspace.tags.HasTags());
   const std::string name = common::FileNameOf(workspace.tags.zephaFileName);
   const std::string mark = workspace.tags.tagModified ? " *" : "";
   if (name.empty() && mark.empty()) {

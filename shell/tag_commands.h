@@ -1,12 +1,16 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "shell/tag_store.h"
 
 namespace shell {
 
 struct Workspace;
 
 inline constexpr const char* kTagListForm = "frmTagList";
+inline constexpr const char* kRecalculateCommand = "mnuRecalculate";
 
 /// Registers the sheet on top under its tag number, with the question whether to replace.
 void RegisterTag(Workspace& workspace);
@@ -30,6 +34,8 @@ void OpenFile(Workspace& workspace);
 void OpenFileNamed(Workspace& workspace, const std::string& path);
 /// Opens an instrument or a duct file, by its extension, whatever is on top.
 void OpenFileOfItsKind(Workspace& workspace, const std::string& path);
+/// Takes rows, header first, as unsaved changes of a file, "" for a new one.
+void TakeUnsavedTags(Workspace& workspace, std::vector<TagRow> rows, const std::string& path);
 /// Puts a file in front of those opened last.
 void RememberFile(Workspace& workspace, const std::string& path);
 
@@ -38,7 +44,8 @@ void SaveFile(Workspace& workspace);
 void SaveFileAs(Workspace& workspace);
 void SaveFileNamed(Workspace& workspace, const std::string& path);
 
-/// Shows the open file's name, and a mark while there are unsaved changes, as the window's title.
+/// Shows the open file's name, and a mark while there are unsaved changes, as the window's title;
+/// offers what works on all tags while there are any.
 void ShowTitle(Workspace& workspace);
 
 /// Lists the files opened last in their submenu.

@@ -24,34 +24,46 @@ std::string WithoutOuterQuotes(std::string command) {
   return command;
 }
 
-UserPrograms ReadUserPrograms(const std::string& folder) {
+UserPrograms ParseUserPrograms(std::string bytes) {
   UserPrograms programs;
-  try {
-    common::FieldReader reader(common::ReadFile(FilePath(folder)));
-    for (UserProgram& program : programs) {
-      auto caption = reader.Next();
-      auto command = reader.Next();
-      if (!command) break;
-      program = {std::move(*caption), std::move(*command)};
-    }
-  } catch (const common::RuntimeFault&) {
-    // Most users have no such file.
+  common::FieldReader reader(std::move(bytes));
+  for (UserProgram& program : programs) {
+    auto caption = reader.Next();
+    auto command = reader.Next();
+    if (!command) break;
+    program = {std::move(*caption), std::move(*command)};
   }
   return programs;
 }
 
-void WriteUserPrograms(const std::string& folder, UserPrograms& programs) {
-  UserPrograms stripped = programs;
+UserPrograms ReadUserPrograms(const std::string& folder) {
+  try {
+    const std::string bytes = common::ReadFile(FilePath(folder));
+    if (!common::IsUnfinished(bytes)) return ParseUserPrograms(bytes);
+  } catch (const common::RuntimeFault&) {
+    // Most users have no such file.
+  }
+  return {};
+}
+
+std::string EncodeUserPrograms(const UserPrograms& programs) {
   std::string text;
-  for (UserProgram& program : stripped) {
-    program.command = WithoutOuterQuotes(std::move(program.command));
+  for (const UserProgram& program : programs) {
     CheckStorable("プログラムの名称", program.caption);
     CheckStorable("登録するプログラム", program.command);
     text +=
         common::QuotedField(program.caption) + "," + common::QuotedField(program.command) + "\r\n";
   }
+  return common::ToCp932(text);
+}
+
+void WriteUserPrograms(const std::string& folder, UserPrograms& programs) {
+  UserPrograms stripped = programs;
+  for (UserProgram& program : stripped) {
+    program.command = WithoutOuterQuotes(std::move(program.command));
+  }
+  SaveUserFile(FilePath(folder), [&stripped] { return EncodeUserPrograms(stripped); });
   programs = std::move(stripped);
-  common::WriteFile(FilePath(folder), common::ToCp932(text));
 }
 
 }  // namespace shell

@@ -93,12 +93,14 @@ CellValue ItemOf(const std::string& stored, const data::TextList& list,
 
 /// The source for the stored phase.
 CellSource ByPhase(int phaseColumn, std::array<CellSource, 3> sources) {
-  return [phaseColumn, sources = std::move(sources)](const TagRow& record,
-                                                     const Tables& tables) -> CellValue {
-    const int phase = ListPosition(At(record, phaseColumn));
-    if (phase < data::kLiquid || phase > data::kSteam) return {};
-    return sources[static_cast<std::size_t>(phase)](record, tables);
-  };
+  const int column = sources.front().column;
+  return {[phaseColumn, sources = std::move(sources)](const TagRow& record,
+                                                      const Tables& tables) -> CellValue {
+            const int phase = ListPosition(At(record, phaseColumn));
+            if (phase < data::kLiquid || phase > data::kSteam) return {};
+            return sources[static_cast<std::size_t>(phase)](record, tables);
+          },
+          column};
 }
 
 std::string_view Part(std::string_view text, int n) {
@@ -123,23 +125,26 @@ int ListPosition(const std::string& text) {
 }
 
 CellSource Text(int column) {
-  return [=](const TagRow& record, const Tables&) { return TextOf(At(record, column)); };
+  return {[=](const TagRow& record, const Tables&) { return TextOf(At(record, column)); }, column};
 }
 
 CellSource Number(int column) {
-  return [=](const TagRow& record, const Tables&) { return NumberOrText(At(record, column)); };
+  return {[=](const TagRow& record, const Tables&) { return NumberOrText(At(record, column)); },
+          column};
 }
 
 CellSource Item(int column, ListMember list, const std::string& suffix) {
-  return [=](const TagRow& record, const Tables& tables) {
-    return ItemOf(At(record, column), tables.lists.*list, suffix);
-  };
+  return {[=](const TagRow& record, const Tables& tables) {
+            return ItemOf(At(record, column), tables.lists.*list, suffix);
+          },
+          column};
 }
 
 CellSource Item(int column, data::TextList list) {
-  return [column, list = std::move(list)](const TagRow& record, const Tables&) {
-    return ItemOf(At(record, column), list);
-  };
+  return {[column, list = std::move(list)](const TagRow& record, const Tables&) {
+            return ItemOf(At(record, column), list);
+          },
+          column};
 }
 
 CellSource FlowUnit(int phaseColumn, int unitColumn) {
@@ -155,45 +160,51 @@ CellSource DensityUnit(int phaseColumn, int unitColumn) {
 }
 
 CellSource WetOrDry(int column) {
-  return [=](const TagRow& record, const Tables&) -> CellValue {
-    const std::string& flag = At(record, column);
-    if (Trimmed(flag).empty()) return {};
-    return std::string(IsSet(flag) ? "WetBase" : "DryBase");
-  };
+  return {[=](const TagRow& record, const Tables&) -> CellValue {
+            const std::string& flag = At(record, column);
+            if (Trimmed(flag).empty()) return {};
+            return std::string(IsSet(flag) ? "WetBase" : "DryBase");
+          },
+          column};
 }
 
 CellSource Judgement(int colourColumn, int captionColumn) {
-  return [=](const TagRow& record, const Tables&) -> CellValue {
-    const std::optional<double> colour = NumberOf(At(record, colourColumn));
-    const bool judged = colour && !Trimmed(At(record, captionColumn)).empty();
-    if (!judged || *colour == forms::kMagenta) return std::string("判定出来ず");
-    return std::string(*colour == forms::kRed ? "　×" : "　○");
-  };
+  return {[=](const TagRow& record, const Tables&) -> CellValue {
+            const std::optional<double> colour = NumberOf(At(record, colourColumn));
+            const bool judged = colour && !Trimmed(At(record, captionColumn)).empty();
+            if (!judged || *colour == forms::kMagenta) return std::string("判定出来ず");
+            return std::string(*colour == forms::kRed ? "　×" : "　○");
+          },
+          captionColumn};
 }
 
 CellSource NumberPart(int column, int n) {
-  return [=](const TagRow& record, const Tables&) {
-    return NumberOrText(Part(At(record, column), n));
-  };
+  return {[=](const TagRow& record, const Tables&) {
+            return NumberOrText(Part(At(record, column), n));
+          },
+          column};
 }
 
 CellSource TextPart(int column, int n) {
-  return [=](const TagRow& record, const Tables&) { return TextOf(Part(At(record, column), n)); };
+  return {[=](const TagRow& record, const Tables&) { return TextOf(Part(At(record, column), n)); },
+          column};
 }
 
 CellSource Constant(const std::string& text) {
-  return [=](const TagRow&, const Tables&) -> CellValue { return text; };
+  return {[=](const TagRow&, const Tables&) -> CellValue { return text; }};
 }
 
 CellSource Blank() {
-  return [](const TagRow&, const Tables&) -> CellValue { return {}; };
+  return {[](const TagRow&, const Tables&) -> CellValue { return {}; }};
 }
 
 CellSource If(bool (*condition)(const TagRow&), CellSource then, CellSource otherwise) {
-  return [condition, then = std::move(then), otherwise = std::move(otherwise)](
-             const TagRow& record, const Tables& tables) {
-    return condition(record) ? then(record, tables) : otherwise(record, tables);
-  };
+  const int column = otherwise.column;
+  return {[condition, then = std::move(then), otherwise = std::move(otherwise)](
+              const TagRow& record, const Tables& tables) {
+            return condition(record) ? then(record, tables) : otherwise(record, tables);
+          },
+          column};
 }
 
 const std::vector<Worksheet>& Worksheets() {

@@ -16,7 +16,15 @@ namespace shell::workbook {
 using CellValue = std::variant<std::monostate, double, std::string>;
 
 /// Makes a cell from a tag record and the tables that its list positions refer to.
-using CellSource = std::function<CellValue(const TagRow& record, const Tables& tables)>;
+struct CellSource {
+  std::function<CellValue(const TagRow& record, const Tables& tables)> make;
+  /// The column of the record that the cell shows; -1 for none.
+  int column = -1;
+
+  CellValue operator()(const TagRow& record, const Tables& tables) const {
+    return make(record, tables);
+  }
+};
 
 /// Number format of a column without one. Any other column has "#,##0_ " with so many decimals.
 inline constexpr int kGeneral = -1;
@@ -59,7 +67,8 @@ CellSource NumberPart(int column, int n);
 CellSource TextPart(int column, int n);
 CellSource Constant(const std::string& text);
 CellSource Blank();
-/// One of two sources, by a condition on the record.
+/// One of two sources, by a condition on the record. The column is that of the usual case, the
+/// second one.
 CellSource If(bool (*condition)(const TagRow&), CellSource then, CellSource otherwise);
 
 inline constexpr int kNoPosition = -2;

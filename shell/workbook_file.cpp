@@ -5,10 +5,8 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -117,9 +115,12 @@ class PointAsDecimalSign {
   locale_t before_;
 };
 
-[[noreturn]] void RaiseWriterFault(const std::string& reason) {
+/// The writer's own reasons are English and tell of its temporary files alone.
+[[noreturn]] void RaiseWriterFault() {
   throw common::RuntimeFault(common::Fault::kFileAccess,
-                             "ワークブックを作成できません。\n" + reason);
+                             "ワークブックを作成できません。\n一時ファイルのフォルダ " +
+                                 common::TemporaryFolder() +
+                                 " の空き容量とアクセス権を確認してください。");
 }
 
 /// The writer makes its file under a name. It is made here, where no one else can look into it,
@@ -128,7 +129,7 @@ class ScratchFile {
  public:
   ScratchFile() : path_(common::JoinPath(common::TemporaryFolder(), "zepha-XXXXXX")) {
     const int file = mkstemp(path_.data());
-    if (file < 0) RaiseWriterFault(std::strerror(errno));
+    if (file < 0) RaiseWriterFault();
     close(file);
   }
   ~ScratchFile() { unlink(path_.c_str()); }
@@ -145,7 +146,7 @@ class ScratchFile {
 class WorkbookFile::Impl {
  public:
   Impl() : workbook_(workbook_new(scratch_.Path().c_str())) {
-    if (workbook_ == nullptr) RaiseWriterFault("");
+    if (workbook_ == nullptr) RaiseWriterFault();
     title_ = workbook_add_format(workbook_);
     format_set_bold(title_);
     format_set_bg_color(title_, 0xDDE6F0);
@@ -166,7 +167,7 @@ class WorkbookFile::Impl {
     sheet.columns = &layout.columns;
     sheet.widths.resize(layout.columns.size());
     sheet.target = workbook_add_worksheet(workbook_, layout.kind.c_str());
-    if (sheet.target == nullptr) RaiseWriterFault(layout.kind);
+    if (sheet.target == nullptr) RaiseWriterFault();
     for (std::size_t column = 0; column < layout.columns.size(); ++column) {
       const std::string& title = layout.columns[column].title;
       Check(worksheet_write_string(sheet.target, 0, Column(column), title.c_str(), title_));
@@ -228,7 +229,7 @@ class WorkbookFile::Impl {
   static lxw_col_t Column(std::size_t column) { return static_cast<lxw_col_t>(column); }
   static double WidthOf(const std::string& text) { return common::Cp932Length(text); }
   static void Check(lxw_error error) {
-    if (error != LXW_NO_ERROR) RaiseWriterFault(lxw_strerror(error));
+    if (error != LXW_NO_ERROR) RaiseWriterFault();
   }
 
   /// Width and format are set in one call: a later one for the width alone would drop the format.

@@ -9,18 +9,21 @@ namespace {
 
 /// Number of the bore, by the group that the stored model belongs to.
 CellSource IntegralBore(std::size_t modelColumn, std::size_t boreColumn) {
-  return [=](const TagRow& record, const Tables& tables) -> CellValue {
-    const int model = ListPosition(record[modelColumn]);
-    const int group = model < 0 ? -1 : flow::IntegralGroup(model);
-    if (group < 0 || group >= flow::IntegralTable::kGroups) return {};
-    return NameOr(record[boreColumn], tables.integral.integralNo[static_cast<std::size_t>(group)]);
-  };
+  return {[=](const TagRow& record, const Tables& tables) -> CellValue {
+            const int model = ListPosition(record[modelColumn]);
+            const int group = model < 0 ? -1 : flow::IntegralGroup(model);
+            if (group < 0 || group >= flow::IntegralTable::kGroups) return {};
+            return NameOr(record[boreColumn],
+                          tables.integral.integralNo[static_cast<std::size_t>(group)]);
+          },
+          static_cast<int>(boreColumn)};
 }
 
 CellSource VortexMaker(std::size_t column) {
-  return [=](const TagRow& record, const Tables& tables) {
-    return NameOr(record[column], tables.vortex.makerName);
-  };
+  return {[=](const TagRow& record, const Tables& tables) {
+            return NameOr(record[column], tables.vortex.makerName);
+          },
+          static_cast<int>(column)};
 }
 
 }  // namespace

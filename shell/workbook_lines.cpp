@@ -17,11 +17,13 @@ bool IsSecondary(const TagRow& record) { return IsSet(record[7]); }
 
 /// The column holds a rating in files of this version only.
 CellSource FlangeRating(std::size_t column) {
-  return [=](const TagRow& record, const Tables&) -> CellValue {
-    const auto& ratings = valve::kFlangeRatings;
-    const bool known = std::find(ratings.begin(), ratings.end(), record[column]) != ratings.end();
-    return known ? CellValue(record[column]) : CellValue();
-  };
+  return {[=](const TagRow& record, const Tables&) -> CellValue {
+            const auto& ratings = valve::kFlangeRatings;
+            const bool known =
+                std::find(ratings.begin(), ratings.end(), record[column]) != ratings.end();
+            return known ? CellValue(record[column]) : CellValue();
+          },
+          static_cast<int>(column)};
 }
 
 }  // namespace

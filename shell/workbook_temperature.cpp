@@ -13,9 +13,10 @@ namespace {
 bool IsTank(const TagRow& record) { return ListPosition(record[11]) == temperature::kInTank; }
 
 CellSource SensorName(std::size_t column) {
-  return [=](const TagRow& record, const Tables& tables) {
-    return NameOr(record[column], tables.sensors.sensorName);
-  };
+  return {[=](const TagRow& record, const Tables& tables) {
+            return NameOr(record[column], tables.sensors.sensorName);
+          },
+          static_cast<int>(column)};
 }
 
 }  // namespace

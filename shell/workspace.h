@@ -11,6 +11,7 @@
 #include "shell/main_window.h"
 #include "shell/platform.h"
 #include "shell/print_surface.h"
+#include "shell/recovery.h"
 #include "shell/settings.h"
 #include "shell/tables.h"
 #include "shell/tag_store.h"
@@ -48,6 +49,7 @@ struct Workspace {
   data::ProcessState process;
   TagStore tags;
   DuctStore ducts;
+  Recovery recovery;
 
   /// Kind of the sheet on top ("⊿P Flow", "CV" ...), "" when there is none.
   std::string activeSheetKind;

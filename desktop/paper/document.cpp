@@ -1,9 +1,13 @@
 #include "desktop/paper/document.h"
 
-#include <QFile>
+#include <QBuffer>
+#include <QFileInfo>
 #include <QMarginsF>
 #include <QPdfWriter>
 #include <utility>
+
+#include "common/fault.h"
+#include "common/file.h"
 
 namespace desktop {
 
@@ -14,9 +18,8 @@ constexpr double kTwipsPerInch = 1440;
 
 }  // namespace
 
-PagedDocument::PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double unitsPerTwip,
-                             std::string path)
-    : device_(std::move(device)), unitsPerTwip_(unitsPerTwip), path_(std::move(path)) {}
+PagedDocument::PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double unitsPerTwip)
+    : device_(std::move(device)), unitsPerTwip_(unitsPerTwip) {}
 
 PagedDocument::~PagedDocument() { EndDrawing(); }
 
@@ -34,46 +37,57 @@ forms::DrawSurface& PagedDocument::NewPage() {
 
 bool PagedDocument::Finish() { return EndDrawing(); }
 
+void PagedDocument::Abort() { EndDrawing(); }
+
 bool PagedDocument::EndDrawing() {
   surface_.reset();
   if (painter_.isActive() && !painter_.end()) failed_ = true;
   return !failed_;
 }
 
-void PagedDocument::Abort() {
-  Finish();
-  if (!path_.empty()) QFile::remove(QString::fromStdString(path_));
-}
-
 namespace {
 
-/// A PDF file, whose disk may fill up while it is written.
+/// A PDF file. It is made whole in memory: the writer of the toolkit goes on when its disk is full,
+/// and forgets that it was.
 class PdfDocument : public PagedDocument {
  public:
-  /// file: what the writer writes to and owns.
-  PdfDocument(QFile& file, std::unique_ptr<QPdfWriter> writer, const std::string& path)
-      : PagedDocument(std::move(writer), kPdfResolution / kTwipsPerInch, path), file_(file) {}
+  /// buffer: what the writer writes to and owns.
+  PdfDocument(const QBuffer& buffer, std::unique_ptr<QPdfWriter> writer, std::string path)
+      : PagedDocument(std::move(writer), kPdfResolution / kTwipsPerInch),
+        buffer_(buffer),
+        path_(std::move(path)) {}
   ~PdfDocument() override { EndDrawing(); }
 
   bool Finish() override {
-    const bool drawn = EndDrawing();
-    const bool flushed = !file_.isOpen() || file_.flush();
-    const bool written = drawn && flushed && file_.error() == QFileDevice::NoError;
-    file_.close();
-    return written && file_.error() == QFileDevice::NoError;
+    if (!EndDrawing()) return false;
+    try {
+      common::WriteFile(path_, buffer_.data().toStdString());
+    } catch (const common::RuntimeFault&) {
+      return false;
+    }
+    return true;
   }
 
  private:
-  QFile& file_;
+  const QBuffer& buffer_;
+  std::string path_;
 };
+
+/// Whether a file may be written as far as can be told before all pages are drawn.
+bool MayBeWritten(const QFileInfo& file) {
+  if (file.exists()) return !file.isDir() && file.isWritable();
+  const QFileInfo folder(file.absolutePath());
+  return folder.isDir() && folder.isWritable();
+}
 
 }  // namespace
 
-std::unique_ptr<shell::PrintJob> StartPdf(const std::string& path) {
-  auto file = std::make_unique<QFile>(QString::fromStdString(path));
-  if (!file->open(QIODevice::WriteOnly)) return nullptr;
-  auto writer = std::make_unique<QPdfWriter>(file.get());
-  QFile& output = *file.release();
+std::unique_ptr<PagedDocument> StartPdf(const std::string& path) {
+  if (!MayBeWritten(QFileInfo(QString::fromStdString(path)))) return nullptr;
+  auto buffer = std::make_unique<QBuffer>();
+  if (!buffer->open(QIODevice::WriteOnly)) return nullptr;
+  auto writer = std::make_unique<QPdfWriter>(buffer.get());
+  QBuffer& output = *buffer.release();
   output.setParent(writer.get());
   writer->setPageSize(QPageSize(QPageSize::A4));
   writer->setPageOrientation(QPageLayout::Portrait);

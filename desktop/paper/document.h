@@ -14,8 +14,8 @@ namespace desktop {
 /// A document on any paged device of the toolkit.
 class PagedDocument : public shell::PrintJob {
  public:
-  /// unitsPerTwip: resolution / 1440. path: the file that it is written to, "" for a printer.
-  PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double unitsPerTwip, std::string path);
+  /// unitsPerTwip: resolution / 1440.
+  PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double unitsPerTwip);
   ~PagedDocument() override;
 
   /// Whether the device takes drawings at all.
@@ -23,6 +23,8 @@ class PagedDocument : public shell::PrintJob {
   forms::DrawSurface& NewPage() override;
   bool Finish() override;
   void Abort() override;
+  /// For a page that is no sheet's.
+  QPainter& Painter() { return painter_; }
 
  protected:
   QPagedPaintDevice& Device() const { return *device_; }
@@ -32,13 +34,12 @@ class PagedDocument : public shell::PrintJob {
  private:
   std::unique_ptr<QPagedPaintDevice> device_;
   double unitsPerTwip_;
-  std::string path_;
   QPainter painter_;
   std::optional<QtDrawSurface> surface_;
   bool failed_ = false;
 };
 
-/// A PDF file of A4 pages; null when it cannot be written. An existing file is replaced.
-std::unique_ptr<shell::PrintJob> StartPdf(const std::string& path);
+/// A PDF file of A4 pages; null when it cannot be written. An existing file is replaced at the end.
+std::unique_ptr<PagedDocument> StartPdf(const std::string& path);
 
 }  // namespace desktop

@@ -1,11 +1,14 @@
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "headless/driver.h"
+#include "headless/states.h"
 
 namespace {
 
@@ -13,10 +16,11 @@ struct Arguments {
   std::string installDir;
   std::string settings;
   std::string script;
+  std::vector<std::string> answers;
 };
 
 constexpr const char* kUsage =
-    "usage: zepha-headless [--install-dir DIR] [--settings FILE] [SCRIPT]\n";
+    "usage: zepha-headless [--install-dir DIR] [--settings FILE] [--answer WORD]... [SCRIPT]\n";
 
 std::optional<Arguments> Parse(int count, char** values) {
   Arguments arguments;
@@ -25,6 +29,9 @@ std::optional<Arguments> Parse(int count, char** values) {
     if (word == "--install-dir" || word == "--settings") {
       if (++i == count) return std::nullopt;
       (word == "--settings" ? arguments.settings : arguments.installDir) = values[i];
+    } else if (word == "--answer") {
+      if (++i == count || !headless::AnswerOf(values[i])) return std::nullopt;
+      arguments.answers.emplace_back(values[i]);
     } else if (word.starts_with("--") || !arguments.script.empty()) {
       return std::nullopt;
     } else {
@@ -45,6 +52,11 @@ std::unique_ptr<shell::SettingsStore> Settings(const std::string& path) {
   return std::make_unique<shell::FileSettings>(path);
 }
 
+/// Beside the settings, so that a trial never touches the user's own work in progress.
+std::string StateFolder(const std::string& settings) {
+  return settings.empty() ? settings : settings + ".state";
+}
+
 void Tell(const headless::Json& answer) {
   // Bytes that are no UTF-8 are told as U+FFFD instead of ending the run.
   std::cout << answer.dump(-1, ' ', false, headless::Json::error_handler_t::replace) << std::endl;
@@ -63,6 +75,8 @@ void RunScript(headless::Driver& driver, std::istream& input) {
 }  // namespace
 
 int main(int count, char** values) {
+  // A limit on the size of files is told like a full disk instead of ending the run.
+  std::signal(SIGXFSZ, SIG_IGN);
   const std::optional<Arguments> arguments = Parse(count, values);
   if (!arguments) {
     std::cerr << kUsage;
@@ -78,8 +92,14 @@ int main(int count, char** values) {
   }
   const std::unique_ptr<shell::SettingsStore> settings = Settings(arguments->settings);
   headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir,
-                          *settings);
+                          *settings, StateFolder(arguments->settings));
+  // The start may ask before the first command can be read.
+  for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());
   RunScript(driver, arguments->script.empty() ? std::cin : script);
+  if (!std::cout.flush()) {
+    std::cerr << "zepha-headless: the answers could not be written\n";
+    return 1;
+  }
   return driver.Misunderstood() ? 1 : 0;
 }

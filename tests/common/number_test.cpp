@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <limits>
 
 namespace common {
 namespace {
@@ -43,10 +44,12 @@ TEST(NumberText, HasFifteenDigits) {
               {123456789012345678.0, "1.23456789012346E+17"},
               {0.0001, "0.0001"},
               {0.00001, "1E-05"},
-              {-1234.5, "-1234.5"}};
+              {-1234.5, "-1234.5"},
+              {-std::numeric_limits<double>::max(), "-1.79769313486231E+308"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text);
     EXPECT_EQ(NumberText(row.value), row.text);
+    EXPECT_NO_THROW(Val(NumberText(row.value)));
   }
   EXPECT_EQ(SpacedNumberText(0.5), " .5");
   EXPECT_EQ(SpacedNumberText(-0.5), "-.5");

@@ -238,5 +238,39 @@ TEST(Platform, StartsWhatIsThereAndNothingElse) {
   EXPECT_FALSE(platform.OpenWithDesktop(folder.filePath(QStringLiteral("none")).toStdString()));
 }
 
+// The opener of the desktop is there also where no program takes the file, and then says so.
+TEST(Platform, KnowsWhetherAFileWasOpened) {
+  const QByteArray before = qgetenv("PATH");
+  const QTemporaryDir folder;
+  QFile book(folder.filePath(QStringLiteral("計器 一覧 (1).xlsx")));
+  ASSERT_TRUE(book.open(QIODevice::WriteOnly));
+  QtPresenter presenter;
+  QtPlatform platform(presenter);
+  const struct {
+    const char* opener;
+    bool opened;
+  } rows[] = {{"test -f \"$1\" && test $# = 1", true},
+              {"exit 3", false},
+              {"kill -9 $$", false},
+              {"sleep 4", true},
+              {nullptr, false}};
+  qputenv("PATH", folder.path().toUtf8() + ":" + before);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.opener == nullptr ? "none" : row.opener);
+    QFile script(folder.filePath(QStringLiteral("xdg-open")));
+    if (row.opener == nullptr) {
+      script.remove();
+      qputenv("PATH", folder.path().toUtf8());
+    } else {
+      ASSERT_TRUE(script.open(QIODevice::WriteOnly | QIODevice::Truncate));
+      script.write(QByteArray("#!/bin/sh\n") + row.opener + "\n");
+      script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+      script.close();
+    }
+    EXPECT_EQ(platform.OpenWithDesktop(book.fileName().toStdString()), row.opened);
+  }
+  qputenv("PATH", before);
+}
+
 }  // namespace
 }  // namespace desktop

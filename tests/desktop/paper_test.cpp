@@ -1,3 +1,5 @@
+#include <sys/resource.h>
+
 #include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
@@ -11,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWheelEvent>
+#include <csignal>
 
 #include "desk.h"
 #include "desktop/paper/draw_surface.h"
@@ -123,6 +126,20 @@ TEST_F(Paper, StoppedPrintingLeavesNoFile) {
   EXPECT_FALSE(QFileInfo::exists(folder_.filePath("stopped.pdf")));
 }
 
+TEST_F(Paper, RecalculationRunsBetweenEventsAndStops) {
+  bench_.Window().Run("mnuRecalculate");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
+  EXPECT_FALSE(Find<QPushButton>("cmd再計算").isEnabled());
+  QTest::mouseClick(&Find<QPushButton>("cmdCancel"), Qt::LeftButton);
+  const int stopped = Find<QProgressBar>("prg進行").value();
+  QTest::qWait(20);
+  EXPECT_EQ(Find<QProgressBar>("prg進行").value(), stopped);
+  EXPECT_LT(stopped, bench_.Space().tags.TagCount());
+  QTest::mouseClick(&Find<QPushButton>("cmd再計算"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>("cmd再計算").isEnabled(); }));
+  EXPECT_EQ(Find<QProgressBar>("prg進行").value(), bench_.Space().tags.TagCount());
+}
+
 /// Answers the printer dialogue: a file to print into, or Cancel with none.
 void AnswerPrinterDialogue(const QString& file) {
   QTimer::singleShot(50, [file] {
@@ -154,6 +171,44 @@ TEST_F(Paper, PrinterDialogueOffersAFileWhereThereIsNoPrinter) {
   AnswerPrinterDialogue(image);
   bench_.Window().Run("mnuHCopy");
   EXPECT_GT(QFileInfo(image).size(), 5000);
+}
+
+/// Lets no file grow beyond some bytes, as a full disk would.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : handler_(signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit = {bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  void (*handler_)(int);
+  rlimit before_{};
+};
+
+TEST_F(Paper, PrintingIntoAFileTellsOfAFullDisk) {
+  const FileSizeLimit limit(8192);
+  bench_.Window().SetCommandEnabled("mnuHCopy", true);
+  for (const char* command : {"mnuPrint", "mnuHCopy"}) {
+    AnswerPrinterDialogue(folder_.filePath(command));
+    bench_.Window().Run(command);
+  }
+  EXPECT_EQ(presenter_.messages,
+            std::vector<std::string>(
+                2, "印刷できませんでした。プリンタまたは保存先を確認してください。"));
+  presenter_.messages.clear();
+  AnswerPrinterDialogue(folder_.filePath("none/printed.pdf"));
+  bench_.Window().Run("mnuPrint");
+  EXPECT_EQ(
+      presenter_.messages,
+      std::vector<std::string>{"印刷を開始できません。プリンタまたは保存先を確認してください。"});
 }
 
 // The families behind the sheets have letters of exactly one or two columns, and where one has not,

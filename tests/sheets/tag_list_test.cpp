@@ -1,10 +1,8 @@
 #include <filesystem>
 
 #include "common/file.h"
-#include "common/number.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
-#include "shell/sheet.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
 #include "tests/support/fake_platform.h"
@@ -313,45 +311,6 @@ TEST_F(SheetTest, UserProgramsAreStoredWithoutQuotesAndStarted) {
   own.Window().Press(31);
   EXPECT_EQ(TakeTexts(), Texts());
   std::filesystem::remove_all(folder);
-}
-
-// The sample plant recalculates to what it holds. Only the differential-pressure sheet has to be
-// told in which direction.
-TEST_F(SheetTest, SamplePlantStandsAsCalculated) {
-  shell::OpenFileNamed(bench.Space(), std::string(ZEPHA_SOURCE_DIR) + "/samples/plant.zph");
-  shell::TagStore& tags = bench.Space().tags;
-  ASSERT_GE(tags.TagCount(), 16);
-  for (int row = 1; row <= tags.TagCount(); ++row) {
-    SCOPED_TRACE(tags.Text(row, 0));
-    tags.SelectLine(row - 1);
-    shell::RecallSelectedTag(bench.Space());
-    auto& sheet = dynamic_cast<shell::Sheet&>(*bench.Forms().ActiveSheet());
-    const bool boreKnown = tags.Text(row, 0) == "FE-1501";
-    if (auto* const direction = dynamic_cast<forms::OptionButton*>(
-            sheet.Find(boreKnown ? "opt絞り径→差圧" : "opt差圧→絞り径"))) {
-      direction->Choose();
-    }
-    const shell::TagRow record = tags.Row(row);
-    EXPECT_EQ(TakeTexts(), Texts());
-    for (const char* button : {"cmd計算", "cmdCv計算", "cmdSizing"}) {
-      if (forms::Control* const calculate = sheet.Find(button)) calculate->Click();
-    }
-    EXPECT_TRUE(bench.Space().calcDone);
-    if (record[shell::kKindColumn] == "Integral") {
-      Pick("cboOrificeNo", common::IntIndex(common::Val(record[31])));
-    }
-    // One well stands above Vr 5, where the fatigue is not rated.
-    EXPECT_EQ(TakeTexts().size(), tags.Text(row, 0) == "TW-2201" ? 1U : 0U);
-    for (int column = 0; column < shell::kTagColumns; ++column) {
-      tags.SetText(shell::kMaxTags, column, "");
-    }
-    sheet.AddTo(shell::kMaxTags);
-    const shell::TagRow& again = tags.Row(shell::kMaxTags);
-    for (std::size_t column = 0; column < record.size(); ++column) {
-      const bool bore = record[shell::kKindColumn] == "⊿P Flow" && (column == 28 || column == 30);
-      EXPECT_TRUE(bore || again[column] == record[column]) << column << ": " << again[column];
-    }
-  }
 }
 
 }  // namespace

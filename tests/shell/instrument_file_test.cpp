@@ -1,8 +1,6 @@
 #include "shell/instrument_file.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 
 #include "common/fault.h"
 #include "common/file.h"
@@ -300,26 +298,6 @@ TEST_F(InstrumentFile, ARefusedFileLeavesAnEmptyStoreWithoutName) {
   }
 }
 
-TEST_F(InstrumentFile, TellsOfAMissingFile) {
-  common::WriteFile(folder / "file", "");
-  for (const std::string& path :
-       {folder / "none.zph", folder / "no/folder.zph", folder / "file/a"}) {
-    TagStore store;
-    store.zephaFileName = path;
-    messages.shown.clear();
-    EXPECT_FALSE(Open(store, store.zephaFileName));
-    EXPECT_EQ(messages.Texts(),
-              Texts{"ＺＥＰＨＡのデータファイル\n" + path + "\nが見つかりません。"});
-    EXPECT_EQ(messages.shown[0].icon, common::Icon::kWarning);
-    EXPECT_EQ(store.zephaFileName, "");
-  }
-  TagStore store;
-  messages.shown.clear();
-  EXPECT_FALSE(Open(store, folder.Path()));
-  ASSERT_EQ(messages.shown.size(), 1U);
-  EXPECT_NE(messages.shown[0].text.find("フォルダです。"), std::string::npos);
-}
-
 TEST_F(InstrumentFile, SavesAndIsReadBack) {
   TagStore store = StoreOf(FullRows(8));
   store.SetText(0, 0, "1.2.3");
@@ -393,63 +371,6 @@ TEST_F(InstrumentFile, RefusesTextsThatTheFileCannotHold) {
   TagStore store = StoreOf(FullRows(3));
   store.SetText(1, 20, "1, 1/2\"");
   EXPECT_EQ(Parse(EncodeInstrumentFile(store))[1][20], "1, 1/2") << "a quote ends the field";
-}
-
-/// Lets no file grow beyond some bytes, as a full disk would.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : handler_(signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
-
-TEST_F(InstrumentFile, AFailedSaveIsToldAndKeepsTheStore) {
-  common::WriteFile(folder / "file", "");
-  const struct {
-    const char* name;
-    std::string path, reason;
-    bool limited;
-  } rows[] = {
-      {"no name", "", "ファイル名が指定されていません。", false},
-      {"full device", "/dev/full", "空き容量が不足", false},
-      {"file too large", folder / "a.zph", "ファイルが大きすぎます。", true},
-      {"no folder", folder / "none/a.zph", "保存先のフォルダが見つかりません。", false},
-      {"no folder but a file", folder / "file/a.zph", "保存先のフォルダが見つかりません。", false},
-      {"a folder", folder.Path(), "フォルダです。", false},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    TagStore store = StoreOf(FullRows(300));
-    store.SetText(0, 0, "2.0.0");
-    store.zephaFileName = row.path;
-    store.tagModified = true;
-    std::string text;
-    if (row.limited) {
-      const FileSizeLimit limit(8192);
-      text = FaultText([&] { SaveInstrumentFile(store, messages); });
-    } else {
-      text = FaultText([&] { SaveInstrumentFile(store, messages); });
-    }
-    EXPECT_NE(text.find(row.reason), std::string::npos) << text;
-    EXPECT_TRUE(text.ends_with("データは保存されていません。")) << text;
-    EXPECT_TRUE(store.tagModified);
-    EXPECT_EQ(store.TagCount(), 300);
-    EXPECT_EQ(store.Text(0, 0), "2.0.0");
-    EXPECT_EQ(store.zephaFileName, row.path);
-  }
-  EXPECT_TRUE(messages.shown.empty());
 }
 
 /// Answers the first question with one answer, whatever its buttons.

@@ -102,18 +102,6 @@ TEST(Settings, ADamagedFileLosesOnlyWhatCannotBeRead) {
   }
 }
 
-TEST(Settings, AFileThatCannotBeWrittenIsNoFault) {
-  const tests::TemporaryFolder folder;
-  common::WriteFile(folder / "file", "");
-  std::filesystem::create_directory(folder / "folder");
-  for (const std::string& path : {std::string(), folder / "file/settings.ini", folder / "folder"}) {
-    SCOPED_TRACE(path);
-    FileSettings settings(path);
-    EXPECT_EQ(settings.Get("User", "Company"), "");
-    EXPECT_FALSE(settings.Set("User", "Company", "A"));
-  }
-}
-
 TEST(Settings, WritingLeavesNothingBesideAndKeepsLinks) {
   const tests::TemporaryFolder folder;
   common::WriteFile(folder / "kept elsewhere", "");

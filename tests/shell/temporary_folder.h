@@ -12,7 +12,8 @@ namespace tests {
 /// A new folder that goes with its contents at the end of the test.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : path_(testing::TempDir() + "zepha-XXXXXX") {
+  TemporaryFolder() : TemporaryFolder(testing::TempDir()) {}
+  explicit TemporaryFolder(const std::string& parent) : path_(parent + "/zepha-XXXXXX") {
     if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
   }
   ~TemporaryFolder() {
