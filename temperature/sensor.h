@@ -22,7 +22,7 @@ inline bool IsResistance(int kind) { return kind >= kPt100; }
 std::optional<Real> CalcSensorOutput(const SensorTable& table, int kind, Real t,
                                      common::Messages& messages, const std::string& title);
 
-/// Temperature in degC of an output in uV or ohm, by bisection over the kind's range to 0.0025 K or
+/// Temperature in degC of an output in uV or ohm, by bisection over the kind's range to 0.005 K or
 /// 0.001 uV or ohm. An output beyond the range gives its limit. Below 60 degC type B, which has a
 /// minimum near 21 degC, gives the upper one of two temperatures.
 Real CalcTemperature(const SensorTable& table, int kind, Real output);

@@ -57,22 +57,6 @@ TEST_F(SensorTest, AgreesWithThePublishedTables) {
         << table.sensorName[static_cast<std::size_t>(row.kind)] << " " << row.t;
   }
 }
-
-TEST_F(SensorTest, TemperatureAndOutputAgreeBothWays) {
-  for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
-    const double low = kind == kB ? 60 : static_cast<double>(common::At(table.rangeLow, kind)[0]);
-    const double high = common::At(table.rangeHigh, kind)[2];
-    for (int i = 0; i <= 40; ++i) {
-      const double t = low + (high - low) * i / 40;
-      // Near -270 degC the outputs hardly change, and 0.001 uV is more than the bounds' distance.
-      const double tolerance = t < -250 ? 0.5 : 0.01;
-      EXPECT_NEAR(CalcTemperature(table, kind, Output(kind, t)), t, kind == kJPt ? 0.05 : tolerance)
-          << table.sensorName[static_cast<std::size_t>(kind)];
-    }
-  }
-  EXPECT_TRUE(messages.shown.empty());
-}
-
 TEST_F(SensorTest, LimitsAreInsideAndBeyondThemItSaysSo) {
   for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
     const Real low = common::At(table.rangeLow, kind)[0];
