@@ -69,7 +69,7 @@ void CopyFullStore(benchmark::State& state) {
   const std::string folder = TemporaryPath() + ".state";
   recovery.UseFolder(folder);
   int round = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     store.SetText(1, 1, std::to_string(++round));
     recovery.Keep(store, {});
     if (!recovery.Trouble().empty()) state.SkipWithError("not copied");

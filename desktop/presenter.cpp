@@ -39,7 +39,7 @@ void QtPresenter::Attach(MainWindow& window, shell::FormManager& forms) {
 
 void QtPresenter::CloseAll() {
   const Counting steering(steering_);
-  for (const auto& [form, shown] : shown_) closed_.push_back(shown.window);
+  for (const auto& [form, shown] : shown_) closed_.emplace_back(shown.window);
   shown_.clear();
   for (const QPointer<QWidget>& window : closed_) delete window.data();
   closed_.clear();
@@ -120,7 +120,7 @@ void QtPresenter::CloseForm(forms::Form& form) {
     toolPlaces_[form.Name()] = {window->pos(), window->size()};
   }
   shown_.erase(found);
-  closed_.push_back(window);
+  closed_.emplace_back(window);
   // A window that was opened from this one would go with it.
   for (const auto& [other, shown] : shown_) {
     if (shown.window->parentWidget() != window) continue;

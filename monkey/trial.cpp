@@ -220,8 +220,8 @@ std::vector<std::string> Shrunk(const TrialPlan& plan, const TrialResult& failed
 }
 
 fs::path KeepForTheDriver(const TrialPlan& plan, const std::vector<std::string>& lines) {
-  const fs::path folder = fs::temp_directory_path() / ("zepha-monkey-" + std::to_string(plan.seed) +
-                                                       "-" + std::to_string(plan.number));
+  fs::path folder = fs::temp_directory_path() / ("zepha-monkey-" + std::to_string(plan.seed) + "-" +
+                                                 std::to_string(plan.number));
   fs::remove_all(folder);
   fs::create_directories(folder);
   Random random(plan.seed, plan.number);

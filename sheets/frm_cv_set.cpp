@@ -31,11 +31,11 @@ void frmCvSet::Load() {
   const TrimTarget* const sheet = TargetOf(workspace_);
   if (sheet == nullptr || sheet->MakerIndex() < 0 || sheet->ModelIndex() < 0) return;
   const valve::ValveCatalogue& valves = workspace_.tables.valves;
-  const int maker = sheet->MakerIndex();
-  const int model = sheet->ModelIndex();
-  lblModel.SetText(common::At(common::At(valves.valveModel, maker), model));
-  const auto& sizes = common::At(common::At(valves.valveSize, maker), model);
-  const auto& cvs = common::At(common::At(valves.valveCv, maker), model);
+  maker_ = sheet->MakerIndex();
+  model_ = sheet->ModelIndex();
+  lblModel.SetText(common::At(common::At(valves.valveModel, maker_), model_));
+  const auto& sizes = common::At(common::At(valves.valveSize, maker_), model_);
+  const auto& cvs = common::At(common::At(valves.valveCv, maker_), model_);
   std::vector<std::string> lines;
   for (std::size_t row = 0; row < sizes.size(); ++row) {
     lines.push_back(common::PadToBytes(sizes[row], kSizeColumns) + cvs[row]);
@@ -43,9 +43,13 @@ void frmCvSet::Load() {
   lstCv.SetItems(std::move(lines));
 }
 
+/// A trim is one of the model that is listed; a sheet with another model by now takes none.
 void frmCvSet::cmdCvSet_Click() {
   if (lstCv.Index() < 0) return;
-  if (TrimTarget* const sheet = TargetOf(workspace_)) sheet->TakeTrim(lstCv.Index());
+  TrimTarget* const sheet = TargetOf(workspace_);
+  if (sheet != nullptr && sheet->MakerIndex() == maker_ && sheet->ModelIndex() == model_) {
+    sheet->TakeTrim(lstCv.Index());
+  }
   workspace_.forms.Unload(*this);
 }
 

@@ -37,6 +37,9 @@ class frmCvSet : public forms::Form {
   void cmdCvSet_Click();
 
   shell::Workspace& workspace_;
+  /// The model whose trims are listed.
+  int maker_ = -1;
+  int model_ = -1;
 };
 
 }  // namespace sheets

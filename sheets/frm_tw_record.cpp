@@ -10,7 +10,6 @@ namespace sheets {
 
 namespace {
 
-using common::At;
 using common::Val;
 
 /// Columns of the record that are read or written by themselves.
