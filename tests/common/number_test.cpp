@@ -86,15 +86,6 @@ TEST(Format, FollowsThePattern) {
   }
 }
 
-// A buffer that earlier calls have used must not leak into the digits.
-TEST(Format, DoesNotDependOnWhatWasFormattedBefore) {
-  for (int i = 0; i < 200; ++i) {
-    EXPECT_EQ(Format(500692.779971479, "###,###,###,##0"), "500,693");
-    EXPECT_EQ(Format(1.23456789012345e-7 * i, "0.00"), "0.00");
-    EXPECT_EQ(Format(1e100, "0").size(), 101U);
-  }
-}
-
 TEST(RoundDigits, RoundsHalfUpwards) {
   const struct {
     double value;

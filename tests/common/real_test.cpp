@@ -54,26 +54,6 @@ TEST(Real, RaisesTheFaultOfEachImpossibleOperation) {
   }
 }
 
-TEST(Real, CalculatesAsDoublesDo) {
-  const Real a = 1.1;
-  const Real b = 2.2;
-  EXPECT_EQ(static_cast<double>(a + b), 1.1 + 2.2);
-  EXPECT_EQ(static_cast<double>(a - 3), 1.1 - 3);
-  EXPECT_EQ(static_cast<double>(2 * a / b), 2 * 1.1 / 2.2);
-  EXPECT_EQ(static_cast<double>(pow(Real(1.5), 7)), 17.0859375);
-  EXPECT_EQ(static_cast<double>(pow(Real(2), -2)), 0.25);
-  EXPECT_EQ(static_cast<double>(pow(Real(4), 0.5)), 2.0);
-  EXPECT_EQ(static_cast<double>(Int(-0.5)), -1.0);
-  EXPECT_EQ(IntIndex(-1.70), -2);
-  EXPECT_EQ(static_cast<double>(Single(71.12)), static_cast<double>(71.12F));
-  Real sum = 1;
-  sum += 2;
-  sum *= 3;
-  sum -= 1;
-  sum /= 4;
-  EXPECT_EQ(static_cast<double>(sum), 2.0);
-}
-
 TEST(Real, TableIndexIsChecked) {
   const std::vector<int> table = {1, 2, 3};
   EXPECT_EQ(At(table, 2), 3);

@@ -7,8 +7,7 @@ namespace data {
 namespace {
 
 TEST(ConvertLists, EveryListStandsInItsPlace) {
-  ConvertLists lists;
-  ASSERT_TRUE(ReadConvertLists(tests::ShippedFile("ZephaConvertData.dat"), lists));
+  const ConvertLists lists = tests::Shipped(ReadConvertLists, "ZephaConvertData.dat");
   const struct {
     const char* name;
     const TextList& list;
@@ -53,17 +52,7 @@ TEST(ConvertLists, EveryListStandsInItsPlace) {
 }
 
 TEST(ConvertLists, RefusesFilesOfAnotherSize) {
-  const std::string good = tests::ShippedFile("ZephaConvertData.dat");
-  std::vector<std::string> files = tests::DamagedFiles(good);
-  files.push_back(good + "\"one more\"");
-  files.push_back(good.substr(0, good.rfind(',')));
-  for (const std::string& bytes : files) {
-    SCOPED_TRACE(bytes.substr(0, 20));
-    ConvertLists lists;
-    EXPECT_FALSE(ReadConvertLists(bytes, lists));
-    EXPECT_TRUE(lists.Empty());
-    EXPECT_TRUE(lists.valveSizes.empty());
-  }
+  tests::ExpectStrictRefusals(ReadConvertLists, tests::ShippedFile("ZephaConvertData.dat"));
 }
 
 }  // namespace

@@ -5,11 +5,7 @@
 namespace data {
 namespace {
 
-PipeTable Shipped() {
-  PipeTable table;
-  EXPECT_TRUE(ReadPipeTable(tests::ShippedFile("PipeThickness.dat"), table));
-  return table;
-}
+PipeTable Shipped() { return tests::Shipped(ReadPipeTable, "PipeThickness.dat"); }
 
 enum Schedule { kSgp = 0, k10S = 2, k20 = 5, k40 = 7, k80 = 9, k120 = 11, k160 = 13 };
 
@@ -76,16 +72,7 @@ TEST(PipeTable, ShippedWallsGrow) {
 
 TEST(PipeTable, RefusesDamagedFiles) {
   const std::string good = tests::ShippedFile("PipeThickness.dat");
-  std::vector<std::string> files = tests::DamagedFiles(good);
-  files.push_back(good + "0");
-  files.push_back("mm" + good);
-  files.push_back(good.substr(0, good.rfind(',')));
-  for (const std::string& bytes : files) {
-    SCOPED_TRACE(bytes.substr(0, 20));
-    PipeTable table = Shipped();
-    EXPECT_FALSE(ReadPipeTable(bytes, table));
-    EXPECT_TRUE(table.Empty());
-  }
+  tests::ExpectStrictRefusals(ReadPipeTable, good, {"mm" + good});
 }
 
 }  // namespace

@@ -46,13 +46,14 @@ struct Bench {
 
 constexpr double kNone = -999;
 
-// One line a liquid: density at saturation or 1 atm, viscosity, normal boiling point. Densities and
-// boiling points after the NIST Chemistry WebBook (reference equations of state), the CRC Handbook
-// and Riddick, Bunger and Sakano; solutions after Perry. Viscosities after the CRC Handbook at 25
-// degC, IAPWS 2008 for water, NIST at the boiling point of cryogens. The shipped equations claim
-// 0.1 % in density, 4 % in viscosity and 2 % in vapour pressure; the sources differ by as much
-// again, for the viscosity of glycol and acetic acid by 6 %, and for the density of propylene and
-// vinyl chloride, which handbooks give with three figures or from older measurements, by 0.3 %.
+// One line a liquid, and some over the range: density at saturation or 1 atm, viscosity, normal
+// boiling point. Densities and boiling points after the NIST Chemistry WebBook (reference equations
+// of state), the CRC Handbook and Riddick, Bunger and Sakano; solutions after Perry. Viscosities
+// after the CRC Handbook at 25 degC, IAPWS 2008 for water, NIST at the boiling point of cryogens.
+// The shipped equations claim 0.1 % in density, 4 % in viscosity and 2 % in vapour pressure; the
+// sources differ by as much again, for the viscosity of glycol and acetic acid by 6 %, and for the
+// density of propylene and vinyl chloride, which handbooks give with three figures or from older
+// measurements, by 0.3 %.
 const struct {
   const char* liquid;
   double densityCelsius, density;
@@ -103,7 +104,17 @@ const struct {
                     {"海水", 20, 1024.8, 20, 1.08, kNone},
                     {"硫酸 98%", 20, 1836.1, kNone, 0, kNone},
                     {"塩酸 35%", 20, 1174, kNone, 0, kNone},
-                    {"苛性ソーダ 48%", 20, 1506.5, kNone, 0, kNone}};
+                    {"苛性ソーダ 48%", 20, 1506.5, kNone, 0, kNone},
+                    {"水", 0.01, 999.8, 5, 1.518, kNone},
+                    {"水", 60, 983.2, 50, 0.5465, kNone},
+                    {"水", 100, 958.4, 100, 0.2816, kNone},
+                    {"水", 200, 864.7, 200, 0.1346, kNone},
+                    {"水", 250, 798.9, 300, 0.0859, kNone},
+                    {"水", 350, 574.7, kNone, 0, kNone},
+                    {"アンモニア", 0, 638.6, kNone, 0, kNone},
+                    {"アンモニア", 100, 456.6, kNone, 0, kNone},
+                    {"二酸化炭素", -20, 1031.7, kNone, 0, kNone},
+                    {"R-134a", 0, 1294.8, kNone, 0, kNone}};
 
 TEST(ShippedLiquids, AgreeWithHandbooks) {
   Bench bench;
@@ -131,49 +142,12 @@ TEST(ShippedLiquids, AgreeWithHandbooks) {
   EXPECT_TRUE(bench.messages.shown.empty());
 }
 
-// NIST Chemistry WebBook; IAPWS 2008 for the viscosity of water.
-TEST(ShippedLiquids, AgreeOverTheirRange) {
-  const struct {
-    const char* liquid;
-    double celsius, density, viscosity;
-  } rows[] = {{"水", 0.01, 999.8, 0},      {"水", 5, 0, 1.518},
-              {"水", 50, 0, 0.5465},       {"水", 60, 983.2, 0},
-              {"水", 100, 958.4, 0.2816},  {"水", 200, 864.7, 0.1346},
-              {"水", 250, 798.9, 0},       {"水", 300, 712.1, 0.0859},
-              {"水", 350, 574.7, 0},       {"アンモニア", -33.33, 682.0, 0},
-              {"アンモニア", 0, 638.6, 0}, {"アンモニア", 100, 456.6, 0},
-              {"プロパン", 0, 528.6, 0},   {"二酸化炭素", -20, 1031.7, 0},
-              {"R-134a", 0, 1294.8, 0}};
-  Bench bench;
-  bench.Ship();
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.liquid) + " " + std::to_string(row.celsius));
-    const int liquid = tests::IndexOf(bench.liquids.Names(), row.liquid);
-    bench.At(row.celsius);
-    if (row.density != 0) {
-      EXPECT_NEAR(bench.estimator.EstimateLiquidDensity(liquid).value_or(0), row.density,
-                  0.002 * row.density);
-    }
-    if (row.viscosity != 0) {
-      EXPECT_NEAR(bench.estimator.EstimateLiquidViscosity(liquid), row.viscosity,
-                  0.04 * row.viscosity + 0.0005);
-    }
-  }
-  EXPECT_TRUE(bench.messages.shown.empty());
-}
-
-TEST(EstimateVapourPressure, CarbonDioxideAndWaterAgreeWithTables) {
-  // NIST Chemistry WebBook: 3.4851 MPa at 0 degC. IAPWS-IF97: 2.339 kPa at 20 degC.
+TEST(EstimateVapourPressure, CarbonDioxideAgreesWithTables) {
   Bench bench;
   bench.Ship();
   bench.At(0);
   const int carbonDioxide = tests::IndexOf(bench.liquids.Names(), "二酸化炭素");
-  EXPECT_NEAR(bench.estimator.EstimateVapourPressure(carbonDioxide), 3485.1, 35);
-  const int water = tests::IndexOf(bench.liquids.Names(), "水");
-  bench.At(20);
-  EXPECT_NEAR(bench.estimator.EstimateVapourPressure(water), 2.34, 1e-9);
-  bench.state.saturationPressureUnit = 1;
-  EXPECT_NEAR(bench.estimator.EstimateVapourPressure(water), 0.002, 1e-9);
+  EXPECT_NEAR(bench.estimator.EstimateVapourPressure(carbonDioxide), 3485.1, 35);  // kPa, NIST
 }
 
 // One line a gas: molecular weight and critical data (CRC Handbook; Thol et al. for chlorine, vinyl
@@ -285,24 +259,17 @@ TEST(EstimateLiquidDensity, EquationsByHand) {
     double celsius;
     int unit;
     double density;
-  } rows[] = {{"cubic", {"1", "1000", "-1", "0.01", "-0.001", "", ""}, 10, 0, 990.0},
-              {"cubic in g/cm3", {"1", "1000", "-1", "0.01", "-0.001", "", ""}, 10, 1, 0.99},
-              // f is the same at the reference temperature
-              {"reference", {"2", "660", "293.15", "507", "0", "", ""}, 20, 0, 660},
-              // f(0.75) = 0.64204, f(0.5) = 0.788999: e^8.655 = 5738.8, e^5.77 = 320.54
-              {"reduced", {"2", "788.999", "273.15", "546.3", "0", "", ""}, 136.575, 0, 642.1},
-              // 1000 - 2*10 - 900/(100 - 10)
-              {"pole", {"3", "1000", "2", "900", "100", "", ""}, 10, 0, 970},
+  } rows[] = {{"cubic", {"1", "1000", "-1", "0.01", "-0.001"}, 10, 0, 990.0},
+              {"cubic in g/cm3", {"1", "1000", "-1", "0.01", "-0.001"}, 10, 1, 0.99},
               // t = 83, s = 9.110434: 6193.01 / 11.00255
-              {"ammonia at 50", {"NH3", "1", "0", "0", "200", "", ""}, 50, 0, 562.9},
-              {"ammonia above", {"NH3", "1", "0", "0", "200", "", ""}, 50.01, 0, 1},
+              {"ammonia at 50", {"NH3", "1", "0", "0", "200"}, 50, 0, 562.9},
+              {"ammonia above", {"NH3", "1", "0", "0", "200"}, 50.01, 0, 1},
               // 1006.4 - 15.25 - 8.5583 without the second polynomial; with it at 60: 983.1
-              {"water at 61", {"H2O", "1", "0", "0", "400", "", ""}, 61, 0, 982.6},
-              {"water at 60", {"H2O", "1", "0", "0", "400", "", ""}, 60, 0, 983.2},
-              {"water at 230", {"H2O", "1", "0", "0", "400", "", ""}, 230, 0, 827.2},
-              {"water above", {"H2O", "1", "0", "0", "400", "", ""}, 230.1, 0, 1},
-              {"unknown code", {"4", "1", "1", "1", "1", "", ""}, 20, 0, 0},
-              {"blank code", {"", "1", "1", "1", "1", "", ""}, 20, 0, 0},
+              {"water at 61", {"H2O", "1", "0", "0", "400"}, 61, 0, 982.6},
+              {"water at 60", {"H2O", "1", "0", "0", "400"}, 60, 0, 983.2},
+              {"water at 230", {"H2O", "1", "0", "0", "400"}, 230, 0, 827.2},
+              {"water above", {"H2O", "1", "0", "0", "400"}, 230.1, 0, 1},
+              {"unknown code", {"4", "1", "1", "1", "1"}, 20, 0, 0},
               {"beyond a blank end", {"1", "900", "0", "0", "0", "0", ""}, 1e3, 0, 900},
               {"swapped ends", {"1", "900", "0", "0", "0", "50", "10"}, 20, 0, 900},
               {"at an end", {"1", "900", "0", "0", "0", "20", "50"}, 20, 0, 900}};
@@ -328,19 +295,18 @@ TEST(EstimateLiquidViscosity, EquationsByHand) {
     double celsius;
     int unit;
     double viscosity;
-  } rows[] = {
-      {"cubic", {"1", "2", "-0.01", "0.001", "0.0001", "", ""}, 10, 0, 2.1},
-      {"exponential", {"2", "0.5", "200", "80", "0", "", ""}, 20, 0, 3.695},  // e^2 / 2
-      {"quotient", {"3", "0.01", "0.001", "3", "0", "", ""}, 10, 0, 2.5},
-      {"in cSt", {"3", "0.01", "0.001", "3", "0", "", ""}, 10, 2, 3.125},
-      {"0 degC, unrounded, no range, no cSt",
-       {"1", "1.23456", "1", "1", "1", "5", "9"},
-       0,
-       2,
-       1.23456},
-      {"0 degC of another code", {"3", "0.01", "0.001", "1.23456", "0", "", ""}, 0, 0, 1.235},
-      {"unknown code", {"4", "1", "1", "1", "1", "", ""}, 20, 0, 0},
-      {"beyond a blank end", {"1", "2", "0", "0", "0", "10", ""}, 1e3, 0, 2}};
+  } rows[] = {{"cubic", {"1", "2", "-0.01", "0.001", "0.0001"}, 10, 0, 2.1},
+              {"exponential", {"2", "0.5", "200", "80", "0"}, 20, 0, 3.695},  // e^2 / 2
+              {"quotient", {"3", "0.01", "0.001", "3", "0"}, 10, 0, 2.5},
+              {"in cSt", {"3", "0.01", "0.001", "3", "0"}, 10, 2, 3.125},
+              {"0 degC, unrounded, no range, no cSt",
+               {"1", "1.23456", "1", "", "", "5", "9"},
+               0,
+               2,
+               1.23456},
+              {"0 degC of another code", {"3", "0.01", "0.001", "1.23456", "0"}, 0, 0, 1.235},
+              {"unknown code", {"4", "1", "1", "1", "1"}, 20, 0, 0},
+              {"beyond a blank end", {"1", "2", "0", "0", "0", "10"}, 1e3, 0, 2}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     Bench bench;
@@ -352,7 +318,7 @@ TEST(EstimateLiquidViscosity, EquationsByHand) {
     EXPECT_EQ(bench.LastText(), "");
   }
   Bench bench;
-  Bench::Fill(bench.liquids, kLiquidViscosityCode, {"1", "2", "0", "0", "0", "", ""});
+  Bench::Fill(bench.liquids, kLiquidViscosityCode, {"1", "2", "0", "0", "0"});
   bench.state.viscosityUnit = 2;
   EXPECT_EQ(bench.estimator.EstimateLiquidViscosity(0), 0);  // no density yet
   EXPECT_EQ(bench.LastText(), "");
@@ -381,76 +347,33 @@ TEST(EstimateGasDensity, UnitsByHand) {
 
 // Pc 0.980665 MPa is 10 kgf/cm2.
 TEST(EstimateGasViscosity, EquationsAndHighPressureByHand) {
+  constexpr const char* kPc = "0.980665";
   const struct {
     const char* what;
-    std::initializer_list<const char*> fields;  // M, density, Pc, Tc, Z, code, a to d, range
+    std::initializer_list<const char*> fields;  // Pc, Tc, Z, code, a to d, range
     double celsius, pressure;
     double viscosity;
-    const char* text;
+    const char* text = "";
   } rows[] = {
-      {"cubic",
-       {"", "", "0.980665", "200", "", "1", "0.01", "1e-4", "1e-6", "1e-7", "", ""},
-       10,
-       1,
-       0.0112,
-       ""},
+      {"cubic", {kPc, "200", "", "1", "0.01", "1e-4", "1e-6", "1e-7"}, 10, 1, 0.0112},
       // doubled temperature: 2^1.5 * (273.15 + 100) / (546.3 + 100) * 0.01
-      {"Sutherland",
-       {"", "", "0.980665", "200", "", "2", "0.01", "100", "", "", "", ""},
-       273.15,
-       1,
-       0.0163,
-       ""},
-      {"power",
-       {"", "", "0.980665", "200", "", "3", "0.01", "0.5", "", "", "", ""},
-       273.15,
-       1,
-       0.0141,
-       ""},
+      {"Sutherland", {kPc, "200", "", "2", "0.01", "100"}, 273.15, 1, 0.0163},
+      {"power", {kPc, "200", "", "3", "0.01", "0.5"}, 273.15, 1, 0.0141},
       // 6.3 * (1000 * 10^4 / 100)^(1/6) * 2^1.5 / 2.8
-      {"code 4",
-       {"10", "", "0.980665", "100", "", "4", "", "", "", "", "", ""},
-       -73.15,
-       1,
-       43.3572,
-       ""},
+      {"code 4", {kPc, "100", "", "4"}, -73.15, 1, 43.3572},
       // Tr 2, Pr 15: K = 0.108 * 15 / 4 + 0.85
-      {"at Pr 15",
-       {"", "", "0.980665", "100", "", "1", "1", "", "", "", "", ""},
-       -73.15,
-       150,
-       1.255,
-       ""},
-      {"above Pr 15",
-       {"", "", "0.980665", "100", "", "1", "1", "", "", "", "", ""},
-       -73.15,
-       150.01,
-       1,
-       kHighPressureText},
+      {"at Pr 15", {kPc, "100", "", "1", "1"}, -73.15, 150, 1.255},
+      {"above Pr 15", {kPc, "100", "", "1", "1"}, -73.15, 150.01, 1, kHighPressureText},
       // Tr 1.2: K = 0.108 * 10 / 1.44 + 0.85
-      {"at Tr 1.2",
-       {"", "", "0.980665", "250", "", "1", "1", "", "", "", "", ""},
-       26.85,
-       100,
-       1.6,
-       ""},
-      {"below Tr 1.2",
-       {"", "", "0.980665", "250", "", "1", "1", "", "", "", "", ""},
-       26.84,
-       100,
-       1,
-       kHighPressureText},
-      {"0 degC",
-       {"", "", "", "", "", "2", "0.012345678", "1", "", "", "5", "9"},
-       0,
-       500,
-       0.012345678,
-       ""},
-      {"no critical data", {"", "", "", "", "", "1", "1", "", "", "", "", ""}, 20, 1, 0, ""}};
+      {"at Tr 1.2", {kPc, "250", "", "1", "1"}, 26.85, 100, 1.6},
+      {"below Tr 1.2", {kPc, "250", "", "1", "1"}, 26.84, 100, 1, kHighPressureText},
+      {"0 degC", {"", "", "", "2", "0.012345678", "1", "", "", "5", "9"}, 0, 500, 0.012345678},
+      {"no critical data", {"", "", "", "1", "1"}, 20, 1, 0}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     Bench bench;
-    Bench::Fill(bench.gases, kGasMolecularWeight, row.fields);
+    bench.gases.fluids[0][kGasMolecularWeight] = std::string("10");
+    Bench::Fill(bench.gases, kGasCriticalPressure, row.fields);
     bench.state.temperatureC = row.celsius;
     bench.state.pressureAbs = row.pressure;
     const auto viscosity = bench.estimator.EstimateGasViscosity(0);
@@ -492,9 +415,6 @@ TEST(GeneralizedCompressibility, BranchesByHand) {
                 row.z, 2e-5);
     EXPECT_EQ(bench.LastText(), row.text);
   }
-  Bench bench;
-  EXPECT_EQ(bench.estimator.GeneralizedCompressibility(1, 300, 0, 200), 0);
-  EXPECT_EQ(bench.LastText(), "");
 }
 
 // From the virial coefficients of Dymond and Smith, cm3/mol: methane at 298 K, B = -42.8, C = 2450;
@@ -537,15 +457,6 @@ TEST(EstimateCompressibility, RatioDividesTheUnroundedFactor) {
       EXPECT_EQ(bench.LastText(), "圧縮係数推算式は、Pr=1.0 以上をサポートしておりません。  Pr= 1");
     }
   }
-  // Without a normal factor it comes from the equation: Pr 0.103323, Tr 0.931771 at 0 degC.
-  Bench bench;
-  Bench::Fill(bench.gases, kGasCriticalPressure, {"0.980665", "100", ""});
-  bench.state.temperatureK = 273.15;
-  EXPECT_NEAR(bench.estimator.EstimateCompressibilityRatio(0), 1, 1e-9);
-  bench.gases.fluids[0][kGasCriticalTemperature] = "";
-  EXPECT_EQ(bench.estimator.EstimateCompressibility(0), 0);
-  EXPECT_EQ(bench.estimator.EstimateCompressibilityRatio(0), 0);
-  EXPECT_EQ(bench.LastText(), "");
 }
 
 TEST(EstimateIsentropicExponent, EquationsByHand) {
@@ -606,95 +517,59 @@ TEST(LiquidCriticalPressureInUnit, RoundsByUnit) {
 }
 
 TEST(PropertyEstimator, TellsWhyThereIsNoValue) {
-  using Routine = Real (*)(PropertyEstimator&);
-  const Routine liquidDensity = [](PropertyEstimator& e) { return *e.EstimateLiquidDensity(0); };
-  const Routine liquidViscosity = [](PropertyEstimator& e) { return e.EstimateLiquidViscosity(0); };
-  const Routine gasViscosity = [](PropertyEstimator& e) { return *e.EstimateGasViscosity(0); };
-  const Routine exponent = [](PropertyEstimator& e) { return e.EstimateIsentropicExponent(0); };
-  const Routine vapour = [](PropertyEstimator& e) { return e.EstimateVapourPressure(0); };
-  const struct {
-    Routine routine;
+  struct Routine {
     bool gas;
-    int field;
+    int field;  // that the cells are filled from
+    Real (*estimate)(PropertyEstimator&);
+  };
+  using E = PropertyEstimator;
+  const Routine density{false, 1, [](E& e) { return *e.EstimateLiquidDensity(0); }};
+  const Routine viscosity{false, 8, [](E& e) { return e.EstimateLiquidViscosity(0); }};
+  const Routine vapour{false, 16, [](E& e) { return e.EstimateVapourPressure(0); }};
+  const Routine gasViscosity{true, 3, [](E& e) { return *e.EstimateGasViscosity(0); }};
+  const Routine exponent{true, 13, [](E& e) { return e.EstimateIsentropicExponent(0); }};
+  const std::string kDensityRange = "密度推算式の適用温度範囲は";
+  const std::string kViscosityRange = "粘性係数推算式の適用温度範囲は";
+  const std::string kExponentRange = "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式の適用温度範囲は";
+  const std::string kNoViscosity = "粘性係数推算式が登録されていません。";
+  const std::string kBadArgument = "プロシージャの呼び出し、または引数が不正です。";
+  const struct {
+    const Routine& routine;
     std::initializer_list<const char*> fields;
     double celsius;
-    const char* text;
-  } rows[] = {
-      {liquidDensity, false, 1, {kBlank}, 20, "密度推算式が登録されていません。"},
-      {liquidDensity,
-       false,
-       1,
-       {"1", "1", "", "", "", "0", "10.0"},
-       20,
-       "密度推算式の適用温度範囲は0～10.0℃です。"},
-      {liquidDensity,
-       false,
-       1,
-       {"1", "1", "", "", "", "60", "30"},
-       20,
-       "密度推算式の適用温度範囲は30～60℃です。"},
-      {liquidDensity,
-       false,
-       1,
-       {"1", "1", "", "", "", "30", ""},
-       20,
-       "密度推算式の適用温度範囲は30～℃です。"},
-      {liquidViscosity, false, 8, {"0"}, 20, "粘性係数推算式が登録されていません。"},
-      {liquidViscosity, false, 8, {""}, 20, "粘性係数推算式が登録されていません。"},
-      {liquidViscosity,
-       false,
-       8,
-       {"2", "1", "1", "1", "", "1", "9"},
-       0,
-       "粘性係数推算式の適用温度範囲は1～9℃です。"},
-      {gasViscosity, true, 6, {"0"}, 20, "粘性係数推算式が登録されていません。"},
-      {gasViscosity,
-       true,
-       3,
-       {"1", "100", "", "4", "1", "", "", "", "1", "9"},
-       0,
-       "粘性係数推算式の適用温度範囲は1～9℃です。"},
-      {exponent, true, 13, {"0"}, 20, "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式が登録されていません。"},
-      {exponent,
-       true,
-       13,
-       {"1", "9", "", "", "", "-5", kBlank},
-       -6,
-       "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式の適用温度範囲は-5～     (ﾟC)の範囲です。"},
-      {exponent,
-       true,
-       13,
-       {"1", "9", "", "", "", "", ""},
-       20,
-       "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式の適用温度範囲は～(ﾟC)の範囲です。"},
-      {vapour,
-       false,
-       16,
-       {"1", "1", "1", "1", "", "30", "60"},
-       20,
-       "蒸気圧推算式の適用温度範囲は30～60℃です。"},
-      {vapour, false, 16, {"H2O"}, -0.1, "蒸気圧推算式の適用温度範囲 は 0℃以上です。"},
-      // Faults of the arithmetic end in the same place.
-      {liquidDensity, false, 1, {"3", "1", "1", "1", "20", "", ""}, 20, "0 で除算しました。"},
-      {liquidDensity, false, 1, {"NH3", "", "", "", "", "", ""}, -1e39, "オーバーフローしました。"},
-      {liquidViscosity,
-       false,
-       8,
-       {"2", "1", "1e9", "0", "", "", ""},
-       20,
-       "オーバーフローしました。"},
-      {vapour,
-       false,
-       16,
-       {"2", "-1", "", "", "", "", ""},
-       20,
-       "プロシージャの呼び出し、または引数が不正です。"}};
+    std::string text;
+  } rows[] = {{density, {kBlank}, 20, "密度推算式が登録されていません。"},
+              {density, {"1", "1", "", "", "", "0", "10.0"}, 20, kDensityRange + "0～10.0℃です。"},
+              {density, {"1", "1", "", "", "", "60", "30"}, 20, kDensityRange + "30～60℃です。"},
+              {density, {"1", "1", "", "", "", "30", ""}, 20, kDensityRange + "30～℃です。"},
+              {viscosity, {"0"}, 20, kNoViscosity},
+              {viscosity, {"2", "1", "1", "1", "", "1", "9"}, 0, kViscosityRange + "1～9℃です。"},
+              {gasViscosity, {"", "", "", "0"}, 20, kNoViscosity},
+              {gasViscosity,
+               {"1", "9", "", "4", "", "", "", "", "1", "9"},
+               0,
+               kViscosityRange + "1～9℃です。"},
+              {exponent, {"0"}, 20, "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式が登録されていません。"},
+              {exponent,
+               {"1", "9", "", "", "", "-5", kBlank},
+               -6,
+               kExponentRange + "-5～     (ﾟC)の範囲です。"},
+              {exponent, {"1", "9"}, 20, kExponentRange + "～(ﾟC)の範囲です。"},
+              {vapour,
+               {"1", "1", "1", "1", "", "30", "60"},
+               20,
+               "蒸気圧推算式の適用温度範囲は30～60℃です。"},
+              {vapour, {"H2O"}, -0.1, "蒸気圧推算式の適用温度範囲 は 0℃以上です。"},
+              // Faults of the arithmetic end in the same place.
+              {density, {"3", "1", "1", "1", "20"}, 20, "0 で除算しました。"},
+              {viscosity, {"2", "1", "1e9", "0"}, 20, "オーバーフローしました。"},
+              {vapour, {"2", "-1"}, 20, kBadArgument}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text);
     Bench bench;
-    Bench::Fill(row.gas ? bench.gases : bench.liquids, row.field, row.fields);
+    Bench::Fill(row.routine.gas ? bench.gases : bench.liquids, row.routine.field, row.fields);
     bench.At(row.celsius);
-    EXPECT_EQ(row.routine(bench.estimator), 0);
+    EXPECT_EQ(row.routine.estimate(bench.estimator), 0);
     ASSERT_EQ(bench.messages.shown.size(), 1U);
     EXPECT_EQ(bench.messages.shown[0].text, row.text);
     EXPECT_EQ(bench.messages.shown[0].title, "物性推算");
@@ -705,15 +580,9 @@ TEST(PropertyEstimator, SurvivesAWrongIndex) {
   for (const int index : {-1, 1}) {
     Bench bench;
     EXPECT_EQ(bench.estimator.EstimateLiquidDensity(index), Real(0));
-    EXPECT_EQ(bench.estimator.EstimateLiquidViscosity(index), 0);
-    EXPECT_EQ(bench.estimator.EstimateGasDensity(index), 0);
     EXPECT_EQ(bench.estimator.EstimateGasViscosity(index), Real(0));
-    EXPECT_EQ(bench.estimator.EstimateCompressibility(index), 0);
-    EXPECT_EQ(bench.estimator.EstimateCompressibilityRatio(index), 0);
-    EXPECT_EQ(bench.estimator.EstimateIsentropicExponent(index), 0);
-    EXPECT_EQ(bench.estimator.EstimateVapourPressure(index), 0);
     EXPECT_EQ(bench.estimator.LiquidCriticalPressureInUnit(index), 0);
-    const std::vector<std::string> texts(9, "インデックスが有効範囲にありません。");
+    const std::vector<std::string> texts(3, "インデックスが有効範囲にありません。");
     EXPECT_EQ(bench.messages.Texts(), texts);
   }
 }

@@ -17,12 +17,6 @@ ProcessState SteamState(double pressure, double celsius) {
   return state;
 }
 
-SteamViscosityTable Shipped() {
-  SteamViscosityTable table;
-  EXPECT_TRUE(ReadSteamViscosityTable(tests::ShippedFile("Steam.dat"), table));
-  return table;
-}
-
 // IAPWS-IF97, table 35 (300, 500, 600 K), and its saturation line at whole degrees, in MPa.
 TEST(WaterSaturationPressure, AgreesWithIf97) {
   const struct {
@@ -126,9 +120,10 @@ TEST(SteamViscosity, AgreesWithTheInternationalFormulation) {
               {5.521, 900, 0.0442177, 0.006},
               {1.0332, 100, 0.01227, 0.008},
               {10.2, 200, 0.01589, 0.01}};
+  const SteamViscosityTable table = tests::Shipped(ReadSteamViscosityTable, "Steam.dat");
   for (const auto& row : rows) {
     SCOPED_TRACE(row.celsius);
-    EXPECT_NEAR(SteamViscosity(Shipped(), SteamState(row.pressure, row.celsius)), row.viscosity,
+    EXPECT_NEAR(SteamViscosity(table, SteamState(row.pressure, row.celsius)), row.viscosity,
                 row.tolerance * row.viscosity + 5e-5);
   }
 }
@@ -175,17 +170,13 @@ TEST(SteamIsentropicExponent, HasTheSignOfTheSystemAndIsKnownToBeImpossible) {
 
 TEST(SteamIsentropicExponent, ShowsItsFaults) {
   const struct {
-    double pressure, kelvin, density;
+    double pressure, density;
     const char* text;
-  } rows[] = {{0, 473.15, 5, "プロシージャの呼び出し、または引数が不正です。"},
-              {-1, 473.15, 5, "プロシージャの呼び出し、または引数が不正です。"},
-              {10, 0, 5, "プロシージャの呼び出し、または引数が不正です。"},
-              {10, 473.15, 0, "0 で除算しました。"},
-              {1e20, 473.15, 5, "オーバーフローしました。"}};
+  } rows[] = {{0, 5, "プロシージャの呼び出し、または引数が不正です。"},
+              {10, 0, "0 で除算しました。"},
+              {1e20, 5, "オーバーフローしました。"}};
   for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    ProcessState state = SteamState(row.pressure, row.kelvin - 273.15);
-    state.temperatureK = row.kelvin;
+    ProcessState state = SteamState(row.pressure, 200);
     state.densityBase = row.density;
     tests::ScriptedMessages messages;
     EXPECT_FALSE(SteamIsentropicExponent(state, messages));
@@ -210,16 +201,8 @@ TEST(SaturatedWaterVapourDensity, AgreesWithIf97UpTo300Degrees) {
 
 TEST(SteamViscosityTable, RefusesDamagedFiles) {
   const std::string good = tests::ShippedFile("Steam.dat");
-  std::vector<std::string> files = tests::DamagedFiles(good);
-  files.push_back(good + "1");
-  files.push_back("1 2 3 4");
-  files.push_back("1e39" + good.substr(good.find(',')));
-  for (const std::string& bytes : files) {
-    SCOPED_TRACE(bytes.substr(0, 20));
-    SteamViscosityTable table = Shipped();
-    EXPECT_FALSE(ReadSteamViscosityTable(bytes, table));
-    EXPECT_TRUE(table.Empty());
-  }
+  tests::ExpectStrictRefusals(ReadSteamViscosityTable, good,
+                              {"1 2 3 4", "1e39" + good.substr(good.find(','))});
 }
 
 }  // namespace

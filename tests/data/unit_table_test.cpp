@@ -1,19 +1,12 @@
 #include "data/unit_table.h"
 
-#include <set>
-
-#include "common/number.h"
 #include "common/text.h"
 #include "tests/data/shipped_data.h"
 
 namespace data {
 namespace {
 
-UnitTable Shipped() {
-  UnitTable table;
-  EXPECT_TRUE(ReadUnitTable(tests::ShippedFile("単位変換.dat"), table));
-  return table;
-}
+UnitTable Shipped() { return tests::Shipped(ReadUnitTable, "単位変換.dat"); }
 
 std::string Converted(const UnitTable& table, const std::string& category, const std::string& from,
                       const std::string& to, double value) {
@@ -75,43 +68,6 @@ TEST(UnitTable, ShippedFactorsAgreeWithPublishedOnes) {
   }
 }
 
-TEST(UnitTable, ShippedCategoriesAreSound) {
-  for (const UnitCategory& category : Shipped().categories) {
-    SCOPED_TRACE(category.categoryName);
-    EXPECT_LE(common::Cp932Length(category.categoryName), 16);
-    const UnitEntry& base = common::At(category.units, category.baseUnitIndex);
-    EXPECT_EQ(base.factor, 1);
-    EXPECT_EQ(base.offset, 0);
-    std::set<std::string> names;
-    for (const UnitEntry& unit : category.units) {
-      EXPECT_TRUE(names.insert(unit.unitName).second) << unit.unitName;
-      EXPECT_GT(unit.factor, 0) << unit.unitName;
-    }
-  }
-}
-
-// Forth and back through the base, to the six digits of the display. What is shown is rounded half
-// up in the sixth digit, so the way back may differ by one unit of it.
-TEST(UnitTable, EveryUnitComesBack) {
-  for (const UnitCategory& category : Shipped().categories) {
-    for (int unit = 0; unit <= category.LastUnitIndex(); ++unit) {
-      for (const double value : {1.0, 37.5, 640.0}) {
-        SCOPED_TRACE(category.categoryName + " " + common::At(category.units, unit).unitName);
-        std::string there =
-            ConvertUnit(category, unit, category.baseUnitIndex, value).value_or("does not fit");
-        std::erase(there, ',');
-        std::string back = ConvertUnit(category, category.baseUnitIndex, unit, common::Val(there))
-                               .value_or("does not fit");
-        std::erase(back, ',');
-        const UnitEntry& entry = common::At(category.units, unit);
-        // Near the zero of a scale with an offset the digits of the difference count.
-        const double sixthDigit = 1e-5 * (value + std::abs(entry.offset / entry.factor));
-        EXPECT_NEAR(common::Val(back), value, sixthDigit) << there;
-      }
-    }
-  }
-}
-
 UnitCategory Letters(const char* names) {
   UnitCategory category{"c", 0, {}};
   double factor = 1;
@@ -122,6 +78,7 @@ UnitCategory Letters(const char* names) {
   return category;
 }
 
+/// Names in order, and the base's.
 std::string Names(const UnitCategory& category) {
   std::string names;
   for (const UnitEntry& unit : category.units) names += unit.unitName;
@@ -211,15 +168,7 @@ TEST(UnitTable, RefusesWhatExceedsItsLimits) {
     EXPECT_EQ(ReadUnitTable(row.bytes, table), row.accepted);
     EXPECT_EQ(table.Empty(), !row.accepted);
   }
-}
-
-TEST(UnitTable, RefusesDamagedFiles) {
-  for (const std::string& bytes : tests::DamagedFiles(tests::ShippedFile("単位変換.dat"))) {
-    SCOPED_TRACE(bytes.substr(0, 20));
-    UnitTable table = Shipped();
-    EXPECT_FALSE(ReadUnitTable(bytes, table));
-    EXPECT_TRUE(table.Empty());
-  }
+  tests::ExpectStrictRefusals(ReadUnitTable, tests::ShippedFile("単位変換.dat"));
 }
 
 TEST(ConvertUnit, CombinesOffsetsRoundsAndFormats) {

@@ -1,21 +1,14 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include "common/file.h"
 #include "flow/context.h"
 #include "flow/orifice_table.h"
+#include "tests/data/shipped_data.h"
 
 namespace flow {
 
 /// The shipped limits and tables.
 inline const OrificeTable& ShippedTable() {
-  static const OrificeTable kTable = [] {
-    OrificeTable table;
-    EXPECT_TRUE(ReadOrificeTable(common::ReadFile(common::JoinPath(ZEPHA_BUILD_DIR, "Orifice.dat")),
-                                 table));
-    return table;
-  }();
+  static const OrificeTable kTable = tests::Shipped(ReadOrificeTable, "Orifice.dat");
   return kTable;
 }
 

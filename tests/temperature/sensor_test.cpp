@@ -1,9 +1,9 @@
 #include "temperature/sensor.h"
 
-#include <gtest/gtest.h>
+#include <cmath>
 
-#include "common/file.h"
 #include "common/number.h"
+#include "tests/data/shipped_data.h"
 #include "tests/support/scripted_messages.h"
 
 namespace temperature {
@@ -13,18 +13,13 @@ enum Kind { kB, kR, kS, kN, kK, kE, kJ, kT, kPt, kJPt };
 
 class SensorTest : public testing::Test {
  protected:
-  SensorTest() {
-    EXPECT_TRUE(
-        ReadSensorTable(common::ReadFile(common::JoinPath(ZEPHA_BUILD_DIR, "TE.dat")), table));
-  }
-
   double Output(int kind, double t) {
     const auto output = CalcSensorOutput(table, kind, t, messages, "");
     EXPECT_TRUE(output) << kind << " " << t;
     return output.value_or(0);
   }
 
-  SensorTable table;
+  const SensorTable table = tests::Shipped(ReadSensorTable, "TE.dat");
   tests::ScriptedMessages messages;
 };
 
@@ -88,8 +83,23 @@ TEST_F(SensorTest, OldScaleMeetsTheNewOneAtItsFixedPoints) {
   EXPECT_NE(OldScaleTemperature(300), 300);
 }
 
-TEST_F(SensorTest, UnknownKindIsAFault) {
-  EXPECT_THROW(CalcSensorOutput(table, 10, 0, messages, ""), common::RuntimeFault);
+// To 0.1 uV or 0.002 ohm.
+TEST_F(SensorTest, RangesMeetWithoutAStep) {
+  for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
+    const auto& high = common::At(table.rangeHigh, kind);
+    EXPECT_EQ(high[0], common::At(table.rangeLow, kind)[1]);
+    for (const double limit : {high[0], high[1]}) {
+      if (limit == high[2]) continue;
+      EXPECT_NEAR(Output(kind, std::nextafter(limit, -1e9)), Output(kind, limit),
+                  IsResistance(kind) ? 0.002 : 0.1)
+          << kind << " " << limit;
+    }
+  }
+}
+
+TEST(SensorTable, RefusesDamagedFiles) {
+  const std::string good = tests::ShippedFile("TE.dat");
+  tests::ExpectRefusals(ReadSensorTable, good, {"\"x\"," + good});
 }
 
 }  // namespace

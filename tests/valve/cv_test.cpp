@@ -91,13 +91,6 @@ TEST(Sizing, AgreesWithPublishedGasExamples) {
     EXPECT_NEAR(sized->cv * sized->flp / sized->fp, row.cv, row.cv * 0.01);
   }
 }
-// FCI and ISA are fitted to the same valves: at small drops they agree within a few per cent.
-TEST(RequiredCv, BothEquationsAgreeAtSmallDrops) {
-  for (const Service& service : {Water(10, 9.5), Air(10, 9.5), Steam(10, 9.5, 180, 5.05)}) {
-    EXPECT_NEAR(IsaCv(service)->cv / FciCv(service), 1, 0.04) << service.fluidPhase;
-  }
-}
-
 TEST(RequiredCv, TurnsCriticalAtItsLimits) {
   // 12 and 6 are exact, so the limit itself can be met.
   for (const Service& service : {Air(12, 6), Steam(12, 6)}) {
@@ -142,11 +135,10 @@ TEST(RequiredCv, ALiquidNeedsItsVapourData) {
 TEST(Expansion, StaysBetweenItsLimits) {
   Service service = Air(10, 8);
   const double xT = 0.84 * 0.81;
-  service.dP = 9.99;
-  EXPECT_NEAR(ExpansionOf(service, xT).x, xT, 1e-12);
-  EXPECT_EQ(ExpansionOf(service, xT).y, 0.667);  // 2/3 is lifted
-  service.dP = -1;
-  EXPECT_EQ(ExpansionOf(service, xT).y, 0.667);
+  for (const double dP : {9.99, -1.0}) {
+    service.dP = dP;
+    EXPECT_EQ(ExpansionOf(service, xT).y, 0.667);  // 2/3 is lifted
+  }
   EXPECT_THROW(SizeCv(service, Globe(40)), common::RuntimeFault);
 }
 
