@@ -10,6 +10,7 @@
 #include "forms/controls.h"
 #include "shell/duct_file.h"
 #include "shell/instrument_file.h"
+#include "shell/page_recorder.h"
 
 namespace monkey {
 
@@ -58,50 +59,37 @@ void CheckValues(const Json& value, const std::string& where) {
   }
 }
 
-/// A surface on which nothing but finite coordinates and good texts may be drawn.
-class StrictSurface : public forms::DrawSurface {
- public:
-  void SetFont(const std::string&, double size, bool) override { Take({size}); }
-  void SetColor(forms::Color) override {}
-  void SetLineWidth(double width) override { Take({width}); }
-  void Line(double x1, double y1, double x2, double y2) override { Take({x1, y1, x2, y2}); }
-  void DashedLine(double x1, double y1, double x2, double y2) override { Take({x1, y1, x2, y2}); }
-  void Polyline(const std::vector<std::pair<double, double>>& points) override {
-    for (const auto& [x, y] : points) Take({x, y});
-  }
-  void FilledPolygon(const std::vector<std::pair<double, double>>& points) override {
-    Polyline(points);
-  }
-  void Rectangle(double x1, double y1, double x2, double y2) override { Take({x1, y1, x2, y2}); }
-  void FilledRectangle(double x1, double y1, double x2, double y2) override {
-    Take({x1, y1, x2, y2});
-  }
-  void Ellipse(double x, double y, double a, double b) override { Take({x, y, a, b}); }
-  void Text(double x, double y, const std::string& text) override {
-    Take({x, y});
-    CheckText(text, "a picture");
-  }
-  double TextWidth(const std::string& text) override {
-    return 100.0 * static_cast<double>(text.size());
-  }
-  double TextHeight() override { return 200; }
-
- private:
-  static void Take(std::initializer_list<double> numbers) {
+void CheckDrawing(const shell::PageRecorder& drawing) {
+  const auto check = [](std::initializer_list<double> numbers) {
     for (const double number : numbers) {
       if (!std::isfinite(number)) throw Finding{"a picture is drawn at a place that is no number"};
     }
+  };
+  for (const auto& item : drawing.Items()) {
+    if (const auto* const text = std::get_if<shell::PageRecorder::TextItem>(&item)) {
+      check({text->x, text->y, text->size});
+      CheckText(text->text, "a picture");
+    } else if (const auto* const line = std::get_if<shell::PageRecorder::LineItem>(&item)) {
+      for (const auto& [x, y] : line->points) check({x, y, line->pen.width});
+    } else if (const auto* const area = std::get_if<shell::PageRecorder::PolygonItem>(&item)) {
+      for (const auto& [x, y] : area->points) check({x, y});
+    } else if (const auto* const box = std::get_if<shell::PageRecorder::BoxItem>(&item)) {
+      check({box->x1, box->y1, box->x2, box->y2});
+    } else if (const auto* const ring = std::get_if<shell::PageRecorder::EllipseItem>(&item)) {
+      check({ring->x, ring->y, ring->radiusX, ring->radiusY});
+    }
   }
-};
+}
 
 void Paint(const forms::Picture& picture) {
   if (!picture.onPaint || !picture.Visible()) return;
-  StrictSurface surface;
+  shell::PageRecorder drawing;
   try {
-    picture.onPaint(surface);
+    picture.onPaint(drawing);
   } catch (const common::RuntimeFault&) {
     // The window leaves such a picture as far as it came.
   }
+  CheckDrawing(drawing);
 }
 
 void CheckContents(const forms::Control& control, const std::string& where) {

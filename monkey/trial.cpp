@@ -10,12 +10,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <sstream>
 
 #include "checks.h"
 #include "common/file.h"
 #include "folder.h"
 #include "monkey.h"
+#include "tests/support/temporary_folder.h"
 
 namespace monkey {
 
@@ -38,60 +38,25 @@ fs::path BaseFolder() {
   return !told && fs::is_directory(memory) ? memory : fs::temp_directory_path();
 }
 
-/// A folder that goes with its object.
-class PassingFolder {
- public:
-  PassingFolder() {
-    std::string name = (BaseFolder() / "zepha-monkey-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder " + name);
-    path_ = name;
-  }
-  ~PassingFolder() {
-    std::error_code error;
-    fs::remove_all(path_, error);
-  }
-  PassingFolder(const PassingFolder&) = delete;
-  PassingFolder& operator=(const PassingFolder&) = delete;
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
-
-void WriteTally(const Tally& tally, std::ostream& out) {
-  out << "events " << tally.events << '\n';
-  for (const auto& [name, count] : tally.touched) out << "touched " << count << ' ' << name << '\n';
-  for (const auto& [name, count] : tally.counts) out << "count " << count << ' ' << name << '\n';
-  for (const auto& [text, count] : tally.faults) {
-    std::string name = text;
-    std::replace(name.begin(), name.end(), '\n', ' ');
-    out << "fault " << count << ' ' << name << '\n';
-  }
-  out << "slowest " << tally.slowestSeconds << ' ' << tally.slowestLine << '\n';
+std::string ResultText(const std::string& finding, const Tally& tally) {
+  const headless::Json result = {{"found", finding},         {"events", tally.events},
+                                 {"touched", tally.touched}, {"counts", tally.counts},
+                                 {"faults", tally.faults},   {"seconds", tally.slowestSeconds},
+                                 {"line", tally.slowestLine}};
+  return result.dump(-1, ' ', false, headless::Json::error_handler_t::replace);
 }
 
-void ReadResult(std::istream& in, TrialResult& result) {
-  for (std::string line; std::getline(in, line);) {
-    std::istringstream words(line);
-    std::string what, rest;
-    words >> what;
-    if (what == "found") {
-      std::getline(words >> std::ws, result.finding);
-      continue;
-    }
-    double number = 0;
-    words >> number;
-    std::getline(words >> std::ws, rest);
-    const long count = static_cast<long>(number);
-    if (what == "events") result.tally.events = count;
-    if (what == "touched") result.tally.touched[rest] = count;
-    if (what == "count") result.tally.counts[rest] = count;
-    if (what == "fault") result.tally.faults[rest] = count;
-    if (what == "slowest") {
-      result.tally.slowestSeconds = number;
-      result.tally.slowestLine = rest;
-    }
-  }
+/// Nothing when the process died before it wrote a result.
+void ReadResult(const std::string& text, TrialResult& result) {
+  const headless::Json read = headless::Json::parse(text, nullptr, false);
+  if (read.is_discarded()) return;
+  read.at("found").get_to(result.finding);
+  read.at("events").get_to(result.tally.events);
+  read.at("touched").get_to(result.tally.touched);
+  read.at("counts").get_to(result.tally.counts);
+  read.at("faults").get_to(result.tally.faults);
+  read.at("seconds").get_to(result.tally.slowestSeconds);
+  read.at("line").get_to(result.tally.slowestLine);
 }
 
 std::vector<std::string> LinesOf(const fs::path& path) {
@@ -105,25 +70,19 @@ std::vector<std::string> LinesOf(const fs::path& path) {
 [[noreturn]] void Play(Random& random, bool sound,
                        const std::function<void(const TrialStage&)>& perform) {
   std::ofstream script(kScript);
-  std::ofstream result(kResult);
   Tally tally;
-  int end = 0;
+  std::string found;
   try {
     perform({random, sound, tally, [&script](const std::string& line) {
                script << line << '\n' << std::flush;
              }});
   } catch (const Finding& finding) {
-    std::string what = finding.what;
-    std::replace(what.begin(), what.end(), '\n', ' ');
-    result << "found " << what << '\n';
-    end = kFound;
+    found = finding.what;
   } catch (const std::exception& failure) {
-    result << "found an exception leaves the program: " << failure.what() << '\n';
-    end = kFound;
+    found = std::string("an exception leaves the program: ") + failure.what();
   }
-  WriteTally(tally, result);
-  result.flush();
-  _exit(end);
+  common::WriteFile(kResult, ResultText(found, tally));
+  _exit(found.empty() ? 0 : kFound);
 }
 
 std::string HowItEnded(int status) {
@@ -147,15 +106,16 @@ std::string KindOf(const std::string& finding) {
 }  // namespace
 
 TrialResult RunTrial(const TrialPlan& plan, const std::function<void(const TrialStage&)>& perform) {
-  const PassingFolder folder;
+  const tests::TemporaryFolder own(BaseFolder());
+  const fs::path folder = own.Path();
   Random random(plan.seed, plan.number);
-  const bool sound = FillFolder(folder.Path(), random);
+  const bool sound = FillFolder(folder, random);
   const pid_t child = fork();
   if (child < 0) throw std::runtime_error("no process for a trial");
   if (child == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    fs::current_path(folder.Path());
-    setenv("TMPDIR", (folder.Path() / "tmp").c_str(), 1);
+    fs::current_path(folder);
+    setenv("TMPDIR", (folder / "tmp").c_str(), 1);
     const int report = open(kReport, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     dup2(report, STDOUT_FILENO);
     dup2(report, STDERR_FILENO);
@@ -164,13 +124,14 @@ TrialResult RunTrial(const TrialPlan& plan, const std::function<void(const Trial
   int status = 0;
   while (waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
   TrialResult result;
-  std::ifstream file(folder.Path() / kResult);
-  ReadResult(file, result);
-  result.lines = LinesOf(folder.Path() / kScript);
+  if (const fs::path file = folder / kResult; fs::exists(file)) {
+    ReadResult(common::ReadFile(file.string()), result);
+  }
+  result.lines = LinesOf(folder / kScript);
   if (result.finding.empty() && status != 0) {
     result.finding = HowItEnded(status);
     result.tally.events = static_cast<long>(result.lines.size());
-    result.report = common::ReadFile((folder.Path() / kReport).string());
+    result.report = common::ReadFile((folder / kReport).string());
   }
   return result;
 }

@@ -23,7 +23,7 @@ void Wheel(QWidget& widget) {
 }
 
 TEST_F(Choices, ComboPicksByKeyAndNotByWheel) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& combo = Find<QComboBox>(sheet, "cbo圧力単位");
   int clicks = 0;
   sheet.cbo圧力単位.onClick = [&] { ++clicks; };
@@ -34,14 +34,14 @@ TEST_F(Choices, ComboPicksByKeyAndNotByWheel) {
   EXPECT_EQ(combo.currentIndex(), 1);
   EXPECT_EQ(clicks, 1);
   sheet.cbo圧力単位.SetIndex(3);
-  EXPECT_EQ(combo.currentText(), QStringLiteral("kgf/cm2abs"));
+  EXPECT_EQ(combo.currentText(), QString::fromStdString(sheet.cbo圧力単位.Items()[3]));
   sheet.cbo圧力単位.SetItems({"bar"});
   EXPECT_EQ(combo.count(), 1);
   EXPECT_EQ(combo.currentIndex(), -1);
 }
 
 TEST_F(Choices, ComboReportsAPickOfTheSelectedEntryOnce) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& combo = Find<QComboBox>(sheet, "cbo温度単位");
   int clicks = 0;
   sheet.cbo温度単位.onClick = [&] { ++clicks; };
@@ -61,7 +61,7 @@ TEST_F(Choices, EditableComboTakesTexts) {
 }
 
 TEST_F(Choices, OneOfShowsTheVisibleControlInTheSamePlace) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& liquid = Find<QComboBox>(sheet, "cbo流量単位L");
   auto& gas = Find<QComboBox>(sheet, "cbo流量単位G");
   EXPECT_TRUE(liquid.isVisible());
@@ -77,7 +77,7 @@ TEST_F(Choices, OneOfShowsTheVisibleControlInTheSamePlace) {
 }
 
 TEST_F(Choices, OptionsExcludeEachOtherByMouseKeyAndCode) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& toBore = Find<QRadioButton>(sheet, "opt差圧→絞り径");
   auto& toDifferential = Find<QRadioButton>(sheet, "opt絞り径→差圧");
   int clicks = 0;
@@ -95,11 +95,11 @@ TEST_F(Choices, OptionsExcludeEachOtherByMouseKeyAndCode) {
 }
 
 TEST_F(Choices, CheckBoxFollowsBothWays) {
-  DemoSheet& sheet = ShowSheet();
-  auto& check = Find<QCheckBox>(sheet, "chkドレン");
+  DemoDialog& dialog = ShowDialog();
+  auto& check = Find<QCheckBox>(dialog, "chkドレン");
   QTest::keyClick(&check, Qt::Key_Space);
-  EXPECT_TRUE(sheet.chkドレン.Checked());
-  sheet.chkドレン.SetChecked(false);
+  EXPECT_TRUE(dialog.chkドレン.Checked());
+  dialog.chkドレン.SetChecked(false);
   EXPECT_FALSE(check.isChecked());
 }
 
@@ -148,9 +148,10 @@ TEST_F(Choices, RightButtonTakesTheLineUnderItAlong) {
 }
 
 TEST_F(Choices, FixedPitchListKeepsItsColumns) {
-  auto& tool = dynamic_cast<DemoTool&>(forms_.Show("frmDemoTool"));
+  commands_.DropFile(ZEPHA_SOURCE_DIR "/samples/plant.zph");
+  const forms::Form& tool = forms_.Show("frmTagList");
   QApplication::processEvents();
-  auto& list = Find<QListWidget>(tool, "lst一覧");
+  auto& list = Find<QListWidget>(tool, "lstTagNo");
   QWidget& window = *presenter_.ViewOf(tool)->window();
   for (const double share : {0.6, 1.0, 1.17, 1.5}) {
     SCOPED_TRACE(share);

@@ -107,7 +107,7 @@ TEST_F(MainWindowTest, GrowsForASheetOnlyFromASizeOfItsOwn) {
       commands_.Place({105, 105, row.twips.width(), row.twips.height(), State::kNormal});
       const QSize before = window_->size();
       QApplication::processEvents();
-      DemoSheet& sheet = ShowSheet();
+      auto& sheet = ShowSheet();
       EXPECT_EQ(window_->size() != before, row.grows);
       window_->show();
       QApplication::processEvents();
@@ -152,7 +152,7 @@ TEST_F(MainWindowTest, SubmenuFollowsItsEntries) {
 TEST_F(MainWindowTest, TakesInstrumentFilesDroppedAnywhere) {
   std::string dropped;
   commands_.onFileDropped = [&](const std::string& path) { dropped = path; };
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   QWidget* const targets[] = {window_.get(), window_->Area().viewport(),
                               &Find<QLineEdit>(sheet, "txtTagNo"),
                               presenter_.ViewOf(sheet)->viewport()};
@@ -189,7 +189,7 @@ TEST_F(MainWindowTest, TellsHowToBeginWhileNoSheetIsOpen) {
     return false;
   };
   EXPECT_TRUE(inked());
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   EXPECT_TRUE(window_->Area().AnySheet());
   QWidget* const shown = presenter_.ViewOf(sheet)->window();
   EXPECT_EQ(shown, window_.get());

@@ -21,52 +21,34 @@
 #include "desktop/platform.h"
 #include "sheets/frm_preview.h"
 #include "sheets/frm_print_all.h"
-#include "sheets/workbench.h"
 #include "shell/tag_commands.h"
 
 namespace desktop {
 namespace {
 
-/// The real workbench on the sample plant, with a scripted file box.
-class Paper : public testing::Test {
+/// A tag of the sample plant on its sheet, with the paper of the desktop.
+class Paper : public Desk {
  protected:
-  class FilePresenter : public RecordingPresenter {
-   public:
-    std::string file;
-    std::optional<std::string> AskFile(const forms::FileQuestion&) override { return file; }
-  };
-
   Paper() {
-    presenter_.Attach(window_, bench_.Forms());
-    window_.resize(1280, 800);
-    window_.show();
-    bench_.Start();
-    shell::OpenFileNamed(bench_.Space(), ZEPHA_SOURCE_DIR "/samples/plant.zph");
+    bench_.Space().platform = &platform_;
+    window_->resize(1280, 800);
+    commands_.DropFile(ZEPHA_SOURCE_DIR "/samples/plant.zph");
     bench_.Space().tags.SelectLine(0);
     shell::RecallSelectedTag(bench_.Space());
     QApplication::processEvents();
   }
-  ~Paper() override { presenter_.CloseAll(); }
 
   template <class Widget>
   Widget& Find(const char* name) {
-    const FormView* const view = presenter_.ViewOf(*bench_.Forms().Active());
-    auto* const widget = view->findChild<Widget*>(QString::fromUtf8(name));
-    if (widget == nullptr) throw std::logic_error(name);
-    return *widget;
+    return Desk::Find<Widget>(*forms_.Active(), name);
   }
-  std::string Temporary(const char* name) { return folder_.filePath(name).toStdString(); }
 
   QTemporaryDir folder_;
-  FilePresenter presenter_;
   QtPlatform platform_{presenter_};
-  shell::MemorySettings settings_;
-  sheets::Workbench bench_{presenter_, ZEPHA_BUILD_DIR, settings_, &platform_};
-  MainWindow window_{bench_.Window()};
 };
 
 TEST_F(Paper, PreviewShowsThePageAndScrolls) {
-  bench_.Window().Run("mnuPreview");
+  commands_.Run("mnuPreview");
   QApplication::processEvents();
   auto& page = Find<QWidget>("picPage");
   auto& bar = Find<QScrollBar>("VScroll1");
@@ -86,20 +68,20 @@ TEST_F(Paper, PreviewShowsThePageAndScrolls) {
   EXPECT_EQ(bar.value(), 3 * 340);
   QTest::mouseClick(&Find<QPushButton>("cmdClose"), Qt::LeftButton);
   QTest::qWait(1);
-  EXPECT_EQ(bench_.Forms().Find("frmPreview"), nullptr);
+  EXPECT_EQ(forms_.Find("frmPreview"), nullptr);
 }
 
 TEST_F(Paper, MarkedTagsGoIntoOnePdf) {
-  bench_.Window().Run("mnuPrintAll");
+  commands_.Run("mnuPrintAll");
   QApplication::processEvents();
   auto& list = Find<QListWidget>("lstTag");
   ASSERT_EQ(list.count(), bench_.Space().tags.TagCount());
   list.setFocus();
   list.setCurrentRow(0);
   QTest::keyClick(&list, Qt::Key_Space);  // takes the mark of the first tag
-  auto* const form = dynamic_cast<sheets::frm一括印刷*>(bench_.Forms().Active());
+  auto* const form = dynamic_cast<sheets::frm一括印刷*>(forms_.Active());
   EXPECT_FALSE(form->lstTag.Marked(0));
-  presenter_.file = Temporary("tags.pdf");
+  presenter_.file = folder_.filePath("tags.pdf").toStdString();
   QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !presenter_.messages.empty(); }));
   EXPECT_EQ(presenter_.messages,
@@ -109,9 +91,9 @@ TEST_F(Paper, MarkedTagsGoIntoOnePdf) {
 }
 
 TEST_F(Paper, StoppedPrintingLeavesNoFile) {
-  bench_.Window().Run("mnuPrintAll");
+  commands_.Run("mnuPrintAll");
   QApplication::processEvents();
-  presenter_.file = Temporary("stopped.pdf");
+  presenter_.file = folder_.filePath("stopped.pdf").toStdString();
   QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
   QTest::mouseClick(&Find<QPushButton>("cmdCancel"), Qt::LeftButton);
@@ -121,13 +103,13 @@ TEST_F(Paper, StoppedPrintingLeavesNoFile) {
   // Closing the window in the middle ends the work as well.
   QTest::mouseClick(&Find<QPushButton>("cmdPDF"), Qt::LeftButton);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
-  bench_.Forms().Unload(*bench_.Forms().Active());
+  forms_.Unload(*forms_.Active());
   QTest::qWait(20);
   EXPECT_FALSE(QFileInfo::exists(folder_.filePath("stopped.pdf")));
 }
 
 TEST_F(Paper, RecalculationRunsBetweenEventsAndStops) {
-  bench_.Window().Run("mnuRecalculate");
+  commands_.Run("mnuRecalculate");
   EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("prg進行").value() > 0; }));
   EXPECT_FALSE(Find<QPushButton>("cmd再計算").isEnabled());
   QTest::mouseClick(&Find<QPushButton>("cmdCancel"), Qt::LeftButton);
@@ -159,17 +141,17 @@ void AnswerPrinterDialogue(const QString& file) {
 
 TEST_F(Paper, PrinterDialogueOffersAFileWhereThereIsNoPrinter) {
   AnswerPrinterDialogue({});
-  bench_.Window().Run("mnuPrint");
+  commands_.Run("mnuPrint");
   EXPECT_TRUE(presenter_.messages.empty());
   const QString path = folder_.filePath("printed.pdf");
   AnswerPrinterDialogue(path);
-  bench_.Window().Run("mnuPrint");
+  commands_.Run("mnuPrint");
   EXPECT_TRUE(presenter_.messages.empty());
   EXPECT_GT(QFileInfo(path).size(), 5000);
   const QString image = folder_.filePath("image.pdf");
-  bench_.Window().SetCommandEnabled("mnuHCopy", true);
+  commands_.SetCommandEnabled("mnuHCopy", true);
   AnswerPrinterDialogue(image);
-  bench_.Window().Run("mnuHCopy");
+  commands_.Run("mnuHCopy");
   EXPECT_GT(QFileInfo(image).size(), 5000);
 }
 
@@ -195,17 +177,17 @@ class FileSizeLimit {
 
 TEST_F(Paper, PrintingIntoAFileTellsOfAFullDisk) {
   const FileSizeLimit limit(8192);
-  bench_.Window().SetCommandEnabled("mnuHCopy", true);
+  commands_.SetCommandEnabled("mnuHCopy", true);
   for (const char* command : {"mnuPrint", "mnuHCopy"}) {
     AnswerPrinterDialogue(folder_.filePath(command));
-    bench_.Window().Run(command);
+    commands_.Run(command);
   }
   EXPECT_EQ(presenter_.messages,
             std::vector<std::string>(
                 2, "印刷できませんでした。プリンタまたは保存先を確認してください。"));
   presenter_.messages.clear();
   AnswerPrinterDialogue(folder_.filePath("none/printed.pdf"));
-  bench_.Window().Run("mnuPrint");
+  commands_.Run("mnuPrint");
   EXPECT_EQ(
       presenter_.messages,
       std::vector<std::string>{"印刷を開始できません。プリンタまたは保存先を確認してください。"});

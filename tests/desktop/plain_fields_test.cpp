@@ -16,7 +16,7 @@ namespace {
 class PlainFields : public Desk {};
 
 TEST_F(PlainFields, LabelShowsColourAndTakesClicks) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& label = Find<QLabel>(sheet, "lbl密度");
   int clicks = 0;
   sheet.lbl密度.onClick = [&] { ++clicks; };
@@ -27,25 +27,25 @@ TEST_F(PlainFields, LabelShowsColourAndTakesClicks) {
   QTest::mouseClick(&label, Qt::LeftButton);
   EXPECT_EQ(clicks, 1);
 
-  auto& verdict = Find<QLabel>(sheet, "lbl判定");
-  sheet.lbl判定.SetForeColor(forms::kRed);
+  auto& verdict = Find<QLabel>(sheet, "lbl永久圧損R");
+  sheet.lbl永久圧損R.SetForeColor(forms::kRed);
   const QColor red = verdict.palette().color(QPalette::WindowText);
   EXPECT_GT(red.red(), red.green() + 80);
-  sheet.lbl判定.SetForeColor(forms::kBlack);
+  sheet.lbl永久圧損R.SetForeColor(forms::kBlack);
   EXPECT_EQ(verdict.palette().color(QPalette::WindowText), Theme::Current().text);
 }
 
 TEST_F(PlainFields, LongResultIsNeverCut) {
-  DemoSheet& sheet = ShowSheet();
-  auto& label = Find<QLabel>(sheet, "lblMaxReynolds");
-  sheet.lblMaxReynolds.SetText("123,456,789,012,345,678,901,234");
+  DemoDialog& dialog = ShowDialog();
+  auto& label = Find<QLabel>(dialog, "lbl結果");
+  dialog.lbl結果.SetText("123,456,789,012,345,678,901,234");
   QApplication::processEvents();
   const int textWidth = label.fontMetrics().horizontalAdvance(label.text());
   EXPECT_GE(label.width(), textWidth);
 }
 
 TEST_F(PlainFields, ButtonClicksByMouseSpaceAndEnter) {
-  DemoSheet& sheet = ShowSheet();
+  auto& sheet = ShowSheet();
   auto& button = Find<QPushButton>(sheet, "cmd計算");
   int clicks = 0;
   sheet.cmd計算.onClick = [&] { ++clicks; };

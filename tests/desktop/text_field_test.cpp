@@ -10,7 +10,7 @@ namespace {
 
 class TextField : public Desk {
  protected:
-  DemoSheet& sheet_ = ShowSheet();
+  sheets::frmOrifice& sheet_ = ShowSheet();
   QLineEdit& flow_ = Find<QLineEdit>(sheet_, "txt目盛流量");
   QLineEdit& tag_ = Find<QLineEdit>(sheet_, "txtTagNo");
 };
@@ -95,9 +95,11 @@ TEST_F(TextField, ShowsStateAndSpeaksItsUnit) {
   EXPECT_FALSE(Find<QLineEdit>(sheet_, "txt相対湿度").isEnabled());
   sheet_.txt目盛流量.SetToolTip("a <b> c");
   EXPECT_FALSE(flow_.toolTip().contains(QLatin1String("<b>")));
-  EXPECT_EQ(flow_.accessibleName(), QStringLiteral("最大目盛流量 m3/h"));
+  EXPECT_EQ(flow_.accessibleName(),
+            QString::fromStdString("目盛流量 " + sheet_.cbo流量単位L.Items()[0]));
   sheet_.cbo流量単位L.Pick(3);
-  EXPECT_EQ(flow_.accessibleName(), QStringLiteral("最大目盛流量 kg/h"));
+  EXPECT_EQ(flow_.accessibleName(),
+            QString::fromStdString("目盛流量 " + sheet_.cbo流量単位L.Items()[3]));
   EXPECT_TRUE(flow_.alignment().testFlag(Qt::AlignRight));
 }
 

@@ -25,21 +25,6 @@ class DriverTest : public testing::Test {
   Driver driver{ZEPHA_BUILD_DIR, settings};
 };
 
-TEST_F(DriverTest, SizesAnOrificeFromAScript) {
-  for (const char* line : {"open ⊿P Flow", "type txt目盛流量 20000", "type txt常用流量 15000",
-                           "type txt圧力 500", "type txt温度 20", "dblclick txt密度",
-                           "pick lst物性推算 = 水", "click cmd全物性", "pick cbo配管呼称径 =4in",
-                           "pick cboSchedule =Sch40", "type txt設計差圧 25", "click cmd計算"}) {
-    const Json answer = Do(line);
-    EXPECT_TRUE(answer["ok"]) << answer.dump();
-  }
-  const Json bore = Do("get lbl絞り径結果R");
-  EXPECT_EQ(bore["kind"], "label");
-  EXPECT_NEAR(std::stod(bore["text"].get<std::string>()), 40.5, 0.1);
-  EXPECT_EQ(Do("workspace")["CalcDone"], true);
-  EXPECT_FALSE(driver.Misunderstood());
-}
-
 TEST_F(DriverTest, NamesWhatItDoesNotKnow) {
   const struct {
     const char* line;
@@ -97,30 +82,6 @@ TEST_F(DriverTest, AnswersQuestionsFromTheQueue) {
   EXPECT_EQ(refused["messages"][0]["icon"], "critical");
   EXPECT_EQ(Do("click cmd計算")["messages"][0]["answer"], "yes");
   EXPECT_EQ(Do("get lbl外挿")["text"], "（外挿計算）");
-}
-
-TEST_F(DriverTest, RegistersSavesAndLoads) {
-  const std::string path = testing::TempDir() + "driver run.zph";
-  for (const std::string& line :
-       {std::string("open ⊿P Flow"), std::string("type txtTagNo FE-1"), std::string("register"),
-        "file " + path, std::string("menu mnuSave"), std::string("menu mnuNewFileOpen")}) {
-    EXPECT_TRUE(Do(line)["ok"]) << line;
-  }
-  EXPECT_EQ(Do("workspace")["TagCount"], 0);
-  Do("file");
-  Do("menu mnuOpen");
-  EXPECT_EQ(Do("workspace")["TagCount"], 0);
-  Do("file " + path);
-  Do("menu mnuOpen");
-  const Json state = Do("workspace");
-  EXPECT_EQ(state["TagCount"], 1);
-  EXPECT_EQ(state["ZephaFileName"], path);
-  EXPECT_EQ(Do("row 1")["row"][50], "⊿P Flow");
-  EXPECT_EQ(Do("row 1")["row"].size(), 51U);
-  EXPECT_TRUE(Do("recall 1")["ok"]);
-  Do("open ⊿P Flow");
-  EXPECT_EQ(Do("get frmOrifice!txtTagNo")["text"], "FE-1");
-  std::remove(path.c_str());
 }
 
 TEST_F(DriverTest, DumpsTheActiveForm) {

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "common/file.h"
-#include "tests/shell/data_folder.h"
+#include "tests/support/data_folder.h"
 #include "tests/support/program.h"
 
 namespace {

@@ -9,9 +9,9 @@
 #include "shell/instrument_file.h"
 #include "shell/settings.h"
 #include "shell/tables.h"
-#include "tests/shell/temporary_folder.h"
 #include "tests/support/program.h"
 #include "tests/support/scripted_messages.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 

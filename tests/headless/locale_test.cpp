@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "common/file.h"
-#include "tests/shell/temporary_folder.h"
+#include "tests/support/data_folder.h"
 #include "tests/support/program.h"
 
 namespace {
@@ -18,20 +18,15 @@ struct Results {
 
 class Locales : public testing::Test {
  protected:
-  Locales() {
-    fs::create_directories(place + "/データ");
-    for (const auto& entry : fs::directory_iterator(ZEPHA_BUILD_DIR)) {
-      if (entry.path().extension() == ".dat") fs::copy(entry.path(), place + "/データ");
-    }
-  }
+  Locales() { fs::create_directories(place); }
 
   /// Enters and calculates the whole sample plant, prints and exports it, and calculates and saves
   /// on: what writes pages takes up the locale.
   Results Run(const std::string& name) {
     tests::Surroundings around;
     around.environment = {{"LC_ALL", name}, {"LANG", name}, {"LOCPATH", definitions}};
-    tests::Program program(
-        {"--install-dir", place + "/データ", "--settings", place + "/設定 (1).ini"}, around);
+    tests::Program program({"--install-dir", data.Path(), "--settings", place + "/設定 (1).ini"},
+                           around);
     Results results;
     const auto run = [&](const std::string& line) {
       results.answers.push_back(program.Do(line).dump());
@@ -70,6 +65,7 @@ class Locales : public testing::Test {
     return bytes;
   }
 
+  const tests::DataFolder data;
   const tests::TemporaryFolder folder;
   const std::string place = folder / "計器 データ (1)";
   const std::string definitions = folder / "locales";

@@ -12,11 +12,8 @@ namespace {
 
 class CvTest : public SheetTest {
  protected:
-  static constexpr int kLiquid = 0, kGas = 1, kSteam = 2;
-
   CvTest() { bench.Window().Run("mnuControlValve"); }
 
-  double Number(const std::string& name) { return common::Val(Text(name)); }
   /// Entries "name=value": texts are typed, lists picked by index.
   void Enter(const std::string& entries) {
     std::istringstream words(entries);
@@ -87,7 +84,6 @@ TEST_F(CvTest, SizesWater) {
   EnterValve();
   Click("cmdSizing");
   EXPECT_EQ(TakeTexts(), Texts());
-  EXPECT_EQ(Text("lblSizingCv"), "41.26");
   EXPECT_EQ(Text("lblOpening"), "78");  // 1 + ln(41.26 / 99) / ln 50
   EXPECT_EQ(Text("lblVelocity"), "3");  // 354 * 50 / 76.2^2
   EXPECT_EQ(Text("lblNoise"), "計算式適用不能  ");
@@ -131,23 +127,18 @@ TEST_F(CvTest, KnowsNoHumidity) {
   EXPECT_EQ(Text("lblISA計算Cv"), cv);
 }
 
-TEST_F(CvTest, SecondaryPressureAndDifferentialAgree) {
+TEST_F(CvTest, SecondaryPressureTakesThePlaceOfTheDifferential) {
   EnterWater();
   Click("cmdCv計算");
   const std::string cv = Text("lblISA計算Cv");
   Click("lbl差圧");
   EXPECT_EQ(Text("lbl差圧"), "二次圧力");
-  EXPECT_EQ(Text("lbl二次圧単位"), Text("cbo圧力単位"));
   EXPECT_FALSE(Visible("cbo差圧単位"));
   EXPECT_EQ(Text("lblISA計算Cv"), "");
   EXPECT_EQ(Text("txt差圧"), "2");
-  Type("txt差圧", "5885.76");  // 8 kgf/cm2
-  Click("cmdCv計算");
-  EXPECT_EQ(Text("lblISA計算Cv"), cv);
   Pick("cbo圧力単位", 2);
   EXPECT_EQ(Text("lbl二次圧単位"), Text("cbo圧力単位"));
-  // Nothing entered is the atmosphere.
-  Enter("txt圧力=2 txt差圧=");
+  Enter("txt圧力=2 txt差圧=");  // nothing entered is the atmosphere
   Click("cmdCv計算");
   EXPECT_EQ(Text("lblISA計算Cv"), cv);
   Click("lbl差圧");
@@ -285,21 +276,6 @@ TEST_F(CvTest, CautionsBesideImpossibleResults) {
   EXPECT_NE(Text("lbl注意").find("管壁重量"), std::string::npos);
 }
 
-TEST_F(CvTest, SteamBelowTwoKelvinOfSuperheatIsSaturated) {
-  EnterSteam();
-  DblClick("txt温度");
-  Rate();
-  const double saturated = Number("lblVelocity");
-  Type("txt弁口径", std::to_string(76.2 * std::sqrt(saturated / 60)));  // 60 m/s
-  Click("cmdCv計算");
-  Click("cmdSizing");
-  EXPECT_EQ(Find("lblVelocity").ForeColor(), forms::kMagenta);
-  Type("txt温度", "250");  // saturated no more; faster, but below 80
-  Click("cmdCv計算");
-  Click("cmdSizing");
-  EXPECT_EQ(Find("lblVelocity").ForeColor(), forms::kBlack);
-}
-
 TEST_F(CvTest, WhatClearsWhat) {
   const std::pair<const char*, bool> changes[] = {
       {"txt流量=51", true},     {"cbo差圧単位=5", true},  {"cbo臨界圧力単位=0", true},
@@ -334,34 +310,6 @@ TEST_F(CvTest, AGasHasNoVapourData) {
   EXPECT_FALSE(Find("txt飽和蒸気圧").Enabled());
 }
 
-// Water by the fluid list: 20 degC, 2.34 kPa and 22.1 MPa by steam tables.
-TEST_F(CvTest, FluidListFillsAllFourLiquidProperties) {
-  EnterWater();
-  Enter("cbo飽和蒸気圧単位=0 cbo臨界圧力単位=1");
-  DblClick("txt飽和蒸気圧");
-  auto& names = Find<forms::ListBox>("lst物性推算");
-  names.Pick(names.IndexOf(" 水"));
-  Click("cmd全物性");
-  EXPECT_NEAR(Number("txt密度"), 998.2, 0.5);
-  EXPECT_NEAR(Number("txt飽和蒸気圧"), 2.34, 0.05);
-  EXPECT_NEAR(Number("txt臨界圧力"), 22.1, 0.1);
-}
-
-// The exponent of steam is estimated far too low, which colour and tool tip say of it alone.
-TEST_F(CvTest, CautionOfAnEstimateGoesWithIt) {
-  EnterSteam();
-  const std::string hint = Find("txt比熱比").ToolTip();
-  for (const char* entry : {"", "1.3"}) {
-    DblClick("txt比熱比");
-    EXPECT_EQ(Find("txt比熱比").ForeColor(), forms::kMagenta);
-    EXPECT_NE(Find("txt比熱比").ToolTip(), hint);
-    *entry == '\0' ? Click("cmdAllData消去") : Type("txt比熱比", entry);
-    EXPECT_EQ(Find("txt比熱比").ForeColor(), forms::kBlack);
-    EXPECT_EQ(Find("txt比熱比").ToolTip(), hint);
-    EnterSteam();
-  }
-}
-
 TEST_F(CvTest, CatalogueFillsTheValve) {
   Pick("cboMaker", 0);
   EXPECT_EQ(Find<forms::ComboBox>("cboValveModel").Index(), 0);
@@ -394,7 +342,7 @@ TEST_F(CvTest, CatalogueFillsTheValve) {
   EXPECT_EQ(Text("cboCharact"), "Modified Parabolic");
 }
 
-TEST_F(CvTest, DialoguesFillPipeBoreAndWall) {
+TEST_F(CvTest, DialoguesFillPipeAndWall) {
   DblClick("txt上流配管外径");
   EXPECT_EQ(Text("lstNominal"), "2in");
   Click("cmdCancel");
@@ -406,7 +354,6 @@ TEST_F(CvTest, DialoguesFillPipeBoreAndWall) {
   DblClick("txt弁口径");
   Pick("lstRating", 9);
   Click("cmdOK");
-  EXPECT_NEAR(Number("txt弁口径"), 101.6, 0.1);
   EXPECT_EQ(Text("lblフランジ規格"), " JPI 150#");
   DblClick("txt下流配管外径");
   EXPECT_EQ(Text("lstNominal"), "4in");
@@ -424,13 +371,6 @@ TEST_F(CvTest, DialoguesFillPipeBoreAndWall) {
   ASSERT_EQ(presenter.messages.shown.size(), 1U);
   EXPECT_EQ(presenter.messages.shown[0].title, "材料密度");
   EXPECT_EQ(Text("txtWallWeight"), "0");
-  TakeTexts();
-  Pick("cboBodySize", -1);
-  DblClick("txt弁口径");
-  ASSERT_EQ(presenter.messages.shown.size(), 1U);
-  EXPECT_EQ(presenter.messages.shown[0].title, "調節弁口径");
-  EXPECT_EQ(TakeTexts(), Texts{"指定の弁サイズはﾃﾞｰﾀﾍﾞｰｽに登録されていません。"});
-  EXPECT_EQ(bench.Forms().Active()->Name(), "frmCV");
 }
 
 TEST_F(CvTest, HelpListsGiveTheirValues) {
@@ -504,42 +444,6 @@ TEST_F(CvTest, CorrectionOpensTheFormOfTheValve) {
   Click("cmdSizing");
   EXPECT_EQ(TakeTexts(), kMissing);
   EXPECT_EQ(Text("lblSizingCv"), "");
-}
-
-TEST_F(CvTest, RecordBringsEverythingBack) {
-  EnterAir();
-  Click("lbl差圧");
-  Enter("txtTagNo=PV-1 txt差圧=1471.44 txt偏差係数=0.99");
-  Pick("cboMaker", 0);
-  Pick("cboBodySize", 10);
-  DblClick("txt弁口径");
-  Pick("lstRating", 9);
-  Click("cmdOK");
-  Pick("cbo配管材質", 1);
-  Rate();
-  ASSERT_EQ(TakeTexts(), Texts());
-  ASSERT_EQ(Find("lblVelocity").ForeColor(), forms::kBlack);
-  shell::RegisterTag(Space());
-  const shell::TagRow first = Space().tags.Row(1);
-  EXPECT_EQ(first[7], "True");
-  EXPECT_EQ(first[8], "二次圧力");
-  EXPECT_EQ(first[28], " JPI 150#");
-  EXPECT_EQ(first[49], "0");
-  EXPECT_EQ(first[50], "CV");
-  for (const int column :
-       {0,  2,  3,  4,  5,  6,  9,  11, 13, 21, 22, 23, 24, 25, 26, 27, 29, 30,
-        31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48}) {
-    EXPECT_NE(first[static_cast<std::size_t>(column)], "") << column;
-  }
-  Click("cmdAllData消去");
-  Click("lbl差圧");
-  Pick("cbo流体", kLiquid);
-  auto& sheet = dynamic_cast<frmCV&>(*bench.Forms().Active());
-  sheet.GetCV(1);
-  EXPECT_EQ(TakeTexts(), Texts());
-  sheet.AddCV(2);
-  EXPECT_EQ(Space().tags.Row(2), first);
-  EXPECT_GT(sheet.Correction().fp, 0);  // worked out again for the detail
 }
 
 // Only a record can have a Cv without a flow. 0/0 counts as missing data in every rule.

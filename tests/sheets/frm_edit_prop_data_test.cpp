@@ -1,20 +1,15 @@
 #include "sheets/frm_edit_prop_data.h"
 
-#include <filesystem>
-
 #include "common/file.h"
 #include "common/number.h"
 #include "shell/page_recorder.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/shell/data_folder.h"
+#include "tests/support/data_folder.h"
 
 namespace sheets {
 namespace {
 
 using data::FluidTable;
-
-constexpr const char* kSaveQuestion = "物性データが変更されています。保存しますか";
-constexpr const char* kFiles[] = {"Liqprop.dat", "Gasprop.dat"};
 
 class FluidEditor : public tests::DataFolder, public SheetTest {
  protected:
@@ -53,26 +48,6 @@ class FluidEditor : public tests::DataFolder, public SheetTest {
     return text;
   }
 };
-
-TEST_F(FluidEditor, LeafingThroughIsNoChange) {
-  const std::string liquids = Bytes("Liqprop.dat");
-  const std::string gases = Bytes("Gasprop.dat");
-  for (const auto& [option, table] : {std::pair("Option2", &Gases()), {"Option1", &Liquids()}}) {
-    Choose(option);
-    ASSERT_EQ(Find<forms::TabStrip>("TabStrip1").Count(), 50);
-    EXPECT_EQ(Find<forms::TabStrip>("TabStrip1").Items(), table->Names());
-    for (int fluid = 0; fluid < 50; ++fluid) {
-      Pick("TabStrip1", fluid);
-      ExpectPageShows(*table, fluid);
-    }
-  }
-  EXPECT_FALSE(Modified());
-  Click("cmdSaveProp");
-  Close();
-  EXPECT_EQ(TakeTexts(), Texts{});
-  EXPECT_EQ(Bytes("Liqprop.dat"), liquids);
-  EXPECT_EQ(Bytes("Gasprop.dat"), gases);
-}
 
 TEST_F(FluidEditor, SavesEveryFieldAsTyped) {
   const struct {
@@ -141,53 +116,6 @@ TEST_F(FluidEditor, DeletedFluidLeavesItsNeighboursWhole) {
   Click("cmdSaveProp");
   EXPECT_EQ(InFile("Liqprop.dat").fluids, expected);
   EXPECT_EQ(InFile("Gasprop.dat").fluids, Gases().fluids);
-}
-
-TEST_F(FluidEditor, AsksOnClosing) {
-  Edit(2, "1234");
-  Answer(false);
-  Close();
-  EXPECT_EQ(TakeTexts(), Texts{kSaveQuestion});
-  EXPECT_EQ(Liquids().Cell(0, 2), "1234");  // in use all the same
-  EXPECT_NE(InFile("Liqprop.dat").Cell(0, 2), "1234");
-  Open();
-  Close();  // yes
-  EXPECT_EQ(TakeTexts(), Texts{kSaveQuestion});
-  EXPECT_EQ(InFile("Liqprop.dat").Cell(0, 2), "1234");
-}
-
-TEST_F(FluidEditor, FailedSaveIsToldAndKeepsTheEdits) {
-  const std::string before = Bytes("Liqprop.dat");
-  for (const char* text : {"水😀", "1\",2"}) {  // not in the code page; shifts the fields
-    Edit(0, text);
-    Click("cmdSaveProp");
-    EXPECT_EQ(TakeTexts().size(), 1U) << text;
-    EXPECT_EQ(Bytes("Liqprop.dat"), before);
-    EXPECT_TRUE(Modified());
-  }
-  Edit(0, "純水");
-  Choose("Option2");
-  Edit(1, "29");
-  for (const char* name : kFiles) {
-    SCOPED_TRACE(name);
-    const std::string kept = Bytes(name);
-    std::filesystem::remove(File(name));
-    std::filesystem::create_directory(File(name));
-    Click("cmdSaveProp");
-    const Texts texts = TakeTexts();
-    ASSERT_EQ(texts.size(), 1U);
-    EXPECT_NE(texts[0].find(name), std::string::npos);
-    EXPECT_TRUE(Modified());
-    EXPECT_EQ(Liquids().Cell(0, 0), "純水");
-    EXPECT_EQ(Gases().Cell(0, 1), "29");
-    std::filesystem::remove(File(name));
-    common::WriteFile(File(name), kept);
-  }
-  Click("cmdSaveProp");
-  EXPECT_EQ(TakeTexts(), Texts{});
-  EXPECT_FALSE(Modified());
-  EXPECT_EQ(InFile("Liqprop.dat").Cell(0, 0), "純水");
-  EXPECT_EQ(InFile("Gasprop.dat").Cell(0, 1), "29");
 }
 
 // A file that could not be read may still be mended: it is not written over with an empty table.

@@ -1,16 +1,13 @@
 #include "sheets/frm_material.h"
 
-#include <filesystem>
-
 #include "common/file.h"
 #include "common/number.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/shell/data_folder.h"
+#include "tests/support/data_folder.h"
 
 namespace sheets {
 namespace {
 
-constexpr const char* kSaveQuestion = "材料データが変更されています。保存しますか";
 constexpr const char* kRows[] = {"txt密度L",       "txt密度H",      "txtヤング率L",
                                  "txtヤング率H",   "txt許容応力L",  "txt許容応力H",
                                  "txt線膨張係数L", "txt線膨張係数H"};
@@ -35,21 +32,6 @@ class MaterialEditor : public tests::DataFolder, public SheetTest {
     return data::WriteMaterialTable(again.Space().tables.materials);
   }
 };
-
-TEST_F(MaterialEditor, LeafingIsNoChange) {
-  const std::string before = common::ReadFile(FileName());
-  for (int material = 7; material >= 0; --material) {
-    const std::string option = "optMaterial(" + std::to_string(material) + ")";
-    Choose(option);
-    EXPECT_EQ(Text("txtMaterialName"), common::At(Table().names, material));
-    EXPECT_EQ(Text(option), Text("txtMaterialName"));
-  }
-  EXPECT_EQ(Text("txt許容応力H(1)"), "425");
-  Click("cmdDataSave");
-  EXPECT_EQ(common::ReadFile(FileName()), before);
-  Close();
-  EXPECT_EQ(TakeTexts(), Texts{});
-}
 
 TEST_F(MaterialEditor, EnterWalksThroughTheArrays) {
   forms::Form& form = *bench.Forms().Active();
@@ -112,41 +94,6 @@ TEST_F(MaterialEditor, OpenSheetsCalculateWithTheEdits) {
   EXPECT_NEAR(common::Val(Text("txt配管線膨張率")), 12.1, 0.11);  // what was entered stays
   DblClick("txt配管線膨張率");
   EXPECT_EQ(common::Val(Text("txt配管線膨張率")), 9.9);
-}
-
-TEST_F(MaterialEditor, AsksOnClosingAndKeepsWhatCannotBeSaved) {
-  const std::string before = common::ReadFile(FileName());
-  Type("txt密度L(2)", "7777");
-  Answer(false);
-  Close();
-  EXPECT_EQ(TakeTexts(), Texts{kSaveQuestion});
-  EXPECT_EQ(common::ReadFile(FileName()), before);
-  Open();
-  EXPECT_EQ(Text("txt密度L(2)"), "7777");  // in use all the same
-  EXPECT_EQ(Find("cmdDataSave").BackColor(), forms::kUnsaved);
-
-  Type("txtMaterialName", "1\",2");  // shifts the fields
-  Click("cmdDataSave");
-  ASSERT_EQ(presenter.messages.shown.size(), 1U);
-  EXPECT_NE(TakeTexts()[0].find("材料「"), std::string::npos);
-  EXPECT_EQ(common::ReadFile(FileName()), before);
-  Type("txtMaterialName", "鋼");
-  std::filesystem::remove(FileName());
-  std::filesystem::create_directory(FileName());
-  Close();  // yes
-  const Texts texts = TakeTexts();
-  ASSERT_EQ(texts.size(), 2U);
-  EXPECT_NE(texts[1].find("Material.dat"), std::string::npos);
-  EXPECT_TRUE(Modified());
-  EXPECT_EQ(bench.Space().activeSheetKind, "");
-
-  std::filesystem::remove(FileName());
-  Open();
-  EXPECT_EQ(Text("optMaterial(0)"), "鋼");
-  Close();
-  EXPECT_EQ(TakeTexts(), Texts{kSaveQuestion});
-  EXPECT_FALSE(Modified());
-  EXPECT_EQ(Reloaded(), data::WriteMaterialTable(Table()));
 }
 
 }  // namespace

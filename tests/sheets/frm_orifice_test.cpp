@@ -9,15 +9,7 @@ namespace {
 
 class OrificeTest : public SheetTest {
  protected:
-  static constexpr int kLiquid = 0, kGas = 1, kSteam = 2;
-
   OrificeTest() { bench.Window().Run("mnuOrifice"); }
-
-  double Number(const std::string& name) { return common::Val(Text(name)); }
-
-  void TypeAll(std::initializer_list<std::pair<const char*, const char*>> entries) {
-    for (const auto& [name, text] : entries) Type(name, text);
-  }
 
   /// 20 t/h of water in 4 in Sch40 by 25 kPa.
   void EnterWater() {
@@ -51,50 +43,6 @@ class OrificeTest : public SheetTest {
   }
 };
 
-// The worked example of the "fluids" documentation (differential_pressure_meter_solver, ISO 5167
-// orifice, D and D/2 taps): 7.70233804 kg/s at 999.1 kg/m3, 0.0011 Pa s, kappa 1.33, from 200 kPa
-// to 183 kPa absolute in a pipe of 73.66 mm need a bore of 50 mm. 0.01252 against the exact
-// 0.0125217 leaves 0.005 mm.
-TEST_F(OrificeTest, AgreesWithAPublishedExample) {
-  Pick("cbo絞り機構種類", 1);
-  Pick("cbo流体", kGas);
-  Pick("cbo圧力単位", 2);
-  Pick("cbo密度単位G", 1);  // kg/m3 at flow conditions
-  TypeAll({{"txt圧力", "1.006202"},
-           {"txt温度", "20"},
-           {"txt偏差係数", "1"},
-           {"txt比熱比", "1.33"},
-           {"txt密度", "999.1"},
-           {"txt粘性係数", "1.1"},
-           {"txt目盛流量", "27728.417"},
-           {"txt常用流量", "27728.417"},
-           {"txt配管内径", "73.66"},
-           {"txt設計差圧", "17"}});
-  Click("cmd計算");
-  EXPECT_EQ(TakeTexts(), Texts());
-  EXPECT_NEAR(Number("txt絞り径"), 50, 0.01);
-  EXPECT_EQ(Text("lbl上流Tap位置"), "73.66");
-  EXPECT_EQ(Text("lbl下流Tap位置"), "Uf 36.8");
-}
-TEST_F(OrificeTest, ShowsCOrAlphaByType) {
-  EnterWater();
-  Click("cmd計算");
-  EXPECT_NE(Text("lbl流出係数R"), "");
-  EXPECT_EQ(Text("lbl流量係数R"), "");
-  EXPECT_EQ(Text("lbl膨張補正係数R"), "1");
-  EXPECT_EQ(Text("lbl上流Tap位置"), "25.4");
-  EXPECT_EQ(Text("lbl使用上限"), "");
-  EXPECT_EQ(Text("lbl絞り径結果R"), Text("txt絞り径"));
-
-  Pick("cbo絞り機構種類", 4);
-  Type("txt粘性係数", "5");  // a quarter circle is for low Reynolds numbers
-  Click("cmd計算");
-  EXPECT_EQ(Text("lbl流出係数R"), "");
-  EXPECT_NE(Text("lbl流量係数R"), "");
-  EXPECT_NE(Text("lbl四分円半径R"), "");
-  EXPECT_EQ(Text("lbl下流Tap位置"), "       ");
-}
-
 // No C is ever worked out for these taps: on a fresh sheet the loss is the whole differential, and
 // the sheet says that it is no guide.
 TEST_F(OrificeTest, VenaContractaLossCarriesACaution) {
@@ -105,26 +53,6 @@ TEST_F(OrificeTest, VenaContractaLossCarriesACaution) {
   EXPECT_EQ(Find("lbl永久圧損R").ForeColor(), forms::kMagenta);
   Type("txt設計差圧", "24");
   EXPECT_EQ(Find("lbl永久圧損R").ForeColor(), forms::kBlack);
-}
-
-TEST_F(OrificeTest, AnyChangeClearsTheResults) {
-  const std::function<void()> changes[] = {
-      [this] { Type("txt常用流量", "14000"); }, [this] { Pick("cbo流量単位L", 4); },
-      [this] { Pick("cbo圧力単位", 1); },       [this] { Type("txt温度", "30"); },
-      [this] { Pick("cboSchedule", 9); },       [this] { Pick("cbo設計差圧単位", 1); },
-      [this] { Pick("cbo絞り機構種類", 2); },   [this] { Pick("cbo流体", kSteam); }};
-  for (const auto& change : changes) {
-    EnterWater();
-    Pick("cbo流量単位L", 0);
-    Pick("cbo圧力単位", 0);
-    Pick("cbo設計差圧単位", 0);
-    Click("cmd計算");
-    ASSERT_NE(Text("lbl表示β"), "");
-    change();
-    for (const char* label : {"lblMaxReynolds", "lbl表示β", "lbl差圧結果R", "lbl使用下限"}) {
-      EXPECT_EQ(Text(label), "") << label;
-    }
-  }
 }
 
 TEST_F(OrificeTest, ChecksSpeakInTheirOrder) {
@@ -141,16 +69,6 @@ TEST_F(OrificeTest, ChecksSpeakInTheirOrder) {
        [&] { Type("txt常用流量", "20001"); },
        {},
        {"常用流量が最大目盛流量を超えています"},
-       false,
-       ""},
-      {"normal flow at scale", [&] { Type("txt常用流量", "20000"); }, {}, {}, true, ""},
-      {"small pipe refused",
-       [&] {
-         Type("txt配管内径", "45");
-         Type("txt設計差圧", "250");
-       },
-       {false},
-       {"配管径が規格\n（50～1000㎜）の範囲外です。\n規格範囲外で計算しますか"},
        false,
        ""},
       {"small pipe accepted",
@@ -171,22 +89,7 @@ TEST_F(OrificeTest, ChecksSpeakInTheirOrder) {
        {"流体の圧力より差圧の方が大きいですよ。 "},
        false,
        ""},
-      // S = 1500 / (0.01252 D^2 sqrt(rho dP)) = 0.007176, C = 0.601: d = D sqrt(S/C) = 11.18 mm.
-      {"bore too small",
-       [&] { Type("txt目盛流量", "1500"), Type("txt常用流量", "1500"); },
-       {},
-       {"絞り径が（11.18mm）になりました。\n12.5mm以上になるようにデータを変更してください。"},
-       false,
-       ""},
-      {"Reynolds too low",
-       [&] { Type("txt粘性係数", "50"); },
-       {},
-       {"常用流量でのレイノルズ数（ =1037）が 小さ過ぎます。\n"
-        "絞り機構のタイプを変更するか、データを見直して下さい。"},
-       false,
-       ""},
       {"no viscosity", [&] { Type("txt粘性係数", ""); }, {}, {"0 で除算しました。"}, false, ""},
-      {"no density", [&] { Type("txt密度", ""); }, {}, {"0 で除算しました。"}, false, ""},
       {"no pipe bore, no bore",
        [&] {
          Type("txt配管内径", "");
@@ -196,7 +99,6 @@ TEST_F(OrificeTest, ChecksSpeakInTheirOrder) {
        {"オーバーフローしました。"},
        false,
        ""},
-      {"no differential", [&] { Type("txt設計差圧", ""); }, {}, {"0 で除算しました。"}, false, ""},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
@@ -238,24 +140,6 @@ TEST_F(OrificeTest, GasEntriesAreCheckedAndDefaulted) {
   Click("cmd計算");
   EXPECT_EQ(TakeTexts(), Texts({"0 で除算しました。"}));
   EXPECT_EQ(Text("lblMaxReynolds"), "");
-}
-
-// A nozzle near S = C swings between two betas for ever; the sheet must end it.
-TEST_F(OrificeTest, EndlessIterationEndsWithAFault) {
-  EnterWater();
-  Pick("cbo絞り機構種類", 5);
-  Pick("cbo設計差圧単位", 1);
-  TypeAll({{"txt目盛流量", "28274"},
-           {"txt常用流量", "28274"},
-           {"txt密度", "998"},
-           {"txt粘性係数", "1"},
-           {"txt絞り部膨張率", ""},
-           {"txt配管線膨張率", ""},
-           {"txt配管内径", "100"},
-           {"txt設計差圧", "53.2"}});
-  Click("cmd計算");
-  EXPECT_EQ(TakeTexts(), Texts({"オーバーフローしました。"}));
-  EXPECT_EQ(Text("lbl表示β"), "");
 }
 
 TEST_F(OrificeTest, PhaseDecidesWhichFieldsAreOn) {

@@ -47,8 +47,6 @@ TEST_F(PropertySheet, SteamAgreesWithSteamTables) {
   const struct {
     double kpaAbs, celsius, density, viscosity, saturationKpa, saturationCelsius;
   } rows[] = {{500, 200, 2.3533, 16.05, 1554.9, 151.84},
-              {1000, 250, 4.2965, 18.01, 3976.2, 179.89},
-              {2000, 300, 7.9677, 20.02, 8587.9, 212.38},
               {4000, 400, 13.617, 24.36, 0, 250.36},
               {10000, 500, 30.478, 29.1, 0, 311.00}};
   for (const auto& row : rows) {
@@ -98,8 +96,6 @@ TEST_F(PropertySheet, GasesAgreeWithHandbooks) {
     const char* gas;
     double normal, density, viscosity, z, kappa;
   } rows[] = {{" 空気", 1.2929, 12.90, 0.01857, 0.997, 1.40},
-              {" メタン", 0.7175, 7.272, 0.0113, 0.980, 1.30},
-              {" 水素", 0.0899, 0.8899, 0.0089, 1.0, 1.41},
               {" 二酸化炭素", 1.977, 20.79, 0.0151, 0.940, 1.29}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.gas);
@@ -124,8 +120,6 @@ TEST_F(PropertySheet, LiquidsAgreeWithHandbooks) {
     const char *pressure, *celsius;
     double standard, density, viscosity, critical, vapour;
   } rows[] = {{" 水", "500", "25", 999.8, 997.0, 0.890, 22064, 3.17},
-              {" エタノール", "0", "25", 806.3, 785.1, 1.074, 6268, 7.87},
-              {" プロパン", "2000", "25", 528.6, 492.4, 0.097, 4251, 952},
               {" トルエン", "0", "25", 885.3, 862.2, 0.560, 4126, 3.79}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.liquid);

@@ -1,11 +1,9 @@
 #include "sheets/frm_unit_converter.h"
 
-#include <filesystem>
-
 #include "common/file.h"
 #include "common/text.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/shell/data_folder.h"
+#include "tests/support/data_folder.h"
 
 namespace sheets {
 namespace {
@@ -231,35 +229,6 @@ TEST_F(UnitConverter, SurvivesAFactorOfZero) {
   Click("cmdOK");
   Pick("lstLeft", 1);
   EXPECT_EQ(Text("lblRight"), "0.001");
-}
-
-TEST_F(UnitConverter, FailedSaveKeepsTheEdits) {
-  const std::string before = common::ReadFile(FileName());
-  Category(0).units[0].unitName = "m³";  // not in the code page
-  bench.Space().unitsModified = true;
-  Click("cmdSave");
-  ASSERT_EQ(presenter.messages.shown.size(), 1U);
-  EXPECT_NE(TakeTexts()[0].find("分類「長さ」"), std::string::npos);
-  EXPECT_EQ(common::ReadFile(FileName()), before);
-  Category(0).units[0].unitName = "ミクロン";
-  std::filesystem::remove(FileName());
-  std::filesystem::create_directory(FileName());
-  Close();  // yes
-  const Texts texts = TakeTexts();
-  ASSERT_EQ(texts.size(), 2U);
-  EXPECT_EQ(texts[0], "データが変更されています。保存しますか");
-  EXPECT_NE(texts[1].find("単位変換.dat"), std::string::npos);
-
-  std::filesystem::remove(FileName());
-  Open();
-  EXPECT_EQ(Text("lstLeft"), "ミクロン");
-  EXPECT_EQ(Find("cmdSave").BackColor(), forms::kUnsaved);
-  Answer(false);
-  Reopen();
-  EXPECT_TRUE(Modified());
-  TakeTexts();
-  Click("cmdSave");
-  EXPECT_EQ(Reloaded(), data::WriteUnitTable(Table()));
 }
 
 TEST_F(UnitConverter, BeginsATableOfItsOwn) {

@@ -6,8 +6,8 @@
 #include "common/file.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/shell/temporary_folder.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/temporary_folder.h"
 
 namespace sheets {
 namespace {
@@ -49,16 +49,6 @@ TEST_F(ExportTest, WritesANewFileAndOpensIt) {
   EXPECT_EQ(platform.opened.back(), folder / "plant(2).xlsx");
   Click("cmdEnd");
   EXPECT_EQ(bench.Forms().Find(frmZepha2Excel::kName), nullptr);
-}
-
-TEST_F(ExportTest, NamesTheFileWhereNoProgramOpensIt) {
-  bench.Space().platform = nullptr;
-  Start();
-  const Texts texts = TakeTexts();
-  ASSERT_EQ(texts.size(), 2U);
-  EXPECT_TRUE(texts[0].starts_with("Excelを起動できません。"));
-  EXPECT_TRUE(texts[0].ends_with(folder / "plant.xlsx"));
-  EXPECT_EQ(texts[1], "変換は終了しました。");
 }
 
 TEST_F(ExportTest, AnUnknownKindLeavesNoFile) {

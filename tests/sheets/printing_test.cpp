@@ -37,14 +37,13 @@ double RightEnd(const TextItem& item) {
   return item.x + shell::FixedTextWidth(item.text, item.size);
 }
 
-/// The sample plant in a workbench with recorded paper and a fixed date.
-class PrintTest : public testing::Test {
+/// The sample plant with recorded paper and a fixed date.
+class PrintTest : public SheetTest {
  protected:
   PrintTest() {
-    bench.Start();
+    Space().platform = &platform;
     Space().today = [] { return std::chrono::year(2026) / 11 / 23; };
-    shell::OpenFileNamed(Space(), ZEPHA_SOURCE_DIR "/samples/plant.zph");
-    presenter.messages.shown.clear();
+    LoadPlant();
   }
 
   shell::Workspace& Space() { return bench.Space(); }
@@ -52,28 +51,14 @@ class PrintTest : public testing::Test {
     Space().tags.SelectLine(row - 1);
     shell::RecallSelectedTag(Space());
   }
-  int RowOf(const std::string& tag) {
-    for (int row = 1; row <= Space().tags.TagCount(); ++row) {
-      if (Space().tags.Text(row, 0) == tag) return row;
-    }
-    throw std::out_of_range("no tag " + tag);
-  }
   const PageRecorder& Page(float scale = shell::kPaperScale) {
     PageRecorder& page = recorded_.emplace_back();
     Space().printScale = scale;
     EXPECT_TRUE(shell::PrintSheet(Space(), page));
     return page;
   }
-  forms::Control& Find(const std::string& name) { return *bench.Forms().Active()->Find(name); }
-  void Click(const std::string& name) {
-    Find(name).Click();
-    bench.Forms().CollectClosed();
-  }
 
-  tests::RecordingPresenter presenter;
   tests::FakePlatform platform;
-  shell::MemorySettings settings;
-  Workbench bench{presenter, ZEPHA_BUILD_DIR, settings, &platform};
 
  private:
   std::deque<PageRecorder> recorded_;
@@ -206,23 +191,17 @@ TEST_F(PrintTest, ColumnsStandTrueAndNothingLeavesTheFrame) {
 
 TEST_F(PrintTest, LongestEntriesStayInTheFrame) {
   Recall(RowOf("FE-1401"));
-  auto& sheet = *bench.Forms().ActiveSheet();
-  const auto type = [&](const char* name, const std::string& text) {
-    dynamic_cast<forms::TextBox&>(*sheet.Find(name)).Type(text);
-  };
   std::string service;
   for (int i = 0; i < 60; ++i) service += "塔";
-  type("txt用途", service);
-  type("txtTagNo", "ＦＥ－１２３４５６７８９０");
+  Type("txt用途", service);
+  Type("txtTagNo", "ＦＥ－１２３４５６７８９０");
   // The pipe is wider than the standard allows: calculated all the same, and marked.
   for (int element = 7; element < 10; ++element) {
-    dynamic_cast<forms::ListControl&>(*sheet.Find("cbo絞り機構種類")).Pick(element);
-    type("txt配管内径", "1300");
-    type("txt目盛流量", "9000");
-    type("txt常用流量", "8000");
-    presenter.messages.Queue(true);
-    presenter.messages.Queue(true);
-    sheet.Find("cmd計算")->Click();
+    Pick("cbo絞り機構種類", element);
+    TypeAll({{"txt配管内径", "1300"}, {"txt目盛流量", "9000"}, {"txt常用流量", "8000"}});
+    Answer(true);
+    Answer(true);
+    Click("cmd計算");
     bool marked = false;
     for (const TextItem& item : ItemsOf<TextItem>(Page())) {
       EXPECT_LE(RightEnd(item), kFrameRight) << item.text;
@@ -235,10 +214,9 @@ TEST_F(PrintTest, LongestEntriesStayInTheFrame) {
 TEST_F(PrintTest, LineWithEveryFittingFillsOnePage) {
   Recall(RowOf("PL-1501"));
   for (int i = 0; i < 10; ++i) {
-    const std::string name = "txt付属品数(" + std::to_string(i) + ")";
-    dynamic_cast<forms::TextBox&>(Find(name)).Type("1234567");
+    Type(Element("txt付属品数", i), "1234567");
   }
-  Find("cmd計算").Click();
+  Click("cmd計算");
   int fittings = 0;
   for (const TextItem& item : ItemsOf<TextItem>(Page())) {
     EXPECT_LE(RightEnd(item), kFrameRight) << item.text;
@@ -384,7 +362,7 @@ TEST_F(PrintTest, MarkedTagsArePrintedAndTheResultIsTold) {
   Space().window.Run("mnuPrintAll");
   Click("cmd全解除");
   EXPECT_FALSE(Find("cmd印刷").Enabled());
-  auto& list = dynamic_cast<forms::CheckList&>(Find("lstTag"));
+  auto& list = Find<forms::CheckList>("lstTag");
   list.SetMarked(1, true);
   list.SetMarked(4, true);
   Click("cmd印刷");

@@ -17,21 +17,7 @@ class RecalculationTest : public SheetTest {
  protected:
   RecalculationTest() { LoadPlant(); }
 
-  /// The shipped plant, as a new file: nothing here can save over it.
-  void LoadPlant() {
-    shell::OpenFileNamed(Space(), std::string(ZEPHA_SOURCE_DIR) + "/samples/plant.zph");
-    Tags().zephaFileName.clear();
-    TakeTexts();
-  }
-
   shell::Workspace& Space() { return bench.Space(); }
-  shell::TagStore& Tags() { return Space().tags; }
-  int RowOf(const std::string& tag) {
-    for (int row = 1; row <= Tags().TagCount(); ++row) {
-      if (Tags().Text(row, shell::kTagNumberColumn) == tag) return row;
-    }
-    throw std::out_of_range("no tag " + tag);
-  }
   std::vector<TagRow> Rows() {
     std::vector<TagRow> rows;
     for (int row = 0; row <= shell::kMaxTags; ++row) rows.push_back(Tags().Row(row));

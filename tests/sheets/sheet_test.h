@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
+#include "common/number.h"
 #include "forms/controls.h"
+#include "sheets/list_texts.h"
 #include "sheets/workbench.h"
+#include "shell/tag_commands.h"
 #include "tests/support/recording_presenter.h"
 
 namespace sheets {
@@ -14,6 +20,8 @@ namespace sheets {
 /// Drives the real sheets on the shipped data files, by control name.
 class SheetTest : public testing::Test {
  protected:
+  static constexpr int kLiquid = 0, kGas = 1, kSteam = 2;
+
   explicit SheetTest(const std::string& dataFolder = ZEPHA_BUILD_DIR)
       : bench(presenter, dataFolder, settings) {
     bench.Start();
@@ -33,6 +41,15 @@ class SheetTest : public testing::Test {
   void Type(const std::string& name, const std::string& text) {
     Find<forms::TextBox>(name).Type(text);
   }
+  void TypeAll(std::initializer_list<std::pair<const char*, const char*>> entries) {
+    for (const auto& [name, text] : entries) Type(name, text);
+  }
+  double Number(const std::string& name) { return GroupedNumber(Text(name)); }
+  forms::Color Color(const std::string& name) { return Find(name).ForeColor(); }
+  /// Name of an element of a control array.
+  static std::string Element(const std::string& name, int i) {
+    return name + "(" + std::to_string(i) + ")";
+  }
   void Pick(const std::string& name, int index) { Find<forms::ListControl>(name).Pick(index); }
   void Choose(const std::string& name) { Find<forms::CheckControl>(name).Choose(); }
   void Click(const std::string& name) {
@@ -48,6 +65,20 @@ class SheetTest : public testing::Test {
     return texts;
   }
   void Answer(bool yes) { presenter.messages.Queue(yes); }
+
+  /// The shipped plant, as a new file: nothing here can save over it.
+  void LoadPlant() {
+    shell::OpenFileNamed(bench.Space(), ZEPHA_SOURCE_DIR "/samples/plant.zph");
+    Tags().zephaFileName.clear();
+    TakeTexts();
+  }
+  shell::TagStore& Tags() { return bench.Space().tags; }
+  int RowOf(const std::string& tag) {
+    for (int row = 1; row <= Tags().TagCount(); ++row) {
+      if (Tags().Text(row, shell::kTagNumberColumn) == tag) return row;
+    }
+    throw std::out_of_range("no tag " + tag);
+  }
 
   tests::RecordingPresenter presenter;
   shell::MemorySettings settings;

@@ -10,8 +10,8 @@
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
 #include "shell/workspace.h"
-#include "tests/shell/temporary_folder.h"
 #include "tests/support/recording_presenter.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {
@@ -260,14 +260,6 @@ class DuctCommands : public DuctFile {
    public:
     TagList() : Form("frmTagList", "", forms::FormRole::kTool) {}
   };
-  struct Chooser : tests::RecordingPresenter {
-    std::optional<std::string> chosen;
-    std::vector<forms::FileQuestion> asked;
-    std::optional<std::string> AskFile(const forms::FileQuestion& question) override {
-      asked.push_back(question);
-      return chosen;
-    }
-  };
 
   DuctCommands() {
     space.forms.Provide(kDuctListForm, [] { return std::make_unique<List>(); });
@@ -275,9 +267,7 @@ class DuctCommands : public DuctFile {
     BuildMainMenu(space);
     space.activeSheetKind = "CableDuct";
   }
-  const std::string& LastText() const { return presenter.messages.shown.back().text; }
-
-  Chooser presenter;
+  tests::RecordingPresenter presenter;
   MemorySettings settings;
   Workspace space{presenter, settings, nullptr};
 };
@@ -328,14 +318,8 @@ TEST_F(DuctCommands, NewFileAsksAboutTheDuctsAndSavesTheTags) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::Message() << static_cast<int>(row.answer) << row.zephaFile);
-    struct Answering : tests::RecordingPresenter {
-      common::Answer answer{};
-      common::Answer Present(const common::Message& message) override {
-        messages.shown.push_back(message);
-        return answer;
-      }
-    } user;
-    user.answer = row.answer;
+    tests::RecordingPresenter user;
+    user.messages.always = row.answer;
     Workspace work{user, settings, nullptr};
     work.forms.Provide(kDuctListForm, [] { return std::make_unique<List>(); });
     BuildMainMenu(work);

@@ -6,8 +6,8 @@
 #include "common/file.h"
 #include "common/text.h"
 #include "tests/data/shipped_data.h"
-#include "tests/shell/temporary_folder.h"
 #include "tests/support/scripted_messages.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {
@@ -373,20 +373,6 @@ TEST_F(InstrumentFile, RefusesTextsThatTheFileCannotHold) {
   EXPECT_EQ(Parse(EncodeInstrumentFile(store))[1][20], "1, 1/2") << "a quote ends the field";
 }
 
-/// Answers the first question with one answer, whatever its buttons.
-class OneAnswer : public common::Messages {
- public:
-  explicit OneAnswer(common::Answer answer) : answer_(answer) {}
-  common::Answer Present(const common::Message& message) override {
-    shown.push_back(message);
-    return answer_;
-  }
-  std::vector<common::Message> shown;
-
- private:
-  common::Answer answer_;
-};
-
 TEST_F(InstrumentFile, NewAsksWhetherToSave) {
   using common::Answer;
   const struct {
@@ -412,7 +398,8 @@ TEST_F(InstrumentFile, NewAsksWhetherToSave) {
     store.zephaFileName = path;
     store.lastTagIndex = 2;
     store.tagModified = row.modified;
-    OneAnswer user(row.answer);
+    ScriptedMessages user;
+    user.always = row.answer;
     const bool fails = !row.named;
     bool went = false;
     const std::string fault = FaultText([&] { went = NewInstrumentFile(store, user); });
@@ -433,19 +420,6 @@ TEST_F(InstrumentFile, NewAsksWhetherToSave) {
     EXPECT_EQ(user.shown[0].icon, common::Icon::kQuestion);
     EXPECT_EQ(user.shown[0].buttons, common::Buttons::kYesNoCancel);
   }
-}
-
-TEST_F(InstrumentFile, TellsTheVersionOfTheFile) {
-  TagStore store;
-  ShowDataVersion(store, messages);
-  store.zephaFileName = "/data/a.zph";
-  store.SetText(0, 0, "2.1.0");
-  ShowDataVersion(store, messages);
-  EXPECT_EQ(
-      messages.Texts(),
-      (Texts{"計装データファイルが読み込まれていません。",
-             "表示している計装データ/data/a.zphは\n　ZEPHA version 2.1.0\nで作成されました。"}));
-  for (const auto& shown : messages.shown) EXPECT_EQ(shown.title, "ZEPHA Data Version");
 }
 
 }  // namespace

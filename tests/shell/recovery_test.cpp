@@ -10,7 +10,7 @@
 #include <random>
 
 #include "common/file.h"
-#include "tests/shell/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "common/file.h"
-#include "tests/shell/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {

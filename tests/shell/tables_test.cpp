@@ -5,21 +5,12 @@
 #include <filesystem>
 
 #include "common/file.h"
-#include "tests/shell/data_folder.h"
+#include "tests/support/data_folder.h"
 
 namespace shell {
 namespace {
 
 namespace fs = std::filesystem;
-
-TEST(LoadTables, ReadsAllShippedFiles) {
-  const tests::DataFolder folder;
-  const Tables tables = LoadTables(folder.Path());
-  EXPECT_EQ(tables.unread, std::vector<std::string>());
-  EXPECT_EQ(tables.lists.elementKinds.size(), 11U);
-  EXPECT_FALSE(tables.valves.Empty());
-  EXPECT_FALSE(tables.ducts.Empty());
-}
 
 TEST(LoadTables, NamesWhatItCannotReadAndGoesOn) {
   const tests::DataFolder folder;

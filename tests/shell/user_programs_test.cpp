@@ -5,7 +5,7 @@
 #include "common/fault.h"
 #include "common/file.h"
 #include "common/text.h"
-#include "tests/shell/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {

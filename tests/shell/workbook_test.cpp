@@ -15,8 +15,8 @@
 #include "shell/instrument_file.h"
 #include "shell/workbook_export.h"
 #include "shell/workspace.h"
-#include "tests/shell/temporary_folder.h"
 #include "tests/support/recording_presenter.h"
+#include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {

@@ -18,6 +18,8 @@ class RecordingPresenter : public forms::Presenter {
   std::vector<std::string> events;   // "show frmX", "close frmX", "raise frmX", "focus txtX"
   std::vector<std::string> changed;  // names of changed controls
   int beeps = 0;
+  std::optional<std::string> chosen;  // the answer to questions for a file
+  std::vector<forms::FileQuestion> asked;
 
   common::Answer Present(const common::Message& message) override {
     return messages.Present(message);
@@ -36,7 +38,10 @@ class RecordingPresenter : public forms::Presenter {
       form.RunEvent(nullptr, [&] { more = step(); });
     }
   }
-  std::optional<std::string> AskFile(const forms::FileQuestion&) override { return std::nullopt; }
+  std::optional<std::string> AskFile(const forms::FileQuestion& question) override {
+    asked.push_back(question);
+    return chosen;
+  }
 };
 
 }  // namespace tests

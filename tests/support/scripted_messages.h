@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,9 +17,11 @@ class ScriptedMessages : public common::Messages {
   ScriptedMessages(std::initializer_list<bool> answers = {}) : answers_(answers) {}
 
   std::vector<common::Message> shown;
+  std::optional<common::Answer> always;  // the answer to whatever is asked
 
   common::Answer Present(const common::Message& message) override {
     shown.push_back(message);
+    if (always) return *always;
     if (message.buttons == common::Buttons::kOk) return common::Answer::kOk;
     const bool yes = NextAnswer();
     if (message.buttons == common::Buttons::kOkCancel) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <filesystem>
@@ -12,7 +11,7 @@ namespace tests {
 /// A new folder that goes with its contents at the end of the test.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : TemporaryFolder(testing::TempDir()) {}
+  TemporaryFolder() : TemporaryFolder(std::filesystem::temp_directory_path()) {}
   explicit TemporaryFolder(const std::string& parent) : path_(parent + "/zepha-XXXXXX") {
     if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
   }

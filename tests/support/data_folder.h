@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "tests/shell/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tests {
 
