@@ -142,12 +142,15 @@ TEST(ShippedLiquids, AgreeWithHandbooks) {
   EXPECT_TRUE(bench.messages.shown.empty());
 }
 
-TEST(EstimateVapourPressure, CarbonDioxideAgreesWithTables) {
+TEST(EstimateVapourPressure, CarbonDioxideAndWaterAgreeWithTables) {
   Bench bench;
   bench.Ship();
   bench.At(0);
   const int carbonDioxide = tests::IndexOf(bench.liquids.Names(), "二酸化炭素");
   EXPECT_NEAR(bench.estimator.EstimateVapourPressure(carbonDioxide), 3485.1, 35);  // kPa, NIST
+  bench.At(20);
+  const int water = tests::IndexOf(bench.liquids.Names(), "水");
+  EXPECT_NEAR(bench.estimator.EstimateVapourPressure(water), 2.34, 1e-9);  // 2.339 kPa, IAPWS-IF97
 }
 
 // One line a gas: molecular weight and critical data (CRC Handbook; Thol et al. for chlorine, vinyl

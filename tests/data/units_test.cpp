@@ -63,5 +63,9 @@ TEST(Differences, HaveNoAtmosphere) {
   EXPECT_NEAR(DifferentialToMmH2O(5, 245.175), 2500, 1e-3);  // 98.07 mbar are 1000 mmH2O here
 }
 
+TEST(TemperatureFromCelsius, RoundsToTwoDecimals) {
+  EXPECT_NEAR(TemperatureFromCelsius(2, 179.88), 355.78, 1e-9);  // 355.784
+}
+
 }  // namespace
 }  // namespace data
