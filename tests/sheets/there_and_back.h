@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -72,16 +73,15 @@ class ThereAndBack : public FlowSheetTest {
 
   explicit ThereAndBack(const char* menu) { bench.Window().Run(menu); }
 
-  /// Runs a test's case with each seed.
-  template <class Case>
-  void ForSeeds(int cases, Case run) {
-    for (int seed = 0; seed < cases; ++seed) {
-      Begin(seed);
-      Random random(seed);
-      run(random, seed);
-    }
+  void TearDown() override {
+    RecordProperty("cases", cases_);
+    RecordProperty("compared", compared_);
+    RecordProperty("worst difference over allowed", Digits(worst_, 3));
+    RecordProperty("worst case", worstCase_);
   }
+
   void Begin(int seed) {
+    ++cases_;
     seed_ = seed;
     entries_.clear();
     presenter.changed.clear();
@@ -114,10 +114,43 @@ class ThereAndBack : public FlowSheetTest {
     Note({name});
     Choose(name);
   }
-  /// That enough cases had a result to compare, so that no test passes on nothing.
-  void ExpectResults(int least) { EXPECT_GE(results_, least); }
+  /// Another case with a result, of these sorts and of the units selected.
+  void Count(int phase, std::initializer_list<std::pair<const char*, int>> sorts = {}) {
+    for (const auto& [name, index] : sorts) ++counted_[{name, index}];
+    for (const auto& [name, index] : {std::pair("flow unit", flowUnit_),
+                                      {"pressure unit", pressureUnit_},
+                                      {"temperature unit", temperatureUnit_},
+                                      {"density unit", densityUnit_},
+                                      {"viscosity unit", viscosityUnit_}}) {
+      ++counted_[{name, 10 * phase + index}];
+    }
+  }
+  /// That each of `size` of a sort has been met so often, so that no test passes on nothing.
+  void ExpectEach(const char* sort, int size, int least, int first = 0) {
+    for (int i = first; i < first + size; ++i) {
+      EXPECT_GE((counted_[{sort, i}]), least) << sort << " " << i;
+    }
+  }
+  void ExpectEachUnit(int least, int gasViscosityUnits = 3) {
+    constexpr int kFlowUnits[] = {5, 7, 2};
+    constexpr int kDensityUnits[] = {2, 5, 1};
+    for (const int phase : {kLiquid, kGas, kSteam}) {
+      ExpectEach("flow unit", kFlowUnits[phase], least, 10 * phase);
+      ExpectEach("pressure unit", 7, least, 10 * phase);
+      ExpectEach("temperature unit", 3, least, 10 * phase);
+      ExpectEach("density unit", kDensityUnits[phase], least, 10 * phase);
+      ExpectEach("viscosity unit", phase == kGas ? gasViscosityUnits : 3, least, 10 * phase);
+    }
+  }
   void Compare(const std::string& what, double found, double expected, double allowed) {
+    ++compared_;
     const double share = std::fabs(found - expected) / allowed;
+    if (share > worst_ || !(share <= 1)) {
+      worst_ = share;
+      worstCase_ = what;
+      worstCase_ += ", seed ";
+      worstCase_ += std::to_string(seed_);
+    }
     if (share <= 1 || ++failures_ > kShownFailures) return;
     ADD_FAILURE() << what << ": " << found << " where " << expected << " is due within " << allowed
                   << "; seed " << seed_ << ":\n"
@@ -139,9 +172,9 @@ class ThereAndBack : public FlowSheetTest {
     fluid.mu = phase == data::kLiquid ? random.Spread(0.1, 50) : random.Between(0.008, 0.04);
     pressureUnit_ = SelectAny("cbo圧力単位", random);
     Enter("txt圧力", PressureInUnit(fluid.p, pressureUnit_));
-    const int temperatureUnit = SelectAny("cbo温度単位", random);
+    temperatureUnit_ = SelectAny("cbo温度単位", random);
     const double temperatures[] = {fluid.t, fluid.Kelvin(), fluid.t * 9 / 5 + 32};
-    Enter("txt温度", temperatures[temperatureUnit]);
+    Enter("txt温度", temperatures[temperatureUnit_]);
     if (phase == data::kGas) EnterGas(random, fluid);
     if (Has("txt比熱比") && phase != data::kLiquid) Enter("txt比熱比", fluid.kappa);
     EnterDensity(random, fluid);
@@ -167,12 +200,12 @@ class ThereAndBack : public FlowSheetTest {
     const double gas[] = {fluid.rho, fluid.rho * fluid.NormalVolume(), fluid.rho * 22.415,
                           fluid.rho * 273.15 / 288.75, fluid.rho / 1.2928};
     const double liquid[] = {fluid.rho, fluid.rho / 1000};
-    const int unit = SelectAny(OfPhase("cbo密度単位", fluid.phase), random);
-    Enter("txt密度", fluid.phase == data::kGas ? gas[unit] : liquid[unit]);
+    densityUnit_ = SelectAny(OfPhase("cbo密度単位", fluid.phase), random);
+    Enter("txt密度", fluid.phase == data::kGas ? gas[densityUnit_] : liquid[densityUnit_]);
   }
   void EnterViscosity(Random& random, const FluidState& fluid) {
-    const int unit = SelectAny("cbo粘性係数単位", random);
-    Enter("txt粘性係数", unit == 2 ? fluid.mu / fluid.FlowDensity() * 1000 : fluid.mu);
+    viscosityUnit_ = SelectAny("cbo粘性係数単位", random);
+    Enter("txt粘性係数", viscosityUnit_ == 2 ? fluid.mu / fluid.FlowDensity() * 1000 : fluid.mu);
   }
   /// A flow of kg/h in the unit that stands selected; of a gas on the dry base that of its dry part
   /// with the moisture left out.
@@ -229,13 +262,17 @@ class ThereAndBack : public FlowSheetTest {
                                                   735.72e-4,  14.22e-4, 0.09807};
 
   std::string entries_;
-  int flowUnit_ = 0, pressureUnit_ = 0;
-  int results_ = 0;
+  int cases_ = 0;
+  int flowUnit_ = 0, pressureUnit_ = 0, temperatureUnit_ = 0, densityUnit_ = 0;
+  int viscosityUnit_ = 0;
 
  private:
   static constexpr int kShownFailures = 5;
 
-  int seed_ = 0, failures_ = 0;
+  std::map<std::pair<std::string, int>, int> counted_;
+  std::string worstCase_;
+  double worst_ = 0;
+  int seed_ = 0, compared_ = 0, failures_ = 0;
 };
 
 }  // namespace sheets

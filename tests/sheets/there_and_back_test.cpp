@@ -1,9 +1,11 @@
-// Forward and backward through the other sheets: valves, pipes and sensors.
+// Forward and backward through the other sheets: valves, pipes, sensors, properties and units.
 
 #include "tests/sheets/there_and_back.h"
 
 #include <algorithm>
+#include <optional>
 
+#include "sheets/property_target.h"
 #include "temperature/sensor.h"
 #include "valve/opening.h"
 
@@ -123,10 +125,12 @@ class ValveThereAndBack : public ThereAndBack {
 
 TEST_F(ValveThereAndBack, FlowCvAndOpening) {
   constexpr int kCases = 3 * 1000;
-  ForSeeds(kCases, [&](Random& random, int seed) {
+  for (int seed = 0; seed < kCases; ++seed) {
+    Begin(seed);
+    Random random(seed);
     EnterService(random, seed % 3);
     Click("cmdCv計算");
-    if (Text("lblISA計算Cv").empty()) return;
+    if (Text("lblISA計算Cv").empty()) continue;
     CompareState(fluid_, "txt流量", w_);
     const double required = common::Val(Text("lblISA計算Cv"));
     CompareFlow("flow of ISA", required, FlowOf(required, {}));
@@ -145,10 +149,13 @@ TEST_F(ValveThereAndBack, FlowCvAndOpening) {
       const double low = CvAt(opening - 0.005);
       const double high = CvAt(opening + 0.005);
       Compare("Cv of the opening", cv, (low + high) / 2, (high - low) / 2 + HalfOf(cv));
+      Count(fluid_.phase, {{"characteristic", characteristic_}});
     }
-    ++results_;
-  });
-  ExpectResults(2700);
+    Count(fluid_.phase, {{"phase", fluid_.phase}, {"differential", 10 * fluid_.phase + unit_}});
+  }
+  ExpectEach("phase", 3, 900);
+  ExpectEach("characteristic", 5, 300);
+  ExpectEachUnit(100);
 }
 
 class LineThereAndBack : public ThereAndBack {
@@ -176,11 +183,13 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
   // Twice g is 19.6 in the sheet and 10000 kgf/m2 are 1 kgf/cm2: 98000 for 98066.5.
   constexpr double kPascal = 98000;
   constexpr int kCases = 3 * 1000;
-  ForSeeds(kCases, [&](Random& random, int seed) {
+  for (int seed = 0; seed < kCases; ++seed) {
+    Begin(seed);
+    Random random(seed);
     FluidState fluid = EnterFluid(random, seed % 3);
     if (fluid.phase == kSteam) {
       // Below saturation the equation of steam runs into its pole.
-      if (data::WaterSaturationPressure(fluid.t, fluid.Kelvin(), 735.559) < fluid.p) return;
+      if (data::WaterSaturationPressure(fluid.t, fluid.Kelvin(), 735.559) < fluid.p) continue;
       fluid.rho = data::SteamDensity(fluid.p, fluid.Kelvin());
       EnterDensity(random, fluid);
       EnterViscosity(random, fluid);
@@ -203,11 +212,11 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
     EnterFlow("txt流量", fluid, w);
     Click("cmd計算");
     CompareState(fluid, "txt流量", w);
-    if (Text("lblTotalLoss").empty()) return;  // more than the pressure
+    if (Text("lblTotalLoss").empty()) continue;  // more than the pressure
     const double shown = Number("lblTotalLoss");
     const double step = HalfStep(kDecimals[pressureUnit_]);
     const double p = fluid.p - shown / kPressureUnits[pressureUnit_];
-    if (shown < 20 * step || p < 0.02 * fluid.p) return;  // no digits left
+    if (shown < 20 * step || p < 0.02 * fluid.p) continue;  // no digits left
     const double zeta = Number("lblλ") * length / D * 1000 + Number("lbl付属品ζ");
     const double found =
         area * 3600 * std::sqrt(2 * fluid.FlowDensity() * ColumnOf(fluid, p) * kPascal / zeta);
@@ -222,9 +231,10 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
     const double outlet = step / kPressureUnits[pressureUnit_] / ColumnOf(fluid, p) / thinning;
     const double decimals = fluid.phase == kSteam ? HalfStep(4) / fluid.rho : 0;  // of the density
     Compare("flow", found, w, w * (outlet / 2 * 1.1 + lag / 2 * 1.1 + decimals + 5e-6));
-    ++results_;
-  });
-  ExpectResults(1500);
+    Count(fluid.phase, {{"phase", fluid.phase}});
+  }
+  ExpectEach("phase", 3, 500);
+  ExpectEachUnit(40, 2);  // no gas in cSt
 }
 
 class SensorThereAndBack : public ThereAndBack {
@@ -253,7 +263,9 @@ TEST_F(SensorThereAndBack, TemperatureAndOutput) {
   constexpr double kSearch = 0.005;  // K between the bounds where the search ends
   constexpr double kScales = 0.001;  // K, where the scale of 1968 is solved for
   constexpr int kCases = 10 * 500;
-  ForSeeds(kCases, [&](Random& random, int seed) {
+  for (int seed = 0; seed < kCases; ++seed) {
+    Begin(seed);
+    Random random(seed);
     const int kind = seed % 10;
     const auto row = static_cast<std::size_t>(kind);
     const temperature::SensorTable& table = bench.Space().tables.sensors;
@@ -273,9 +285,230 @@ TEST_F(SensorThereAndBack, TemperatureAndOutput) {
     const double unrounded = Output(kind, t);
     CompareInverse("unrounded temperature", kind, unrounded,
                    temperature::CalcTemperature(table, kind, unrounded), kSearch + kScales);
-    ++results_;
-  });
-  ExpectResults(kCases);
+    Count(0, {{"kind", kind}});
+  }
+  ExpectEach("kind", 10, kCases / 10);
+}
+
+class ConverterThereAndBack : public ThereAndBack {
+ protected:
+  ConverterThereAndBack() : ThereAndBack("mnuUnit") {}
+
+  /// A value from one unit of the category to another: the number shown, and half of the last of
+  /// its digits: six, but none beyond the thirteenth decimal, and five decimals of a negative one.
+  std::optional<std::pair<double, double>> Convert(int from, int to, double value) {
+    Select("lstLeft", from);
+    Select("lstRight", to);
+    std::string text = common::NumberText(value);
+    if (text.find('E') != std::string::npos) {
+      text = common::Format(value, "0.###############");
+    }
+    if (text.size() > data::kConverterCharacters) return std::nullopt;
+    Enter("txtLeft", text);
+    if (!TakeTexts().empty()) return std::nullopt;
+    const double shown = Number("lblRight");
+    const int exponent = shown > 0 ? static_cast<int>(std::floor(std::log10(1.00001 * shown))) : 0;
+    const int decimals = 5 - exponent;
+    return std::pair(shown, HalfStep(decimals) + (decimals > 13 ? HalfStep(13) : 0));
+  }
+};
+
+TEST_F(ConverterThereAndBack, EveryPairOfUnits) {
+  int seed = 0;
+  int pairs = 0;
+  int refused = 0;
+  const auto& categories = bench.Space().tables.units.categories;
+  for (int c = 0; c < static_cast<int>(categories.size()); ++c) {
+    Pick("TabStrip1", c);
+    const auto& units = common::At(categories, c).units;
+    const int count = static_cast<int>(units.size());
+    const auto factor = [&](int unit) {
+      return static_cast<double>(common::At(units, unit).factor);
+    };
+    for (int pair = 0; pair < count * count; ++pair) {
+      Begin(++seed);
+      Random random(seed);
+      const int a = pair / count;
+      const int b = pair % count;
+      const int third = random.Below(count);
+      const double value = Rounded(random.Spread(0.01, 10000), 6);
+      const auto there = Convert(a, b, value);
+      const auto across = Convert(a, third, value);
+      ++pairs;
+      if (!there || !across) {
+        ++refused;
+        continue;
+      }
+      const auto back = Convert(b, a, there->first);
+      const auto on = Convert(b, third, there->first);
+      if (!back || !on) {
+        ++refused;
+        continue;
+      }
+      constexpr double kDoubles = 1e-9;
+      Compare("there and back", back->first, value,
+              there->second * factor(b) / factor(a) + back->second + kDoubles * value);
+      Compare("by way of another", on->first, across->first,
+              there->second * factor(b) / factor(third) + on->second + across->second +
+                  kDoubles * std::fabs(across->first));
+    }
+  }
+  EXPECT_GT(pairs, 2000);
+  EXPECT_LT(refused, pairs / 10);  // too long for the field
+}
+
+/// A property as the sheet reads it, and what the rounding of its text leaves open.
+struct Reading {
+  double value = 0;
+  double allowed = 0;
+};
+
+class PropertiesThereAndBack : public ThereAndBack {
+ protected:
+  PropertiesThereAndBack() : ThereAndBack("mnuControlValve") {}
+
+  /// Number of a property as estimated in a unit.
+  double Estimate(const char* word, int fluid, const std::string& list, int unit) {
+    Select(list, unit);
+    dynamic_cast<PropertyTarget&>(*bench.Forms().Active()).FillProperty(word, fluid);
+    const std::string box = std::string("txt") + word;
+    Note({box, " = ", Text(box)});
+    return common::Val(Text(box));
+  }
+  /// The same as it counts in the calculation; `step`: half of the last decimal of the estimate.
+  static Reading Read(double shown, double step, double counts) {
+    return shown == 0 ? Reading{} : Reading{counts, counts / shown * step};
+  }
+  /// A pressure of the vapour pressure list.
+  double EstimatePressure(const char* word, int fluid, int unit) {
+    return Estimate(word, fluid, std::string("cbo") + word + "単位", unit);
+  }
+  void CompareReadings(const char* what, const Reading& one, const Reading& other) {
+    if (one.value == 0 || other.value == 0) return;  // no equation, outside its range, no digit
+    Compare(what, one.value, other.value, one.allowed + other.allowed + 1e-9 * other.value);
+    ++properties_[what];
+  }
+  void CompareDensities(Random& random, int phase, int fluid);
+  void CompareViscosities(int fluid);
+  void ComparePressures(Random& random, int fluid);
+
+  std::map<std::string, int> properties_;
+};
+
+void PropertiesThereAndBack::CompareDensities(Random& random, int phase, int fluid) {
+  constexpr int kMolecularWeight = 2;  // knows no compressibility at normal state
+  const data::ProcessState& state = bench.Space().process;
+  const std::string list = OfPhase("cbo密度単位", phase);
+  const auto read = [&](int unit, double step) {
+    const double shown = Estimate("密度", fluid, list, unit);
+    return Read(shown, step, state.densityBase);
+  };
+  const Reading base = read(0, HalfStep(phase == kLiquid ? 1 : 3));
+  const int unit = phase == kLiquid ? 1 : 1 + random.Below(4);
+  if (phase == kGas && unit == kMolecularWeight) return;
+  Reading other = read(unit, HalfStep(3));
+  // At flow conditions the deviation factor counts, which stands with three decimals.
+  if (phase == kGas && unit == 1) {
+    other.allowed += other.value * HalfStep(3) / Number("txt偏差係数");
+  }
+  CompareReadings("density", other, base);
+}
+
+/// The third unit is cSt, by the density on the sheet.
+void PropertiesThereAndBack::CompareViscosities(int fluid) {
+  const auto read = [&](int unit) {
+    const double shown = Estimate("粘性係数", fluid, "cbo粘性係数単位", unit);
+    return Read(shown, HalfStep(3), bench.Space().process.viscosityCp);
+  };
+  const Reading cP = read(0);
+  CompareReadings("viscosity", read(2), cP);
+}
+
+void PropertiesThereAndBack::ComparePressures(Random& random, int fluid) {
+  const auto vapour = [&](int unit) {
+    const double shown = EstimatePressure("飽和蒸気圧", fluid, unit);
+    if (shown <= 0) return Reading{};
+    const int digits = 4 - static_cast<int>(std::floor(std::log(1.001 * shown) / 2.3));
+    const double step = HalfStep(digits) + HalfStep(shown >= 2 ? 2 : 3);  // rounded twice
+    return Reading{shown / kVapourUnits[unit], step / kVapourUnits[unit]};
+  };
+  constexpr int kMmHg = 4;  // has the most digits
+  const Reading mmHg = vapour(kMmHg);
+  CompareReadings("vapour pressure", vapour(random.Below(7)), mmHg);
+  // The estimate has factors of its own: 735.559 mmHg and 145 psi/MPa, which the sheet takes for
+  // 735.72 and 145.0036.
+  constexpr double kWritten[] = {
+      98.0665,  0.0980665,      1, 0.0980665 * 9.869208, 98.0665 / 0.1333223684,
+      0.980665, 0.0980665 * 145};
+  constexpr double kSteps[] = {0, 0, 0.005, 0.005, 0.5, 0, 0.05};
+  const auto critical = [&](int unit) {
+    const double shown = EstimatePressure("臨界圧力", fluid, unit);
+    return Reading{shown / kWritten[unit], kSteps[unit] / kWritten[unit]};
+  };
+  const Reading mpa = critical(1);
+  CompareReadings("critical pressure", critical(random.Below(7)), mpa);
+}
+
+// A property means the same whatever the unit in which it is estimated.
+TEST_F(PropertiesThereAndBack, EstimatesInEveryUnit) {
+  for (int seed = 0; seed < 4000; ++seed) {
+    Begin(seed);
+    Random random(seed);
+    const int phase = seed % 2;
+    const int fluid = random.Below(static_cast<int>(data::FluidTable::kFluids));
+    EnterFluid(random, phase);
+    if (phase == kGas) {
+      dynamic_cast<PropertyTarget&>(*bench.Forms().Active()).FillProperty("偏差係数", fluid);
+      if (common::Val(Text("txt偏差係数")) <= 0) continue;
+    }
+    CompareDensities(random, phase, fluid);
+    if (phase == kGas) continue;  // estimated in mPa s whatever the unit
+    CompareViscosities(fluid);
+    ComparePressures(random, fluid);
+  }
+  for (const char* what : {"density", "viscosity", "vapour pressure", "critical pressure"}) {
+    EXPECT_GE(properties_[what], 500) << what;
+  }
+}
+
+class SaturationThereAndBack : public ThereAndBack {
+ protected:
+  SaturationThereAndBack() : ThereAndBack("mnuOrifice") {}
+};
+
+// Two equations, one for each way; both are fitted to the saturation line.
+TEST_F(SaturationThereAndBack, PressureAndTemperature) {
+  constexpr double kSearch = 1e-6 * 225.56;  // where the search for the temperature ends, kgf/cm2
+  constexpr double kLine = 0.05;             // its equation lies within this of the tables, K
+  constexpr double kPressures = 0.002;       // the other one within this share
+  for (int seed = 0; seed < 3000; ++seed) {
+    Begin(seed);
+    Random random(seed);
+    const double p = random.Spread(0.01, 220);
+    Select("cbo流体", kSteam);
+    const int unit = SelectAny("cbo圧力単位", random);
+    Enter("txt圧力", PressureInUnit(p, unit), 9);
+    temperatureUnit_ = SelectAny("cbo温度単位", random);
+    DblClick("txt温度");
+    const double celsius = bench.Space().process.temperatureC;
+    Select("cbo流体", kGas);
+    Enter("txt相対湿度", "50");
+    const int vapourUnit = SelectAny("cbo飽和水蒸気圧単位", random);
+    DblClick("txt飽和水蒸気圧");
+    const double shown = Number("txt飽和水蒸気圧");
+    const auto line = [](double t) {
+      return static_cast<double>(data::WaterSaturationPressure(t, t + 273.15, 735.559));
+    };
+    const double slope = (line(celsius) - line(celsius - 0.5)) / 0.5;
+    const double display = shown * 0.6e-4;  // five figures, some digits one less
+    const double rounding = HalfStep(p > 1.99 ? 2 : 3);
+    Compare("pressure", shown / kVapourUnits[vapourUnit], p,
+            slope * (kLine + HalfStep(2)) + kSearch + kPressures * p + rounding +
+                display / kVapourUnits[vapourUnit]);
+    Count(kGas, {{"unit", unit}, {"vapour unit", vapourUnit}});
+  }
+  ExpectEach("unit", 7, 200);
+  ExpectEach("vapour unit", 7, 200);
 }
 
 }  // namespace
