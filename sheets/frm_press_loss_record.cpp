@@ -7,7 +7,6 @@ namespace sheets {
 
 namespace {
 
-
 /// Columns of the record that are read or written by themselves.
 enum Column {
   kFluid = 2,
