@@ -10,6 +10,7 @@
 #include <functional>
 #include <vector>
 
+#include "shell/hidden_sheets.h"
 #include "shell/instrument_file.h"
 #include "shell/workbook_export.h"
 #include "shell/workspace.h"
@@ -21,21 +22,6 @@ constexpr int kRuns = 21;
 
 using shell::workbook::CellValue;
 using shell::workbook::Worksheet;
-
-/// Shows nothing and agrees.
-class Silent : public forms::Presenter {
- public:
-  common::Answer Present(const common::Message&) override { return common::Answer::kYes; }
-  void ShowForm(forms::Form&) override {}
-  void RaiseForm(forms::Form&) override {}
-  void CloseForm(forms::Form&) override {}
-  void FormChanged(forms::Form&) override {}
-  void ControlChanged(forms::Control&) override {}
-  void FocusMoved(forms::Control&) override {}
-  void Beep() override {}
-  void RunSteps(forms::Form&, std::function<bool()>) override {}
-  std::optional<std::string> AskFile(const forms::FileQuestion&) override { return std::nullopt; }
-};
 
 using Rows = std::vector<std::vector<CellValue>>;
 
@@ -107,7 +93,7 @@ double Median(std::vector<double> values) {
 }  // namespace
 
 int main() {
-  Silent user;
+  shell::Listener user;
   shell::MemorySettings settings;
   shell::Workspace space(user, settings, nullptr);
   space.tables = shell::LoadTables(ZEPHA_BUILD_DIR);
