@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
 
@@ -267,6 +268,13 @@ TEST(Questions, ShowPlainTextsButtonsAndDefaults) {
   }
   EXPECT_EQ(NameFilters("ZEPHAデータ(*.zph)|*.zph"),
             QStringList{QStringLiteral("ZEPHAデータ (*.zph *.ZPH)")});
+  const QTemporaryDir folder;
+  forms::FileQuestion question{true, "", "ZEPHAデータ(*.zph)|*.zph", ".zph"};
+  question.folder = folder.path().toStdString();
+  question.name = "第1工場.zph";
+  EXPECT_EQ(FileBox(question, nullptr).Path(), question.folder + "/" + question.name);
+  question.folder += "/gone";
+  EXPECT_TRUE(FileBox(question, nullptr).directory().exists());
 }
 
 TEST(Icons, AreDrawnInTheTextColourAtEverySize) {
