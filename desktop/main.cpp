@@ -42,6 +42,7 @@ int main(int count, char** arguments) {
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   shell::Workspace& workspace = workbench.Space();
+  workspace.keepsUnits = true;
   workspace.recovery.UseFolder(shell::DefaultStateFolder());
   workspace.recovery.onTrouble = [&window](const std::string& text) { ShowQuietly(window, text); };
   QTimer recoveryTimer;
