@@ -41,6 +41,7 @@ int main(int count, char** arguments) {
                               &platform);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
+  presenter.KeepPlacesIn(settings);
   shell::Workspace& workspace = workbench.Space();
   workspace.keepsUnits = true;
   workspace.recovery.UseFolder(shell::DefaultStateFolder());

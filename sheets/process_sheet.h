@@ -18,13 +18,13 @@ using common::Real;
 using forms::Button;
 using forms::Cell;
 using forms::ComboBox;
-using forms::UnitBox;
 using forms::Form;
 using forms::Label;
 using forms::LabelStyle;
 using forms::OptionButton;
 using forms::ResultLabel;
 using forms::TextBox;
+using forms::UnitBox;
 
 class CalculationPage;
 
