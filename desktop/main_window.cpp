@@ -234,6 +234,7 @@ void MainWindow::Place(const shell::WindowPlacement& placement) {
   setWindowState(Qt::WindowNoState);
   move(normal_.topLeft());
   resize(normal_.size());
+  if (isFirst && toolBar_ != nullptr) MakeRoomFor({toolBar_->sizeHint().width(), 0});
   if (placement.state == shell::WindowPlacement::kMaximised) setWindowState(Qt::WindowMaximized);
 }
 
