@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <algorithm>
 #include <csignal>
+#include <functional>
+#include <utility>
 
 #include "desktop/application.h"
 #include "desktop/main_window.h"
@@ -17,12 +19,27 @@ namespace {
 
 /// How much work a crash may cost.
 constexpr int kRecoveryMs = 3000;
+/// How long the start waits for a frame around the window.
+constexpr int kFramedMs = 200;
 
 /// A hint that disappears by itself; work goes on without the copy.
 void ShowQuietly(const desktop::MainWindow& window, std::string text) {
   constexpr int kShownMs = 20000;
   std::replace(text.begin(), text.end(), '\n', ' ');
   window.statusBar()->showMessage(QString::fromStdString(text), kShownMs);
+}
+
+/// Goes on when the window manager has framed the window, or after a while where there is none. A
+/// window that is resized earlier ends up with its frame above the screen.
+void WhenFramed(const desktop::MainWindow& window, int patience, std::function<void()> next) {
+  constexpr int kPeriodMs = 10;
+  if (patience <= 0 || window.frameGeometry() != window.geometry()) {
+    next();
+    return;
+  }
+  QTimer::singleShot(kPeriodMs, &window, [&window, patience, next = std::move(next)]() mutable {
+    WhenFramed(window, patience - kPeriodMs, std::move(next));
+  });
 }
 
 }  // namespace
@@ -51,8 +68,10 @@ int main(int count, char** arguments) {
                    [&workspace] { shell::KeepRecovery(workspace); });
   splash.onEnd = [&] {
     window.show();
-    workbench.Start();
-    recoveryTimer.start(kRecoveryMs);
+    WhenFramed(window, kFramedMs, [&] {
+      workbench.Start();
+      recoveryTimer.start(kRecoveryMs);
+    });
   };
   workbench.Load();
   const int result = QApplication::exec();
