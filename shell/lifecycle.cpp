@@ -67,13 +67,11 @@ std::string FileToOpen(const Workspace& workspace, const std::string& wanted) {
   return {};
 }
 
-/// wanted: opened as by its command, "" for the last file.
+/// wanted: opened instead of the last file, "" for none.
 void RestoreDucts(Workspace& workspace, const std::string& wanted) {
   const std::string last = workspace.settings.Get(kScreen, "DuctFile");
   const std::string& path = wanted.empty() ? last : wanted;
-  if (path.empty()) return;
-  const bool opened = OpenDuctFile(workspace.ducts, path, workspace.Shown());
-  if (opened && !wanted.empty()) RememberFile(workspace, wanted);
+  if (!path.empty()) OpenDuctFile(workspace.ducts, path, workspace.Shown());
 }
 
 void RestoreFile(Workspace& workspace, const std::string& wanted) {
@@ -100,6 +98,8 @@ void RestoreSheet(Workspace& workspace) {
 void ShowDucts(Workspace& workspace) {
   OpenSheet(workspace, kDuctSheet);
   ShowDuctList(workspace);
+  const std::string& path = workspace.ducts.ductFileName;
+  if (!path.empty()) RememberFile(workspace, path);
 }
 
 void RestoreTag(Workspace& workspace) {
