@@ -1,12 +1,11 @@
 # What the programs find when they are installed, and the Debian package of it.
 include(GNUInstallDirs)
 
-set(ZEPHA_DATA_DIR ${CMAKE_INSTALL_DATADIR}/zepha/data)
-
-# Where the shipped data files are from the folder of the programs.
-file(RELATIVE_PATH shipped_data /${CMAKE_INSTALL_BINDIR} /${ZEPHA_DATA_DIR})
+# Data files and guide, and the way there from the folder of the programs.
+set(shared_folder ${CMAKE_INSTALL_DATADIR}/zepha)
+file(RELATIVE_PATH way_to_shared /${CMAKE_INSTALL_BINDIR} /${shared_folder})
 set_source_files_properties(shell/own_data.cpp PROPERTIES
-  COMPILE_DEFINITIONS ZEPHA_SHIPPED_DATA="${shipped_data}")
+  COMPILE_DEFINITIONS ZEPHA_SHARED_FOLDER="${way_to_shared}")
 
 # Users edit the files beside the programs of a build; those of the package come from their source.
 set(package_root ${PROJECT_BINARY_DIR}/package)
@@ -17,7 +16,7 @@ add_custom_target(package_data ALL
   VERBATIM)
 foreach(source IN LISTS data_sources)
   cmake_path(GET source FILENAME name)
-  install(FILES ${package_root}/data/${name} DESTINATION ${ZEPHA_DATA_DIR})
+  install(FILES ${package_root}/data/${name} DESTINATION ${shared_folder}/data)
 endforeach()
 
 install(TARGETS zepha zepha-headless)
@@ -29,7 +28,7 @@ install(FILES desktop/icons/app.svg DESTINATION ${icons}/apps RENAME zepha.svg)
 install(FILES package/application-x-zepha-instruments.svg package/application-x-zepha-ducts.svg
   DESTINATION ${icons}/mimetypes)
 
-# gzip without name and time, so that the same sources give the same package.
+# Without name and time of the source, as packages have it.
 function(install_compressed source name destination)
   set(target ${package_root}/${name}.gz)
   add_custom_command(OUTPUT ${target}
@@ -50,7 +49,7 @@ install(FILES package/copyright README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN guide EXCLUDE)
 install(FILES dat/SOURCES.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/dat)
 install(DIRECTORY samples DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY ${PROJECT_BINARY_DIR}/guide DESTINATION ${CMAKE_INSTALL_DATADIR}/zepha OPTIONAL)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/guide DESTINATION ${shared_folder} OPTIONAL)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

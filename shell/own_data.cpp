@@ -133,7 +133,7 @@ std::string NewerNote(const DataFolder& folder) {
   for (const std::string& name : folder.newer) names += "\n　" + name;
   return "次のデータファイルは編集されているため、新しい版に置き換えていません。" + names +
          "\n\n編集したファイル：" + folder.path + "\n新しい版：" + folder.shipped +
-         "\n\n新しい版を使うには、編集したファイルを別の場所に移し、起動し直してください。";
+         "\n\n新しい版を使うには、編集したファイルを移動して起動し直してください。";
 }
 
 }  // namespace
@@ -143,9 +143,12 @@ std::string ProgramFolder() {
   return fs::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
+std::string InstalledFolder(const std::string& programFolder, const std::string& name) {
+  return (fs::path(programFolder) / ZEPHA_SHARED_FOLDER / name).lexically_normal().string();
+}
+
 DataFolder FindDataFolder(const std::string& programFolder) {
-  const std::string shipped =
-      (fs::path(programFolder) / ZEPHA_SHIPPED_DATA).lexically_normal().string();
+  const std::string shipped = InstalledFolder(programFolder, "data");
   if (DataFilesIn(shipped).empty() || !DataFilesIn(programFolder).empty()) {
     return {programFolder, {}, {}, {}};
   }

@@ -19,6 +19,10 @@ struct DataFolder {
 /// The folder of the running program's file.
 std::string ProgramFolder();
 
+/// A folder of what is installed with the programs in that folder ("data", "guide"), whether it is
+/// there or not.
+std::string InstalledFolder(const std::string& programFolder, const std::string& name);
+
 /// The folder of the data files for programs in that folder: itself where data files stand beside
 /// them, as after a build; the user's own folder where they were installed, because the editors
 /// rewrite the files.
