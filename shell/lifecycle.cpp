@@ -60,7 +60,7 @@ void PassOver(Step step) {
 std::string FileToOpen(const Workspace& workspace, const std::string& wanted) {
   if (wanted.empty()) return {};
   std::error_code error;
-  const std::string path = std::filesystem::absolute(wanted, error).lexically_normal().string();
+  std::string path = std::filesystem::absolute(wanted, error).lexically_normal().string();
   if (std::filesystem::is_regular_file(path, error)) return path;
   workspace.Shown().Show("指定されたファイルは見つからないか、ファイルではありません。\n" + path,
                          {}, common::Icon::kWarning);
