@@ -1,5 +1,3 @@
-// The program started with the name of a file, after a run that ended with files of its own.
-
 #include <filesystem>
 
 #include "shell/lifecycle.h"
@@ -19,10 +17,10 @@ TEST(StartWithAFile, OpensTheWantedFileInsteadOfTheLastOneOfItsKind) {
   const std::string lastDucts = folder / "last.dct";
   const std::string none = folder / "none.zph";
   const std::string bad = folder / "bad.zph";
-  for (const std::string& copy : {last, other})
-    fs::copy(ZEPHA_SOURCE_DIR "/samples/plant.zph", copy);
-  for (const std::string& copy : {ducts, lastDucts}) {
-    fs::copy(ZEPHA_SOURCE_DIR "/samples/ducts.dct", copy);
+  for (const std::string& copy : {last, other, ducts, lastDucts}) {
+    fs::copy(ZEPHA_SOURCE_DIR "/samples/" +
+                 std::string(copy.ends_with("dct") ? "ducts.dct" : "plant.zph"),
+             copy);
   }
   fs::copy(ducts, bad);
   const std::string noFile = "指定されたファイルは見つからないか、ファイルではありません。\n";
