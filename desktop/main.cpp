@@ -13,6 +13,7 @@
 #include "desktop/splash.h"
 #include "sheets/workbench.h"
 #include "shell/instrument_file.h"
+#include "shell/own_data.h"
 #include "shell/recovery_commands.h"
 
 namespace {
@@ -48,19 +49,22 @@ int main(int count, char** arguments) {
   // A limit on the size of files is told like a full disk; the tags in memory must not go with it.
   std::signal(SIGXFSZ, SIG_IGN);
   QApplication application(count, arguments);
+  // Qt has taken its own words out; names of files are bytes.
+  const std::string file = count > 1 ? arguments[1] : "";
   desktop::PrepareApplication(application);
   desktop::Splash splash(QStringLiteral("Ver.") + QLatin1String(shell::kProgramVersion));
   splash.show();
   desktop::QtPresenter presenter;
   desktop::QtPlatform platform(presenter);
   shell::FileSettings settings(shell::DefaultSettingsPath());
-  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(), settings,
-                              &platform);
+  const shell::DataFolder data = shell::FindDataFolder(shell::ProgramFolder());
+  sheets::Workbench workbench(presenter, data.path, settings, &platform);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   presenter.KeepPlacesIn(settings);
   shell::Workspace& workspace = workbench.Space();
   workspace.keepsUnits = true;
+  workspace.dataNote = data.note;
   workspace.recovery.UseFolder(shell::DefaultStateFolder());
   workspace.recovery.onTrouble = [&window](const std::string& text) { ShowQuietly(window, text); };
   QTimer recoveryTimer;
@@ -69,7 +73,8 @@ int main(int count, char** arguments) {
   splash.onEnd = [&] {
     window.show();
     WhenFramed(window, kFramedMs, [&] {
-      workbench.Start();
+      workbench.Start(file);
+      shell::TakeNoteOfNewer(data);
       recoveryTimer.start(kRecoveryMs);
     });
   };

@@ -38,6 +38,8 @@ struct Workspace {
 
   /// Folder with the data files.
   std::string installDir;
+  /// What the start has to tell about that folder, "" for nothing.
+  std::string dataNote;
   Tables tables;
   /// The valve catalogue has been edited since its file was read or written.
   bool valvesModified = false;
