@@ -222,6 +222,11 @@ TEST(DownstreamTapDistance, InterpolatesAndDrawsTheEndsOut) {
     SCOPED_TRACE(row.beta);
     EXPECT_NEAR(DownstreamTapDistance(table, row.beta, 200), 200 * row.factor, 1e-9);
   }
+  // A beta that is less than 1e-6 below a row counts as on it: the pair behind is drawn out.
+  OrificeTable kink;
+  kink.downstreamTapFactor[9] = 1e6;  // at 0.55, 0 elsewhere
+  EXPECT_NEAR(DownstreamTapDistance(kink, 0.5 - 9e-7, 1), -18, 1e-6);
+  EXPECT_EQ(DownstreamTapDistance(kink, 0.5 - 11e-7, 1), 0);
 }
 
 }  // namespace

@@ -118,6 +118,7 @@ TEST(MeterFlowLimits, LowestVelocity) {
       {2, kGas, 0, 8.9, 3},
       {2, kGas, 2, 3.3, std::sqrt(31 / 3.3)},
       {2, kGas, 5, 3.4, std::pow(875 / 3.4, 0.2)},
+      {2, kGas, 2, 36.9, std::pow(875 / 36.9, 0.2)},
       {2, kGas, 2, 37, 2},
       {2, kGas, 3, 7.7, std::sqrt(31 / 7.7)},
       {2, kGas, 4, 7.8, 2},
