@@ -131,6 +131,9 @@ TEST(SensorFormula, HasItsRangesAndTerms) {
     EXPECT_NEAR(*CalcSensorOutput(table, kind, t, messages, ""), output, kind == kJPt ? 1e-5 : 1e-6)
         << t;
   }
+  for (const double t : {-50.0, 50.0}) {
+    EXPECT_NEAR(CalcTemperature(table, kJPt, t > 0 ? 50.00912 : t), t, 0.002);
+  }
 }
 
 TEST(SensorTable, RefusesDamagedFiles) {
