@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include <concepts>
+#include <iterator>
 #include <type_traits>
-#include <vector>
 
 #include "common/fault.h"
 

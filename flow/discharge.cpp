@@ -1,7 +1,6 @@
 #include "flow/discharge.h"
 
 #include <algorithm>
-#include <span>
 
 #include "common/number.h"
 #include "flow/rounds.h"

@@ -1,6 +1,5 @@
 #include "valve/opening.h"
 
-#include "common/number.h"
 #include "valve/quotient.h"
 
 namespace valve {

@@ -1,8 +1,6 @@
 #include "valve/valve_catalogue.h"
 
 #include <algorithm>
-#include <initializer_list>
-#include <string_view>
 
 #include "common/fields.h"
 #include "common/table_reader.h"

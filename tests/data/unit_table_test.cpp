@@ -1,6 +1,5 @@
 #include "data/unit_table.h"
 
-#include "common/text.h"
 #include "tests/data/shipped_data.h"
 
 namespace data {
