@@ -1,6 +1,7 @@
 #include "flow/integral_orifice.h"
 
 #include "common/number.h"
+#include "data/units.h"
 #include "flow/rounds.h"
 
 namespace flow {
@@ -12,13 +13,12 @@ using common::pow;
 using common::Real;
 using common::RoundDigits;
 using common::sqrt;
+using data::kMmH2OPerKgfCm2;
 
 namespace {
 
-constexpr double kWaterColumn = 10000;     // mmH2O per kgf/cm2
 constexpr double kUsablePressure = 0.75;   // share of the pressure that a differential may take
 constexpr double kLargestGroup1 = 200000;  // mmH2O
-constexpr int kGroup2Law = 3;              // where the law tables keep group 2
 
 /// Flow coefficients of the bores of group 1, from the makers' calibration; they are also those of
 /// the K values and of the laws of group 0.
@@ -63,7 +63,7 @@ bool RateFlow(const Equivalent& equivalent, const Volumes& volumes, Real rho, Bo
 
 /// The two notes on the differential, which come last in groups 0 and 2.
 void RateDifferential(const Range& range, const IntegralInputs& inputs, BoreRating& rating) {
-  if (rating.dP > inputs.p * kWaterColumn * kUsablePressure) {
+  if (rating.dP > inputs.p * kMmH2OPerKgfCm2 * kUsablePressure) {
     rating.note = kDifferentialTooLarge;
   } else if (rating.dP < range.low || rating.dP > range.high) {
     rating.note = kOutOfRange;
@@ -123,10 +123,10 @@ void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, const 
   if (inputs.fluidPhase == kLiquid) {
     rating.eps = 1;
     rating.dP = pow(Wmax / (kFlowConstant * Fa * K * sqrt(rho)), 2);
-    if (rating.dP > P * kWaterColumn * kUsablePressure) rating.note = kDifferentialTooLarge;
+    if (rating.dP > P * kMmH2OPerKgfCm2 * kUsablePressure) rating.note = kDifferentialTooLarge;
   } else {
     const Real beta = At(At(table.integralBeta, 1), i);
-    Real x = kStartDifferential * pow(Wn / Wmax, 2) / kWaterColumn / P;
+    Real x = kStartDifferential * pow(Wn / Wmax, 2) / kMmH2OPerKgfCm2 / P;
     Real eps = IntegralExpansion(x, beta, inputs.kappa);
     Real previous;
     Rounds rounds;
@@ -134,11 +134,11 @@ void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, const 
       rounds.Next();
       previous = eps;
       rating.dP = pow(Wmax / (kFlowConstant * Fa * eps * K * sqrt(rho)), 2);
-      if (rating.dP > P * kWaterColumn) {
+      if (rating.dP > P * kMmH2OPerKgfCm2) {
         rating.note = kDifferentialTooLarge;
         return;
       }
-      x = rating.dP * pow(Wn / Wmax, 2) / (P * kWaterColumn);
+      x = rating.dP * pow(Wn / Wmax, 2) / (P * kMmH2OPerKgfCm2);
       eps = IntegralExpansion(x, beta, inputs.kappa);
     } while (abs(eps - previous) / eps >= kSettled);
     rating.eps = eps;
@@ -154,8 +154,9 @@ void RateGroup2(const IntegralTable& table, const IntegralInputs& inputs, const 
   const int p = TablePhase(inputs);
   if (!RateFlow(p == 0 ? kWater : kAir, volumes, inputs.rho, rating)) return;
   // The exponents of this group's law stand in the file and are not used.
-  const Real dP =
-      (pow(*rating.equivalentFlow, 2) / At(At(At(table.integralA, kGroup2Law), p), i)) * 1000;
+  const Real dP = (pow(*rating.equivalentFlow, 2) /
+                   At(At(At(table.integralA, IntegralTable::kGroup2Law), p), i)) *
+                  1000;
   if (rating.re < (p == 0 ? 450 : 1220)) {
     rating.note = kReynoldsTooLow;
     return;

@@ -11,7 +11,8 @@ namespace flow {
 /// (list index), p phase (0 liquid, 1 gas), i bore. Groups 0 and 1 have six bores, group 2 seven.
 struct IntegralTable {
   static constexpr int kGroups = 3;
-  static constexpr int kModels = 4;       // models with a law; the last belongs to group 2
+  static constexpr int kModels = 4;       // models with a law
+  static constexpr int kGroup2Law = 3;    // the model whose law is that of group 2
   static constexpr int kNamedModels = 3;  // models of group 0
   static constexpr int kPhases = 2;
   static constexpr int kBores = 6;
@@ -27,7 +28,7 @@ struct IntegralTable {
   std::array<ByBore<common::Real>, kGroups> integralBeta{};  // [g][i]
   std::array<std::string, kNamedModels> integralModelName;   // [t]
 
-  // The law dP = a Q^b, [t][p][i]; t = 3 holds group 2.
+  // The law dP = a Q^b, [t][p][i]; t = kGroup2Law holds group 2.
   std::array<std::array<ByBore<common::Real>, kPhases>, kModels> integralA{};
   std::array<std::array<ByBore<common::Real>, kPhases>, kModels> integralB{};
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/number.h"
+#include "data/units.h"
 
 namespace flow {
 
@@ -188,7 +189,7 @@ VortexRatings RateVortexMeters(const VortexTable& table, const VortexInputs& inp
     rating.rangeLow = RoundDigits(range.qMin / inputs.scaleFlow * 100, 1);
     rating.rangeHigh = RoundDigits(range.qMax / inputs.scaleFlow * 100, 1);
     const Real dP = MeterPressureLoss(table, inputs, i);
-    rating.pressureLoss = dP * 10000;
+    rating.pressureLoss = dP * data::kMmH2OPerKgfCm2;
     rating.backPressure = 2.7 * dP + 1.3 * inputs.vapourPressure;
     rating.listed = dP < inputs.p && rating.rangeLow < 90 && rating.rangeHigh >= 90;
     if (!rating.listed) continue;
