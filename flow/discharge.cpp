@@ -52,19 +52,19 @@ DischargeEquation::DischargeEquation(ElementType type, Real reNor, float pipeBor
 }
 
 Coefficients DischargeEquation::At(Real beta) const {
-  if (type_ == kVenaContractaTapOrifice) return {std::nullopt, VenaContracta(beta)};
+  if (type_ == kVenaContractaTapOrifice) return {std::nullopt, VenaContractaCoefficient(beta)};
   Real c;
   if (type_ <= kCornerTapOrifice) {
-    c = Orifice(beta);
+    c = OrificeDischarge(beta);
   } else if (type_ <= kLongRadiusNozzle) {
-    c = Nozzle(beta);
+    c = NozzleDischarge(beta);
   } else {
-    c = Venturi(beta);
+    c = VenturiDischarge(beta);
   }
   return {c, Alpha(c, beta)};
 }
 
-Real DischargeEquation::Orifice(Real beta) const {
+Real DischargeEquation::OrificeDischarge(Real beta) const {
   const Real beta2 = beta * beta;
   const Real beta4 = beta2 * beta2;
   const Real beta8 = beta4 * beta4;
@@ -79,7 +79,7 @@ Real DischargeEquation::Orifice(Real beta) const {
   return c;
 }
 
-Real DischargeEquation::VenaContracta(Real beta) const {
+Real DischargeEquation::VenaContractaCoefficient(Real beta) const {
   const Real d2 = pipeBore_ * pipeBore_;
   const Real k0 = 0.5922 + 0.4252 * (0.3871 / (d2 * pow(beta, 2) + 0.254 * pipeBore_) +
                                      pow(beta, 4) + 1.25 * pow(beta, 16));
@@ -88,13 +88,13 @@ Real DischargeEquation::VenaContracta(Real beta) const {
   return k0 + b * reynoldsTerm_;
 }
 
-Real DischargeEquation::Nozzle(Real beta) const {
+Real DischargeEquation::NozzleDischarge(Real beta) const {
   if (type_ == kLongRadiusNozzle) return 0.9965 - 0.00653 * sqrt(kMillion * beta / reNor_);
   return 0.99 - 0.2262 * pow(beta, Real(4.1)) -
          (0.00175 * pow(beta, 2) - 0.0033 * pow(beta, Real(4.15))) * reynoldsTerm_;
 }
 
-Real DischargeEquation::Venturi(Real beta) const {
+Real DischargeEquation::VenturiDischarge(Real beta) const {
   switch (type_) {
     case kAsCastVenturi:
       return 0.984;
@@ -105,22 +105,6 @@ Real DischargeEquation::Venturi(Real beta) const {
     default:
       return 0.9858 - 0.196 * pow(beta, Real(4.5));
   }
-}
-
-Coefficients OrificeDischarge(ElementType type, Real reNor, Real beta, float pipeBore) {
-  return DischargeEquation(type, reNor, pipeBore).At(beta);
-}
-
-Real VenaContractaCoefficient(Real reNor, Real beta, float pipeBore) {
-  return DischargeEquation(kVenaContractaTapOrifice, reNor, pipeBore).At(beta).alpha;
-}
-
-Coefficients NozzleDischarge(ElementType type, Real reNor, Real beta) {
-  return DischargeEquation(type, reNor, 0).At(beta);
-}
-
-Coefficients VenturiDischarge(ElementType type, Real beta) {
-  return DischargeEquation(type, 0, 0).At(beta);
 }
 
 Real ExpansionFactor(ElementType type, Real beta, Real x, Real kappa) {
@@ -294,8 +278,6 @@ ReynoldsRange QuarterCircleLimits(const OrificeTable& table, Real beta) {
           Interpolate(At(high, i), At(high, i + 1), b0, beta, b0 + 0.1)};
 }
 
-Real AtLeast(Real value, Real floor) { return value < floor ? floor : value; }
-
 }  // namespace
 
 ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, Real beta,
@@ -304,10 +286,10 @@ ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, Real b
   const Real pipeTerm = 170 * beta2 * Real(pipeBore);
   switch (type) {
     case kFlangeTapOrifice:
-      return {AtLeast(pipeTerm, 5000), kNoLimit};
+      return {std::max(pipeTerm, Real(5000)), kNoLimit};
     case kDAndHalfDTapOrifice:
     case kCornerTapOrifice:
-      return {AtLeast(beta <= 0.56 ? Real(5000) : 16000 * beta2, pipeTerm), kNoLimit};
+      return {std::max(beta <= 0.56 ? Real(5000) : 16000 * beta2, pipeTerm), kNoLimit};
     case kVenaContractaTapOrifice:
       return {VenaContractaReLow(beta, pipeBore), pipeBore <= 125 ? 1000000 : 10000000};
     case kQuarterCircleOrifice:
@@ -327,10 +309,10 @@ Real PermanentLoss(ElementType type, Real dP, Real alpha, Real beta, Real c) {
   const Real beta2 = pow(beta, 2);
   if (type == kQuarterCircleOrifice) return dP * (1 - alpha * beta2) / (1 + alpha * beta2);
   if (type == kVenturiNozzle) {
-    return dP * AtLeast(0.0924 * pow(beta, Real(-0.7422)), 0.11);
+    return dP * std::max(0.0924 * pow(beta, Real(-0.7422)), Real(0.11));
   }
   if (FamilyOf(type) == ElementFamily::kVenturi) {
-    return dP * AtLeast(0.085 * pow(beta, Real(-0.3463)), 0.1);
+    return dP * std::max(0.085 * pow(beta, Real(-0.3463)), Real(0.1));
   }
   const Real r = sqrt(1 - pow(beta, 4) * (1 - pow(c, 2)));
   const Real q = c * beta2;

@@ -30,10 +30,22 @@ class DischargeEquation {
   Coefficients At(common::Real beta) const;
 
  private:
-  common::Real Orifice(common::Real beta) const;
-  common::Real VenaContracta(common::Real beta) const;
-  common::Real Nozzle(common::Real beta) const;
-  common::Real Venturi(common::Real beta) const;
+  /// Orifice plate with flange, D and D/2 or corner taps (types 0, 1, 2): Reader-Harris/Gallagher
+  /// equation, ISO 5167-2:2003 clause 5.3.2.1 = JIS Z 8762-2:2007, below 71.12 mm (in single
+  /// precision) with the correction for small pipes. Valid for beta 0.1 to 0.75, D 50 to 1000 mm.
+  common::Real OrificeDischarge(common::Real beta) const;
+
+  /// Flow coefficient alpha of an orifice plate with vena contracta taps (type 3), older metric
+  /// form with D in mm, beta 0.1 to 0.8. There is no C.
+  common::Real VenaContractaCoefficient(common::Real beta) const;
+
+  /// ISA 1932 nozzle (type 5), ISO 5167-3:2003 clause 5.1.6.2 (beta 0.3 to 0.8), and long radius
+  /// nozzle (type 6), clause 5.2.6.2 (beta 0.2 to 0.8).
+  common::Real NozzleDischarge(common::Real beta) const;
+
+  /// Classical venturi tubes (types 7 to 9), ISO 5167-4:2003 clause 5.5, and venturi nozzle (type
+  /// 10), ISO 5167-3:2003 clause 5.3.4.2; none of them depends on the Reynolds number.
+  common::Real VenturiDischarge(common::Real beta) const;
 
   ElementType type_;
   common::Real reNor_;
@@ -44,25 +56,6 @@ class DischargeEquation {
   common::Real upstreamTerm_;
   common::Real smallBoreTerm_;
 };
-
-/// Orifice plate with flange, D and D/2 or corner taps (types 0, 1, 2): Reader-Harris/Gallagher
-/// equation, ISO 5167-2:2003 clause 5.3.2.1 = JIS Z 8762-2:2007. reNor: pipe Reynolds number;
-/// pipeBore: D in mm, below 71.12 mm (in single precision) with the correction for small pipes.
-/// Valid for beta 0.1 to 0.75, D 50 to 1000 mm.
-Coefficients OrificeDischarge(ElementType type, common::Real reNor, common::Real beta,
-                              float pipeBore);
-
-/// Flow coefficient alpha of an orifice plate with vena contracta taps (type 3), older metric form
-/// with D in mm, beta 0.1 to 0.8. There is no C.
-common::Real VenaContractaCoefficient(common::Real reNor, common::Real beta, float pipeBore);
-
-/// ISA 1932 nozzle (type 5), ISO 5167-3:2003 clause 5.1.6.2 (beta 0.3 to 0.8), and long radius
-/// nozzle (type 6), clause 5.2.6.2 (beta 0.2 to 0.8). reNor: pipe Reynolds number.
-Coefficients NozzleDischarge(ElementType type, common::Real reNor, common::Real beta);
-
-/// Classical venturi tubes (types 7 to 9), ISO 5167-4:2003 clause 5.5, and venturi nozzle (type
-/// 10), ISO 5167-3:2003 clause 5.3.4.2; none of them depends on the Reynolds number.
-Coefficients VenturiDischarge(ElementType type, common::Real beta);
 
 /// Expansion factor of all types but 4 for gas and steam. x: differential over absolute pressure,
 /// both at normal flow. Types 0 to 2: ISO 5167-2:2003 clause 5.3.2.2; types 5 to 10: ISO

@@ -107,7 +107,7 @@ TEST(Sizing, ResultsSatisfyTheFlowEquationInSi) {
       }
       if (type <= kCornerTapOrifice) {
         EXPECT_EQ(result->alpha,
-                  OrificeDischarge(Type(type), result->reNor, result->beta, 200).alpha);
+                  DischargeEquation(Type(type), result->reNor, 200).At(result->beta).alpha);
       }
     }
   }
