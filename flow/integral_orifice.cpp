@@ -104,46 +104,60 @@ Real ThermalExpansion(Real T) {
   return pow(1 + aT * 1e-06 * (T - 20), 2);
 }
 
+/// Finds the differential of a gas or steam together with its expansion factor. flowShare: square
+/// of normal over scale flow; differential: that of an expansion factor, mmH2O. False: noted.
+template <class Differential>
+bool SettleExpansion(const IntegralInputs& inputs, Real flowShare, Real beta,
+                     Differential differential, BoreRating& rating) {
+  constexpr double kStartDifferential = 1000;  // mmH2O
+  constexpr double kSettled = 0.0001;
+  const Real P = inputs.p;
+  const Real x0 = kStartDifferential * flowShare / kMmH2OPerKgfCm2 / P;
+  Real eps = IntegralExpansion(x0, beta, inputs.kappa);
+  Real previous;
+  Rounds rounds;
+  do {
+    rounds.Next();
+    previous = eps;
+    rating.dP = differential(eps);
+    if (rating.dP > P * kMmH2OPerKgfCm2) {
+      rating.note = kDifferentialTooLarge;
+      return false;
+    }
+    const Real x = rating.dP * flowShare / (P * kMmH2OPerKgfCm2);
+    eps = IntegralExpansion(x, beta, inputs.kappa);
+  } while (abs(eps - previous) / eps >= kSettled);
+  rating.eps = eps;
+  return true;
+}
+
 void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, const Volumes& volumes,
                 int i, BoreRating& rating) {
   // kg/h through the 14 mm pipe: 0.0125218 * 14.008^2.
   constexpr double kFlowConstant = 2.457;
-  constexpr double kStartDifferential = 1000;  // mmH2O
-  constexpr double kSettled = 0.0001;
-  const Real rho = inputs.rho;
-  const Real P = inputs.p;
-  const Real Wmax = volumes.Q * rho;
-  const Real Wn = volumes.Qn * rho;
   if (rating.re < At(table.integralReLow, i)) {
     rating.note = kReynoldsTooLow;
     return;
   }
+  const Real rho = inputs.rho;
+  const Real Wmax = volumes.Q * rho;
+  const Real Wn = volumes.Qn * rho;
   const Real Fa = ThermalExpansion(inputs.temperatureC);
   const Real K = At(table.integralK, i);
+  const auto differential = [&](Real eps) {
+    return pow(Wmax / (kFlowConstant * Fa * eps * K * sqrt(rho)), 2);
+  };
   if (inputs.fluidPhase == kLiquid) {
     rating.eps = 1;
-    rating.dP = pow(Wmax / (kFlowConstant * Fa * K * sqrt(rho)), 2);
-    if (rating.dP > P * kMmH2OPerKgfCm2 * kUsablePressure) rating.note = kDifferentialTooLarge;
-  } else {
-    const Real beta = At(At(table.integralBeta, 1), i);
-    Real x = kStartDifferential * pow(Wn / Wmax, 2) / kMmH2OPerKgfCm2 / P;
-    Real eps = IntegralExpansion(x, beta, inputs.kappa);
-    Real previous;
-    Rounds rounds;
-    do {
-      rounds.Next();
-      previous = eps;
-      rating.dP = pow(Wmax / (kFlowConstant * Fa * eps * K * sqrt(rho)), 2);
-      if (rating.dP > P * kMmH2OPerKgfCm2) {
-        rating.note = kDifferentialTooLarge;
-        return;
-      }
-      x = rating.dP * pow(Wn / Wmax, 2) / (P * kMmH2OPerKgfCm2);
-      eps = IntegralExpansion(x, beta, inputs.kappa);
-    } while (abs(eps - previous) / eps >= kSettled);
-    rating.eps = eps;
+    rating.dP = differential(1);
+    if (rating.dP > inputs.p * kMmH2OPerKgfCm2 * kUsablePressure) {
+      rating.note = kDifferentialTooLarge;
+    }
+  } else if (!SettleExpansion(inputs, pow(Wn / Wmax, 2), At(At(table.integralBeta, 1), i),
+                              differential, rating)) {
+    return;
   }
-  if (rating.note.empty() && rating.dP > kLargestGroup1) rating.note = kDifferentialTooLarge;
+  if (rating.dP > kLargestGroup1) rating.note = kDifferentialTooLarge;
   if (rating.note.empty()) rating.alpha = At(kAlpha, i);
 }
 
