@@ -31,6 +31,9 @@ std::string CodePageForm(const std::string& text);
 /// full-width character, one for a half-width one.
 int Cp932Length(std::string_view text);
 
+/// Whether a text has nothing but blanks.
+bool IsBlank(std::string_view text);
+
 /// The text in capital letters: Latin, Greek and Cyrillic, half-width and full-width. Independent
 /// of the locale; two such texts compare by code point.
 std::string UpperCase(std::string_view text);

@@ -80,8 +80,6 @@ const CodeCell* FindCodeCell(FluidPhase phase, int field) {
   return found == cells.end() ? nullptr : &*found;
 }
 
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
-
 /// Names and the fields behind the last range, which no estimator reads.
 bool IsFreeText(FluidPhase phase, int field) {
   const int lastRead = phase == kLiquid ? int{kLiquidVapourHigh} : int{kGasHeatHigh};
@@ -92,12 +90,12 @@ bool IsFreeText(FluidPhase phase, int field) {
 bool IsKnown(const CodeCell& cell, const std::string& code) {
   if (cell.field == kLiquidDensityCode && cell.phase == kLiquid) {
     if (code.starts_with(kNoEquation)) return true;
-  } else if (IsBlank(code)) {
+  } else if (common::IsBlank(code)) {
     return true;
   }
   return std::any_of(cell.codes.begin(), cell.codes.end(), [&](const std::string& known) {
     if (cell.text) return code == known;
-    return common::IsNumber(code) && common::Val(code) == common::Val(known);
+    return common::WholeNumber(code) == common::Val(known);
   });
 }
 
@@ -124,11 +122,11 @@ std::string FluidCellRemark(FluidPhase phase, const FluidTable::Record& record, 
   if (const auto foreign = common::FirstOutsideCp932(text)) {
     return "「" + *foreign + "」はファイルに保存できない文字です。";
   }
-  if (IsFreeText(phase, field) || IsBlank(record[kLiquidName])) return {};
+  if (IsFreeText(phase, field) || common::IsBlank(record[kLiquidName])) return {};
   if (const CodeCell* const cell = FindCodeCell(phase, field)) {
     return IsKnown(*cell, text) ? std::string() : "推算式の番号が不明です。推算値は得られません。";
   }
-  if (IsBlank(text)) return BlankEndRemark(phase, field, text);
+  if (common::IsBlank(text)) return BlankEndRemark(phase, field, text);
   if (common::IsNumber(text)) return {};
   try {
     return "数値ではありません。" + common::NumberText(common::Val(text)) + "として計算されます。";
