@@ -8,15 +8,13 @@
 namespace flow {
 
 using common::At;
+using common::kSinglePi;
 using common::pow;
 using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 
 namespace {
-
-/// pi in single precision, as the flows of these meters have it.
-constexpr double kSinglePi = 3.1415927410125732;
 
 /// Makers 0 and 1 state frequency and Reynolds bounds of their own, the others do not.
 bool IsFirstMakers(const VortexInputs& inputs) { return inputs.maker <= 1; }
