@@ -12,7 +12,6 @@ using common::At;
 using common::Icon;
 using common::Messages;
 using common::NumberText;
-using common::Real;
 using common::RoundDigits;
 using data::kMmH2OPerKgfCm2;
 

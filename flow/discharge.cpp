@@ -9,7 +9,6 @@ namespace flow {
 
 using common::At;
 using common::Interpolate;
-using common::Real;
 
 namespace {
 

@@ -10,7 +10,6 @@ using common::abs;
 using common::At;
 using common::log;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 using data::kMmH2OPerKgfCm2;

@@ -9,7 +9,6 @@ namespace flow {
 using common::abs;
 using common::kSinglePi;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 

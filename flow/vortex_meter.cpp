@@ -10,7 +10,6 @@ namespace flow {
 using common::At;
 using common::kSinglePi;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 

@@ -10,7 +10,6 @@ namespace piping {
 namespace {
 
 using common::IsBlank;
-using common::Real;
 using common::RoundDigits;
 using common::Val;
 
