@@ -1,6 +1,7 @@
 #include "flow/discharge.h"
 
 #include <algorithm>
+#include <array>
 
 #include "common/number.h"
 #include "flow/rounds.h"
@@ -123,16 +124,28 @@ Real QuarterCircleExpansion(Real beta, Real x, Real kappa) {
          0.1 * pow(1 - pow(1 - x, 1 / kappa), Real(1.15));
 }
 
+namespace {
+
+using QuarterCircleColumn = std::array<Real, OrificeTable::kQuarterCircleRows>;
+constexpr int kLastRow = OrificeTable::kQuarterCircleRows - 1;
+
+/// A column of the quarter circle table at x of another column, within the pair of rows from `row`
+/// on; the last row belongs to the last pair.
+Real Between(const QuarterCircleColumn& column, const QuarterCircleColumn& abscissa, Real x,
+             int row) {
+  const int pair = row == kLastRow ? kLastRow - 1 : row;
+  return Interpolate(At(column, pair), At(column, pair + 1), At(abscissa, pair), x,
+                     At(abscissa, pair + 1));
+}
+
+}  // namespace
+
 QuarterCircle QuarterCircleFromBeta(const OrificeTable& table, Real beta, float pipeBore) {
-  constexpr int kLast = OrificeTable::kQuarterCircleRows - 1;
-  const int i = common::IntIndex(200 * beta - 40);
-  const int pair = i == kLast ? kLast - 1 : i;
-  const auto over = [&](const auto& column) {
-    return Interpolate(At(column, pair), At(column, pair + 1), At(table.tableBeta, pair), beta,
-                       At(table.tableBeta, pair + 1));
-  };
-  const Real s = i == kLast ? At(table.tableS, kLast) : over(table.tableS);
-  return {s, s / pow(beta, 2), Real(pipeBore) * over(table.tableRadius)};
+  const int row = common::IntIndex(200 * beta - 40);
+  const Real s = row == kLastRow ? At(table.tableS, kLastRow)
+                                 : Between(table.tableS, table.tableBeta, beta, row);
+  const Real radius = Between(table.tableRadius, table.tableBeta, beta, row);
+  return {s, s / pow(beta, 2), Real(pipeBore) * radius};
 }
 
 namespace {
@@ -144,18 +157,9 @@ constexpr double kSMax = 0.503;
 /// Row of the quarter circle table at or below S, from a guess that is a few rows too high. Ends
 /// with an index fault should the table start above S.
 int RowOf(const OrificeTable& table, Real s) {
-  constexpr int kLast = OrificeTable::kQuarterCircleRows - 1;
-  int i = std::min(common::IntIndex(220 * pow(s, Real(0.29)) - 76), kLast);
-  while (s < At(table.tableS, i)) --i;
-  return i;
-}
-
-/// A column of the quarter circle table at S, within the pair of rows from `row` on.
-Real OverS(const OrificeTable& table,
-           const std::array<Real, OrificeTable::kQuarterCircleRows>& column, Real s, int row) {
-  const int pair = std::min(row, OrificeTable::kQuarterCircleRows - 2);
-  return Interpolate(At(column, pair), At(column, pair + 1), At(table.tableS, pair), s,
-                     At(table.tableS, pair + 1));
+  int row = std::min(common::IntIndex(220 * pow(s, Real(0.29)) - 76), kLastRow);
+  while (s < At(table.tableS, row)) --row;
+  return row;
 }
 
 /// Tells that S lies outside its span; true if it does.
@@ -179,7 +183,7 @@ bool SolveS(const Context& context, const OrificeTable& table, Real s0, Real x, 
   while (abs(prev / s - 1) > kRelativeStep) {
     rounds.Next();
     prev = s;
-    const Real beta = OverS(table, table.tableBeta, s, RowOf(table, s));
+    const Real beta = Between(table.tableBeta, table.tableS, s, RowOf(table, s));
     eps = QuarterCircleExpansion(beta, x, context.kappa);
     if (eps <= 0) {
       messages.Show("データが異常のようです。確認してください。");
@@ -206,9 +210,9 @@ std::optional<QuarterCircleSolution> QuarterCircleFromS(Context& context, const 
     return solution;
   }
   const int row = RowOf(table, s);
-  solution.beta = OverS(table, table.tableBeta, s, row);
+  solution.beta = Between(table.tableBeta, table.tableS, s, row);
   solution.alpha = s / pow(solution.beta, 2);
-  solution.radius = Real(context.pipeBore) * OverS(table, table.tableRadius, s, row);
+  solution.radius = Real(context.pipeBore) * Between(table.tableRadius, table.tableS, s, row);
   return solution;
 }
 
