@@ -83,6 +83,7 @@ TEST(SaturationTemperature, AgreesWithIf97) {
     EXPECT_NEAR(celsius + 273.15, row.kelvin, row.tolerance);
   }
 }
+
 TEST(SaturationTemperature, EndsForEveryPressure) {
   // Above the critical pressure the line goes on; the tables end at 647.1 K.
   EXPECT_GT(SaturationTemperature(SteamState(226, 0)), 374);

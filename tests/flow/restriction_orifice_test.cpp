@@ -37,6 +37,7 @@ RestrictionInputs Air() {
   inputs.kappa = 1.4;
   return inputs;
 }
+
 // Thin plate 0.61 and full flow 1; the cubic meets the thin plate at 0.1 and the line at 0.9 to
 // the rounding of its coefficients.
 TEST(ThicknessCoefficient, JoinsItsBranches) {

@@ -52,6 +52,7 @@ TEST_F(SensorTest, AgreesWithThePublishedTables) {
         << table.sensorName[static_cast<std::size_t>(row.kind)] << " " << row.t;
   }
 }
+
 TEST_F(SensorTest, LimitsAreInsideAndBeyondThemItSaysSo) {
   for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
     const Real low = common::At(table.rangeLow, kind)[0];
