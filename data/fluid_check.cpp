@@ -10,8 +10,6 @@ namespace data {
 
 namespace {
 
-constexpr const char* kNoEquation = "     ";
-
 /// A cell that holds the code of an equation. The liquid's density and vapour pressure have texts,
 /// which must be exact; the others have numbers.
 struct CodeCell {
@@ -27,7 +25,7 @@ const std::vector<CodeCell>& CodeCells() {
       {kLiquid,
        kLiquidDensityCode,
        true,
-       {"1", "2", "3", "NH3", "H2O", kNoEquation},
+       {"1", "2", "3", "NH3", "H2O", kFiveBlanks},
        "1: A + B･T + C･T^2 + D･T^3\n"
        "2: A･f(TK/C)/f(B/C)　A: 温度B(K)での密度、C: 臨界温度(K)\n"
        "3: A - B･T - C/(D - T)\n"
@@ -89,7 +87,7 @@ bool IsFreeText(FluidPhase phase, int field) {
 /// Whether the estimators know the code; one that is a number may be written in any way.
 bool IsKnown(const CodeCell& cell, const std::string& code) {
   if (cell.field == kLiquidDensityCode && cell.phase == kLiquid) {
-    if (code.starts_with(kNoEquation)) return true;
+    if (code.starts_with(kFiveBlanks)) return true;
   } else if (common::IsBlank(code)) {
     return true;
   }
@@ -107,7 +105,7 @@ std::string BlankEndRemark(FluidPhase phase, int field, const std::string& text)
                        [field](int low) { return field == low || field == low + 1; });
   };
   if (phase == kGas && isOneOf({kGasHeatLow})) {
-    return text == kNoEquation ? "" : "0℃として扱われます。範囲なしは空白5文字とします。";
+    return text == kFiveBlanks ? "" : "0℃として扱われます。範囲なしは空白5文字とします。";
   }
   const bool end = phase == kLiquid
                        ? isOneOf({kLiquidDensityLow, kLiquidViscosityLow, kLiquidVapourLow})

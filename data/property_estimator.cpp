@@ -31,9 +31,6 @@ namespace {
 
 constexpr const char* kTitle = "物性推算";
 
-/// What stands in a cell for "no equation" and, in the heat capacity's range, for "no limit".
-constexpr const char* kFiveBlanks = "     ";
-
 constexpr const char* kPressureUnsupported =
     "圧縮係数推算式は、Pr=1.0 以上をサポートしておりません。  Pr= ";
 

@@ -69,14 +69,16 @@ Fatigue JudgeFatigue(const Thermowell& well, Real randomStress) {
 
 void FindRandomStress(const Thermowell& well, Real velocity, Real reducedVelocity,
                       common::Messages& messages, ThermowellFindings& findings) {
-  findings.randomStress = 0;
-  if (well.insertionLength == 0) return;
+  if (well.insertionLength == 0) {
+    findings.randomStress = 0;
+    return;
+  }
   if (reducedVelocity >= kRandomForceVr) {
+    findings.randomStress = 0;
     messages.Show("ﾗﾝﾀﾞﾑ励振力の計算は、\nＶr＞５ 以上の領域に対応していません。", "ﾗﾝﾀﾞﾑ励振力");
     findings.fatigue = Fatigue::kBeyondRange;
     return;
   }
-  findings.randomStress.reset();
   findings.randomStress =
       CalcRandomStress(well, velocity, findings.natural->hertz[0], reducedVelocity);
 }
