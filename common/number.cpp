@@ -131,8 +131,6 @@ std::optional<Real> WholeNumber(std::string_view text) {
   return prefix.value;
 }
 
-bool IsNumber(std::string_view text) { return WholeNumber(text).has_value(); }
-
 std::string NumberText(Real value) {
   // Beyond it 15 digits would round up to a number that no double can hold, and that could not be
   // read back.

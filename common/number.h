@@ -17,9 +17,6 @@ Real Val(std::string_view text);
 /// that Val takes all of it; nothing for any other text and beyond a double.
 std::optional<Real> WholeNumber(std::string_view text);
 
-/// Whether a text is such a number.
-bool IsNumber(std::string_view text);
-
 /// Number as text with up to 15 significant digits, point as decimal sign, "1E-05" below 0.0001.
 std::string NumberText(Real value);
 

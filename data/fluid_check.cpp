@@ -125,7 +125,7 @@ std::string FluidCellRemark(FluidPhase phase, const FluidTable::Record& record, 
     return IsKnown(*cell, text) ? std::string() : "推算式の番号が不明です。推算値は得られません。";
   }
   if (common::IsBlank(text)) return BlankEndRemark(phase, field, text);
-  if (common::IsNumber(text)) return {};
+  if (common::WholeNumber(text)) return {};
   try {
     return "数値ではありません。" + common::NumberText(common::Val(text)) + "として計算されます。";
   } catch (const common::RuntimeFault&) {
