@@ -94,7 +94,8 @@ void CoefficientCall(benchmark::State& state) {
   common::Real beta = 0.5;
   for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(beta);
-    benchmark::DoNotOptimize(flow::OrificeDischarge(flow::kFlangeTapOrifice, 70000, beta, 102.3F));
+    benchmark::DoNotOptimize(
+        flow::DischargeEquation(flow::kFlangeTapOrifice, 70000, 102.3F).At(beta));
   }
   state.SetItemsProcessed(state.iterations());
 }

@@ -40,4 +40,13 @@ std::optional<std::string> FieldReader::Next() {
 
 std::string QuotedField(std::string_view text) { return '"' + std::string(text) + '"'; }
 
+std::string QuotedLine(std::span<const std::string> texts) {
+  std::string line;
+  for (const std::string& text : texts) {
+    if (!line.empty()) line += ',';
+    line += QuotedField(text);
+  }
+  return line + "\r\n";
+}
+
 }  // namespace common

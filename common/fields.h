@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -29,5 +30,8 @@ class FieldReader {
 
 /// A field in quotes. A quote inside is written as it stands and ends the field on reading.
 std::string QuotedField(std::string_view text);
+
+/// A line of such fields with its end.
+std::string QuotedLine(std::span<const std::string> texts);
 
 }  // namespace common

@@ -18,7 +18,7 @@ namespace {
 
 constexpr off_t kLargestFile = 64LL << 20;
 constexpr std::string_view kUnfinished("\0", 1);
-constexpr const char* kNoFile = "通常のファイルではありません。";
+constexpr const char* kNotRegular = "通常のファイルではありません。";
 
 class Descriptor {
  public:
@@ -41,45 +41,39 @@ class Descriptor {
                      std::string(FaultText(Fault::kFileAccess)) + "\n" + path + "\n" + reason);
 }
 
-[[noreturn]] void RaiseFileFault(const std::string& path, int error) {
-  if (error == ENOENT || error == ENOTDIR) throw RuntimeFault(Fault::kFileNotFound);
-  std::string reason;
+std::string ReasonOf(int error) {
   switch (error) {
     case ENOSPC:
     case EDQUOT:
-      reason = "ディスクの空き容量が不足しています。";
-      break;
+      return "ディスクの空き容量が不足しています。";
     case EFBIG:
-      reason = "ファイルが大きすぎます。";
-      break;
+      return "ファイルが大きすぎます。";
     case EACCES:
     case EPERM:
     case EROFS:
-      reason = "アクセスが許可されていません。";
-      break;
+      return "アクセスが許可されていません。";
     case EISDIR:
-      reason = "ファイルではなくフォルダです。";
-      break;
+      return "ファイルではなくフォルダです。";
     case ENAMETOOLONG:
-      reason = "ファイル名が長すぎます。";
-      break;
+      return "ファイル名が長すぎます。";
     case EBUSY:
     case ETXTBSY:
-      reason = "ほかのプログラムが使用中です。";
-      break;
+      return "ほかのプログラムが使用中です。";
     case EIO:
     case ESTALE:
-      reason = "ディスクまたはネットワークの読み書きに失敗しました。";
-      break;
+      return "ディスクまたはネットワークの読み書きに失敗しました。";
     case ENXIO:
     case ENODEV:
-      reason = kNoFile;
-      break;
+      return kNotRegular;
     default:
       // The system's own words are in the language and the code of the locale.
-      reason = "システムエラー " + std::to_string(error) + " が発生しました。";
+      return "システムエラー " + std::to_string(error) + " が発生しました。";
   }
-  RaiseAccessFault(path, reason);
+}
+
+[[noreturn]] void RaiseFileFault(const std::string& path, int error) {
+  if (error == ENOENT || error == ENOTDIR) throw RuntimeFault(Fault::kFileNotFound);
+  RaiseAccessFault(path, ReasonOf(error));
 }
 
 void WriteAll(const Descriptor& file, const std::string& path, std::string_view bytes) {
@@ -128,7 +122,7 @@ std::string ReadFile(const std::string& path) {
   struct stat status {};
   if (file.Number() < 0 || fstat(file.Number(), &status) != 0) RaiseFileFault(path, errno);
   if (S_ISDIR(status.st_mode)) RaiseFileFault(path, EISDIR);
-  if (!S_ISREG(status.st_mode)) RaiseAccessFault(path, kNoFile);
+  if (!S_ISREG(status.st_mode)) RaiseAccessFault(path, kNotRegular);
   if (status.st_size > kLargestFile) RaiseFileFault(path, EFBIG);
   std::string bytes;
   char buffer[65536];

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <utility>
 
 namespace common {
@@ -85,76 +86,49 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 /// The blanks that the runtime skips inside a number.
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
+/// The longest prefix that is a number, of a text without blanks.
+struct NumericPrefix {
+  double value = 0;
+  std::size_t length = 0;
+  bool tooLarge = false;  // beyond a double
+};
+
+NumericPrefix PrefixOf(std::string text) {
+  const std::size_t sign = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
+  // from_chars would take words for infinity, too.
+  if (sign == text.size() || !(IsDigit(text[sign]) || text[sign] == '.')) return {};
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == 'd' || c == 'D'; }, 'e');
+  const char* const begin = text.data() + (text.front() == '+' ? 1 : 0);
+  NumericPrefix prefix;
+  const auto result = std::from_chars(begin, text.data() + text.size(), prefix.value);
+  if (result.ec == std::errc::invalid_argument) return {};
+  prefix.length = static_cast<std::size_t>(result.ptr - text.data());
+  if (result.ec == std::errc::result_out_of_range) {
+    // The value is left alone; a negative exponent means that it is too small to count.
+    const std::string_view number(begin, result.ptr);
+    const auto mark = number.find_first_of("eE");
+    prefix.tooLarge = mark == std::string_view::npos || number[mark + 1] != '-';
+  }
+  return prefix;
+}
+
 }  // namespace
 
 Real Val(std::string_view text) {
-  std::string number;
-  bool point = false;
-  bool anyDigit = false;
-  enum { kMantissa, kExponentSign, kExponent } state = kMantissa;
-  for (const char c : text) {
-    if (IsBlank(c)) continue;
-    if (IsDigit(c)) {
-      anyDigit = true;
-      if (state == kExponentSign) state = kExponent;
-    } else if (c == '.' && state == kMantissa && !point) {
-      point = true;
-    } else if ((c == '+' || c == '-') &&
-               (number.empty() || (state == kExponentSign && number.back() == 'e'))) {
-    } else if ((c == 'e' || c == 'E' || c == 'd' || c == 'D') && state == kMantissa && anyDigit) {
-      state = kExponentSign;
-      number += 'e';
-      continue;
-    } else {
-      break;
-    }
-    number += c;
-  }
-  if (!anyDigit) return 0;
-  if (state == kExponentSign) number.erase(number.find('e'));
-  const char* begin = number.c_str();
-  if (*begin == '+') ++begin;
-  double value = 0;
-  const auto result = std::from_chars(begin, number.c_str() + number.size(), value);
-  if (result.ec == std::errc::result_out_of_range) {
-    // from_chars leaves the value alone; a negative exponent means that it is too small to count.
-    const auto mark = number.find('e');
-    if (mark != std::string::npos && number[mark + 1] == '-') return 0;
-    RaiseFault(Fault::kOverflow);
-  }
-  return value;
+  std::string packed;
+  std::remove_copy_if(text.begin(), text.end(), std::back_inserter(packed), IsBlank);
+  const NumericPrefix prefix = PrefixOf(std::move(packed));
+  if (prefix.tooLarge) RaiseFault(Fault::kOverflow);
+  return prefix.value;
 }
 
-bool IsNumber(std::string_view text) {
-  const auto skip = [&text](auto matches) {
-    std::size_t count = 0;
-    while (count < text.size() && matches(text[count])) ++count;
-    text.remove_prefix(count);
-    return count;
-  };
-  const auto skipOne = [&text](std::string_view characters) {
-    const bool found = !text.empty() && characters.find(text.front()) != std::string_view::npos;
-    if (found) text.remove_prefix(1);
-    return found;
-  };
-  const std::string_view whole = text;
-  skip(IsBlank);
-  skipOne("+-");
-  std::size_t digits = skip(IsDigit);
-  if (skipOne(".")) digits += skip(IsDigit);
-  if (digits == 0) return false;
-  if (skipOne("eEdD")) {
-    skipOne("+-");
-    if (skip(IsDigit) == 0) return false;
-  }
-  skip(IsBlank);
-  if (!text.empty()) return false;
-  try {
-    Val(whole);
-    return true;
-  } catch (const RuntimeFault&) {
-    return false;
-  }
+std::optional<Real> WholeNumber(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  const NumericPrefix prefix = PrefixOf(std::string(text));
+  if (prefix.length == 0 || prefix.length < text.size() || prefix.tooLarge) return std::nullopt;
+  return prefix.value;
 }
 
 std::string NumberText(Real value) {

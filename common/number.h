@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,9 +13,9 @@ namespace common {
 /// "1,234" is 1, "" and words are 0. Independent of the locale. Raises kOverflow beyond a double.
 Real Val(std::string_view text);
 
-/// Whether a text is a number from its first to its last character, blanks at its ends aside, so
-/// that Val takes all of it.
-bool IsNumber(std::string_view text);
+/// The number that a text is from its first to its last character, blanks at its ends aside, so
+/// that Val takes all of it; nothing for any other text and beyond a double.
+std::optional<Real> WholeNumber(std::string_view text);
 
 /// Number as text with up to 15 significant digits, point as decimal sign, "1E-05" below 0.0001.
 std::string NumberText(Real value);

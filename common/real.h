@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include <concepts>
+#include <iterator>
 #include <type_traits>
-#include <vector>
 
 #include "common/fault.h"
 
@@ -146,6 +146,9 @@ int IntIndex(Real x);
 
 /// x rounded to single precision and back; raises kOverflow beyond the range of a float.
 Real Single(Real x);
+
+/// pi as the formulas of the sheets have it: the single-precision value, and meant so.
+inline constexpr double kSinglePi = 3.1415927410125732;
 
 /// Base-10 logarithm as the sheets take it: ln x over 2.3025848865509033, which is ln 10 to seven
 /// digits and meant so.

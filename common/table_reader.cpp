@@ -1,27 +1,19 @@
 #include "common/table_reader.h"
 
-#include <algorithm>
-#include <charconv>
 #include <limits>
 #include <optional>
+
+#include "common/number.h"
 
 namespace common {
 
 namespace {
 
-/// A field that is a number from its first to its last character, in the runtime's notation.
+/// A field that is a number and nothing else; blanks inside it are skipped, as the runtime does.
 /// Reading the numeric prefix alone would take a word for 0 and so hide a shifted or damaged file.
-std::optional<double> WholeNumber(std::string field) {
-  if (field.find_first_not_of("0123456789+-.eEdD ") != std::string::npos) return std::nullopt;
+std::optional<Real> NumberOf(std::string field) {
   std::erase(field, ' ');
-  std::replace_if(
-      field.begin(), field.end(), [](char c) { return c == 'd' || c == 'D'; }, 'e');
-  if (field.starts_with('+')) field.erase(0, 1);
-  double value = 0;
-  const char* end = field.data() + field.size();
-  const auto result = std::from_chars(field.data(), end, value);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return value;
+  return WholeNumber(field);
 }
 
 }  // namespace
@@ -35,7 +27,7 @@ std::string TableReader::Text() {
 
 Real TableReader::Number(std::string& text) {
   text = Text();
-  const std::optional<double> number = WholeNumber(text);
+  const std::optional<Real> number = NumberOf(text);
   good_ = good_ && number.has_value();
   return number.value_or(0);
 }

@@ -139,6 +139,10 @@ int Cp932Length(std::string_view text) {
   return static_cast<int>(ascii ? text.size() : ToCp932(text).size());
 }
 
+bool IsBlank(std::string_view text) {
+  return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
 std::string UpperCase(std::string_view text) {
   std::u32string points = CodePoints(text);
   for (char32_t& c : points) {

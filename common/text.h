@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace common {
 
@@ -31,6 +30,9 @@ std::string CodePageForm(const std::string& text);
 /// Bytes that a text takes in CP932, which are its columns in a fixed-pitch font: two for a
 /// full-width character, one for a half-width one.
 int Cp932Length(std::string_view text);
+
+/// Whether a text has nothing but blanks.
+bool IsBlank(std::string_view text);
 
 /// The text in capital letters: Latin, Greek and Cyrillic, half-width and full-width. Independent
 /// of the locale; two such texts compare by code point.

@@ -1,5 +1,6 @@
 #include "data/convert_lists.h"
 
+#include "common/text.h"
 #include "data/field_list.h"
 
 namespace data {
@@ -60,9 +61,7 @@ bool ReadConvertLists(std::string bytes, ConvertLists& lists) {
 }
 
 TextList ShownItems(TextList list) {
-  while (!list.empty() && list.back().find_first_not_of(' ') == std::string::npos) {
-    list.pop_back();
-  }
+  while (!list.empty() && common::IsBlank(list.back())) list.pop_back();
   return list;
 }
 

@@ -1,5 +1,7 @@
 #include "data/field_list.h"
 
+#include <limits>
+
 #include "common/fields.h"
 #include "common/number.h"
 
@@ -20,26 +22,14 @@ std::optional<std::vector<std::string>> ReadFields(std::string bytes, std::size_
   return fields;
 }
 
-std::optional<common::Real> NumberField(std::string_view field) {
-  const bool numeric = field.find_first_not_of("0123456789.+-eEdD") == std::string_view::npos;
-  if (!numeric || field.find_first_of("0123456789") == std::string_view::npos) return std::nullopt;
-  try {
-    return common::Val(field);
-  } catch (const common::RuntimeFault&) {
-    return std::nullopt;
-  }
-}
-
 std::optional<std::vector<float>> ReadSingles(std::string bytes, std::size_t count) {
   const auto fields = ReadFields(std::move(bytes), count);
   if (!fields) return std::nullopt;
   std::vector<float> numbers;
   for (const std::string& field : *fields) {
-    const auto number = NumberField(field);
-    if (!number) return std::nullopt;
-    const auto single = static_cast<float>(static_cast<double>(*number));
-    if (!__builtin_isfinite(single)) return std::nullopt;
-    numbers.push_back(single);
+    const auto number = common::WholeNumber(field);
+    if (!number || abs(*number) > std::numeric_limits<float>::max()) return std::nullopt;
+    numbers.push_back(static_cast<float>(static_cast<double>(*number)));
   }
   return numbers;
 }

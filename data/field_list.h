@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "common/real.h"
-
 namespace data {
 
 /// The fields of a data file that has a fixed number of them: CP932 bytes in, UTF-8 texts out.
@@ -15,9 +13,6 @@ std::optional<std::vector<std::string>> ReadFields(std::string bytes, std::size_
 
 /// Whether bytes are text at all: no NUL byte.
 bool IsText(std::string_view bytes);
-
-/// A field that is a number and nothing else; nothing for any other text.
-std::optional<common::Real> NumberField(std::string_view field);
 
 /// The numbers of a file that has a fixed number of them, each rounded to single precision.
 /// Nothing when one is missing, left over, no number or beyond single precision.

@@ -10,8 +10,6 @@ namespace data {
 
 namespace {
 
-constexpr const char* kNoEquation = "     ";
-
 /// A cell that holds the code of an equation. The liquid's density and vapour pressure have texts,
 /// which must be exact; the others have numbers.
 struct CodeCell {
@@ -27,7 +25,7 @@ const std::vector<CodeCell>& CodeCells() {
       {kLiquid,
        kLiquidDensityCode,
        true,
-       {"1", "2", "3", "NH3", "H2O", kNoEquation},
+       {"1", "2", "3", "NH3", "H2O", kFiveBlanks},
        "1: A + B･T + C･T^2 + D･T^3\n"
        "2: A･f(TK/C)/f(B/C)　A: 温度B(K)での密度、C: 臨界温度(K)\n"
        "3: A - B･T - C/(D - T)\n"
@@ -80,8 +78,6 @@ const CodeCell* FindCodeCell(FluidPhase phase, int field) {
   return found == cells.end() ? nullptr : &*found;
 }
 
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
-
 /// Names and the fields behind the last range, which no estimator reads.
 bool IsFreeText(FluidPhase phase, int field) {
   const int lastRead = phase == kLiquid ? int{kLiquidVapourHigh} : int{kGasHeatHigh};
@@ -91,13 +87,13 @@ bool IsFreeText(FluidPhase phase, int field) {
 /// Whether the estimators know the code; one that is a number may be written in any way.
 bool IsKnown(const CodeCell& cell, const std::string& code) {
   if (cell.field == kLiquidDensityCode && cell.phase == kLiquid) {
-    if (code.starts_with(kNoEquation)) return true;
-  } else if (IsBlank(code)) {
+    if (code.starts_with(kFiveBlanks)) return true;
+  } else if (common::IsBlank(code)) {
     return true;
   }
   return std::any_of(cell.codes.begin(), cell.codes.end(), [&](const std::string& known) {
     if (cell.text) return code == known;
-    return common::IsNumber(code) && common::Val(code) == common::Val(known);
+    return common::WholeNumber(code) == common::Val(known);
   });
 }
 
@@ -109,7 +105,7 @@ std::string BlankEndRemark(FluidPhase phase, int field, const std::string& text)
                        [field](int low) { return field == low || field == low + 1; });
   };
   if (phase == kGas && isOneOf({kGasHeatLow})) {
-    return text == kNoEquation ? "" : "0℃として扱われます。範囲なしは空白5文字とします。";
+    return text == kFiveBlanks ? "" : "0℃として扱われます。範囲なしは空白5文字とします。";
   }
   const bool end = phase == kLiquid
                        ? isOneOf({kLiquidDensityLow, kLiquidViscosityLow, kLiquidVapourLow})
@@ -124,12 +120,12 @@ std::string FluidCellRemark(FluidPhase phase, const FluidTable::Record& record, 
   if (const auto foreign = common::FirstOutsideCp932(text)) {
     return "「" + *foreign + "」はファイルに保存できない文字です。";
   }
-  if (IsFreeText(phase, field) || IsBlank(record[kLiquidName])) return {};
+  if (IsFreeText(phase, field) || common::IsBlank(record[kLiquidName])) return {};
   if (const CodeCell* const cell = FindCodeCell(phase, field)) {
     return IsKnown(*cell, text) ? std::string() : "推算式の番号が不明です。推算値は得られません。";
   }
-  if (IsBlank(text)) return BlankEndRemark(phase, field, text);
-  if (common::IsNumber(text)) return {};
+  if (common::IsBlank(text)) return BlankEndRemark(phase, field, text);
+  if (common::WholeNumber(text)) return {};
   try {
     return "数値ではありません。" + common::NumberText(common::Val(text)) + "として計算されます。";
   } catch (const common::RuntimeFault&) {

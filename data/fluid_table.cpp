@@ -7,19 +7,6 @@
 
 namespace data {
 
-namespace {
-
-std::string RecordLine(const FluidTable::Record& record) {
-  std::string line;
-  for (const std::string& field : record) {
-    if (!line.empty()) line += ',';
-    line += common::QuotedField(field);
-  }
-  return line + "\r\n";
-}
-
-}  // namespace
-
 const std::string& FluidTable::Cell(int fluidIndex, int field) const {
   return common::At(common::At(fluids, fluidIndex), field);
 }
@@ -44,8 +31,8 @@ bool ReadFluidTable(std::string bytes, FluidTable& table) {
 }
 
 std::string WriteFluidTable(const FluidTable& table) {
-  std::string text = RecordLine(table.headers);
-  for (const FluidTable::Record& fluid : table.fluids) text += RecordLine(fluid);
+  std::string text = common::QuotedLine(table.headers);
+  for (const FluidTable::Record& fluid : table.fluids) text += common::QuotedLine(fluid);
   return common::ToCp932(text);
 }
 

@@ -6,9 +6,13 @@
 
 namespace data {
 
+/// What stands in the code of a liquid's density for "no equation" and in the range of a gas's heat
+/// capacity for "no limit".
+inline constexpr const char* kFiveBlanks = "     ";
+
 /// Empirical equations of up to 50 fluids; one table for liquids, one for gases. Cells stay text
-/// until an estimator reads them. Five blanks stand for "no equation" and "no limit" in some cells,
-/// so blanks count. An unused record is there with a blank name.
+/// until an estimator reads them, and their blanks count. An unused record is there with a blank
+/// name.
 struct FluidTable {
   static constexpr std::size_t kFluids = 50;
   static constexpr std::size_t kFields = 24;

@@ -29,8 +29,6 @@ constexpr Property kYoungsModulus = {kYoungsModulusRow, "ヤング率", 0};
 constexpr Property kAllowableStress = {kStressRow, "許容応力", 1};
 constexpr Property kLinearExpansion = {kExpansionRow, "線膨張係数", 1};
 
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
-
 Real CoefficientSum(const Row& row) {
   Real sum = 0;
   for (std::size_t i = kFirstCoefficient; i < row.size(); ++i) sum += Val(row[i]);
@@ -55,7 +53,7 @@ Real Evaluate(const MaterialTable& table, int material, const Property& property
   const Real tMin = Val(low[0]);
   const Real t1 = Val(low[1]);
   const Real t2 = Val(high[1]);
-  const Real tMax = IsBlank(high[1]) || t1 > t2 ? t1 : t2;
+  const Real tMax = common::IsBlank(high[1]) || t1 > t2 ? t1 : t2;
   if (t < tMin || t > tMax) {
     messages.Show(
         "推算式適用温度は" + SpacedNumberText(tMin) + "～" + SpacedNumberText(tMax) + "℃です。",
@@ -76,16 +74,6 @@ Real Guarded(const MaterialTable& table, int material, const Property& property,
   }
 }
 
-template <class Texts>
-std::string Line(const Texts& texts) {
-  std::string line;
-  for (const std::string& text : texts) {
-    if (!line.empty()) line += ',';
-    line += common::QuotedField(text);
-  }
-  return line + "\r\n";
-}
-
 /// Fills texts in order; false when the file ends first.
 template <class Texts>
 bool Fill(common::FieldReader& reader, Texts& texts) {
@@ -99,7 +87,9 @@ bool Fill(common::FieldReader& reader, Texts& texts) {
 
 }  // namespace
 
-bool MaterialTable::Empty() const { return std::all_of(names.begin(), names.end(), IsBlank); }
+bool MaterialTable::Empty() const {
+  return std::all_of(names.begin(), names.end(), common::IsBlank);
+}
 
 bool ReadMaterialTable(std::string bytes, MaterialTable& table) {
   table = {};
@@ -115,9 +105,9 @@ bool ReadMaterialTable(std::string bytes, MaterialTable& table) {
 }
 
 std::string WriteMaterialTable(const MaterialTable& table) {
-  std::string text = Line(table.names);
+  std::string text = common::QuotedLine(table.names);
   for (const MaterialTable::Cells& cells : table.cells) {
-    for (const Row& row : cells) text += Line(row);
+    for (const Row& row : cells) text += common::QuotedLine(row);
   }
   return common::ToCp932(text);
 }

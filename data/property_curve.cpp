@@ -59,11 +59,10 @@ std::vector<std::pair<double, double>> PropertyOverRange(const FluidTable& liqui
   constexpr int kSteps = 80;
   const FluidTable& table = IsOfLiquid(property) ? liquids : gases;
   const int lowField = FieldsOf(property).low;
-  const std::string& lowText = table.Cell(fluidIndex, lowField);
-  const std::string& highText = table.Cell(fluidIndex, lowField + 1);
-  if (!common::IsNumber(lowText) || !common::IsNumber(highText)) return {};
-  const Real low = std::min(common::Val(lowText), common::Val(highText));
-  const Real high = std::max(common::Val(lowText), common::Val(highText));
+  const auto one = common::WholeNumber(table.Cell(fluidIndex, lowField));
+  const auto other = common::WholeNumber(table.Cell(fluidIndex, lowField + 1));
+  if (!one || !other) return {};
+  const auto [low, high] = std::minmax(*one, *other);
 
   common::NoMessages messages;
   ProcessState state;

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "data/fluid_table.h"
-#include "data/process_state.h"
 
 namespace data {
 

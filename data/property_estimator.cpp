@@ -31,9 +31,6 @@ namespace {
 
 constexpr const char* kTitle = "物性推算";
 
-/// What stands in a cell for "no equation" and, in the heat capacity's range, for "no limit".
-constexpr const char* kFiveBlanks = "     ";
-
 constexpr const char* kPressureUnsupported =
     "圧縮係数推算式は、Pr=1.0 以上をサポートしておりません。  Pr= ";
 
@@ -80,18 +77,18 @@ PropertyEstimator::CriticalData PropertyEstimator::CriticalDataOf(int fluidIndex
 }
 
 /// Whether `temperatureC` lies in the range that stands at lowField and behind it; shows the range
-/// if not. An end that equals `blank` is no limit. Ends in the wrong order are swapped, and shown
-/// as the texts that they are.
+/// of the equation if not. An end that equals `blank` is no limit. Ends in the wrong order are
+/// swapped, and shown as the texts that they are.
 bool PropertyEstimator::InRange(const FluidTable& table, int fluidIndex, int lowField,
-                                const char* blank, const std::string& before,
-                                const std::string& after) {
+                                const std::string& equation, const std::string& after,
+                                const char* blank) {
   std::string low = table.Cell(fluidIndex, lowField);
   std::string high = table.Cell(fluidIndex, lowField + 1);
   if (low != blank && high != blank && Val(low) > Val(high)) std::swap(low, high);
   const bool tooLow = low != blank && state_.temperatureC < Val(low);
   const bool tooHigh = high != blank && state_.temperatureC > Val(high);
   if (!tooLow && !tooHigh) return true;
-  Show(before + low + "～" + high + after);
+  Show(equation + "の適用温度範囲は" + low + "～" + high + after);
   return false;
 }
 
@@ -146,13 +143,13 @@ Real PropertyEstimator::LiquidCriticalPressureInUnit(int fluidIndex) {
       case 2:
         return RoundDigits((x / kKpaPerKgfCm2) * 1000, 2);
       case 3:
-        return RoundDigits(x * 9.869208, 2);
+        return RoundDigits(x * 9.869208, 2);  // atm per MPa
       case 4:
-        return RoundDigits(x * 1000 / 0.1333223684, 0);
+        return RoundDigits(x * 1000 / 0.1333223684, 0);  // kPa per mmHg
       case 5:
         return x * 10;
       case 6:
-        return RoundDigits(x * 145, 1);
+        return RoundDigits(x * 145, 1);  // psi per MPa, rounded and meant so
       default:
         return 0;
     }
@@ -165,10 +162,7 @@ std::optional<Real> PropertyEstimator::LiquidDensity(int fluidIndex) {
     Show("密度推算式が登録されていません。");
     return 0;
   }
-  if (!InRange(liquids_, fluidIndex, kLiquidDensityLow, "", "密度推算式の適用温度範囲は",
-               "℃です。")) {
-    return 0;
-  }
+  if (!InRange(liquids_, fluidIndex, kLiquidDensityLow, "密度推算式")) return 0;
   const Real density =
       LiquidDensityByCode(code, CoefficientsAt(liquids_, fluidIndex, kLiquidDensityA));
   if (state_.densityUnit == 0) return RoundDigits(density, 1);
@@ -200,10 +194,7 @@ Real PropertyEstimator::LiquidViscosity(int fluidIndex) {
   }
   const Coefficients k = CoefficientsAt(liquids_, fluidIndex, kLiquidViscosityA);
   if (code == 1 && t == 0) return k.a;  // 0 degC counts as no temperature given
-  if (!InRange(liquids_, fluidIndex, kLiquidViscosityLow, "", "粘性係数推算式の適用温度範囲は",
-               "℃です。")) {
-    return 0;
-  }
+  if (!InRange(liquids_, fluidIndex, kLiquidViscosityLow, "粘性係数推算式")) return 0;
   Real viscosity = 0;
   if (code == 1) viscosity = k.Cubic(t);
   if (code == 2) viscosity = k.a * exp(k.b / (t + k.c));
@@ -258,10 +249,7 @@ std::optional<Real> PropertyEstimator::GasViscosity(int fluidIndex) {
   state_.temperatureK = t + 273.15;
   const Real reducedPressure = state_.pressureAbs / critical.pressure;
   const Real reducedTemperature = state_.temperatureK / critical.temperature;
-  if (!InRange(gases_, fluidIndex, kGasViscosityLow, "", "粘性係数推算式の適用温度範囲は",
-               "℃です。")) {
-    return 0;
-  }
+  if (!InRange(gases_, fluidIndex, kGasViscosityLow, "粘性係数推算式")) return 0;
   const auto viscosity = GasViscosityByCode(fluidIndex, code, critical, reducedTemperature);
   if (!viscosity) return std::nullopt;
   return RoundDigits(*viscosity * HighPressureFactor(reducedPressure, reducedTemperature), 4);
@@ -361,8 +349,8 @@ Real PropertyEstimator::IsentropicExponent(int fluidIndex) {
     Show("ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式が登録されていません。");
     return 0;
   }
-  if (!InRange(gases_, fluidIndex, kGasHeatLow, kFiveBlanks,
-               "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式の適用温度範囲は", "(ﾟC)の範囲です。")) {
+  if (!InRange(gases_, fluidIndex, kGasHeatLow, "ｱｲｾﾞﾝﾄﾛﾋﾟｯｸ指数推算式", "(ﾟC)の範囲です。",
+               kFiveBlanks)) {
     return 0;
   }
   const Coefficients k = CoefficientsAt(gases_, fluidIndex, kGasHeatA);
@@ -377,10 +365,7 @@ Real PropertyEstimator::VapourPressure(int fluidIndex) {
   const Real t = state_.temperatureC;
   const std::string& code = liquids_.Cell(fluidIndex, kLiquidVapourCode);
   const bool water = code == "H2O";
-  if (!water && !InRange(liquids_, fluidIndex, kLiquidVapourLow, "", "蒸気圧推算式の適用温度範囲は",
-                         "℃です。")) {
-    return 0;
-  }
+  if (!water && !InRange(liquids_, fluidIndex, kLiquidVapourLow, "蒸気圧推算式")) return 0;
   if (water && t < 0) {
     Show("蒸気圧推算式の適用温度範囲 は 0℃以上です。");
     return 0;

@@ -66,8 +66,8 @@ class PropertyEstimator {
 
   Coefficients CoefficientsAt(const FluidTable& table, int fluidIndex, int field) const;
   CriticalData CriticalDataOf(int fluidIndex) const;
-  bool InRange(const FluidTable& table, int fluidIndex, int lowField, const char* blank,
-               const std::string& before, const std::string& after);
+  bool InRange(const FluidTable& table, int fluidIndex, int lowField, const std::string& equation,
+               const std::string& after = "℃です。", const char* blank = "");
 
   std::optional<Real> LiquidDensity(int fluidIndex);
   Real LiquidDensityByCode(const std::string& code, const Coefficients& coefficients) const;

@@ -15,7 +15,7 @@ namespace {
 /// The next field as a whole number from 0 to limit - 1.
 std::optional<int> NextIndex(common::FieldReader& reader, std::size_t limit) {
   const auto field = reader.Next();
-  const auto number = field ? NumberField(*field) : std::nullopt;
+  const auto number = field ? common::WholeNumber(*field) : std::nullopt;
   if (!number || *number < 0 || *number >= static_cast<double>(limit) || Int(*number) != *number) {
     return std::nullopt;
   }
@@ -27,8 +27,8 @@ std::optional<UnitEntry> NextUnit(common::FieldReader& reader) {
   const auto factor = reader.Next();
   const auto offset = reader.Next();
   if (!offset) return std::nullopt;
-  const auto factorNumber = NumberField(*factor);
-  const auto offsetNumber = NumberField(*offset);
+  const auto factorNumber = common::WholeNumber(*factor);
+  const auto offsetNumber = common::WholeNumber(*offset);
   if (!factorNumber || !offsetNumber) return std::nullopt;
   return UnitEntry{std::move(*name), *factorNumber, *offsetNumber};
 }

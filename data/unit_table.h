@@ -59,6 +59,7 @@ void InsertCategory(UnitTable& table, int place, std::string name, std::string u
 /// Puts a unit at a place in front of those that stand there. The category must have room.
 void InsertUnit(UnitCategory& category, int place, UnitEntry unit);
 
+/// Removes a unit; not the base, of which callers take care.
 void RemoveUnit(UnitCategory& category, int unit);
 
 /// Exchanges two units; the base stays the same one.

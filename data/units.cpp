@@ -152,15 +152,15 @@ Real VapourPressureInUnit(Real value, int unit) {
 Real DifferentialInUnit(int unit, Real value) {
   switch (unit) {
     case 0:
-      return kKpaPerKgfCm2 * value / 10000;
+      return kKpaPerKgfCm2 * value / kMmH2OPerKgfCm2;
     case 1:
       return value;
     case 2:
-      return value / 10000;
+      return value / kMmH2OPerKgfCm2;
     case 3:
-      return kMmHgPerKgfCm2 * value / 10000;
+      return kMmHgPerKgfCm2 * value / kMmH2OPerKgfCm2;
     case 4:
-      return kPsiPerKgfCm2 * value / 10000;
+      return kPsiPerKgfCm2 * value / kMmH2OPerKgfCm2;
     case 5:
       return 0.9807 * value / 10;  // mbar by a factor of its own
     default:
@@ -173,19 +173,15 @@ Real DifferentialInUnit(int unit, Real value) {
 Real PressureToAbsolute(Real value, int unit) {
   switch (unit) {
     case 0:
-      return value / kKpaPerKgfCm2 + kNormalAtmosphere;
     case 1:
-      return value * 1000 / kKpaPerKgfCm2 + kNormalAtmosphere;
     case 2:
-      return value + kNormalAtmosphere;
-    case 3:
-      return value / 10000 + kNormalAtmosphere;
-    case 4:
-      return value / kMmHgPerKgfCm2;  // mmHg counts from vacuum
     case 5:
-      return value / kBarPerKgfCm2 + kNormalAtmosphere;
     case 6:
-      return value / kPsiPerKgfCm2 + kNormalAtmosphere;
+      return VapourPressureToAbsolute(value, unit) + kNormalAtmosphere;
+    case 3:
+      return value / kMmH2OPerKgfCm2 + kNormalAtmosphere;
+    case 4:
+      return VapourPressureToAbsolute(value, unit);  // mmHg counts from vacuum
     default:
       return 0;
   }
@@ -218,38 +214,23 @@ Real PressureForDisplay(const ProcessState& state, Real value) {
 }
 
 Real PressureDifferenceInUnit(const ProcessState& state, Real value) {
-  switch (state.pressureUnit) {
-    case 0:
-      return value * kKpaPerKgfCm2;
-    case 1:
-      return value * kKpaPerKgfCm2 / 1000;
-    case 2:
-      return value;
-    case 3:
-      return value * 10000;
-    case 4:
-      return value * kMmHgPerKgfCm2;
-    case 5:
-      return value * kBarPerKgfCm2;
-    case 6:
-      return value * kPsiPerKgfCm2;
-    default:
-      return 0;
-  }
+  // The list of pressures has mmH2O where that of vapour pressures has atm.
+  if (state.pressureUnit == 3) return value * kMmH2OPerKgfCm2;
+  return VapourPressureInUnit(value, state.pressureUnit);
 }
 
 Real DifferentialToMmH2O(int unit, Real value) {
   switch (unit) {
     case 0:
-      return 10000 * value / kKpaPerKgfCm2;
+      return kMmH2OPerKgfCm2 * value / kKpaPerKgfCm2;
     case 1:
       return value;
     case 2:
-      return value * 10000;
+      return value * kMmH2OPerKgfCm2;
     case 3:
-      return 10000 * value / kMmHgPerKgfCm2;
+      return kMmH2OPerKgfCm2 * value / kMmHgPerKgfCm2;
     case 4:
-      return 10000 * value / kPsiPerKgfCm2;
+      return kMmH2OPerKgfCm2 * value / kPsiPerKgfCm2;
     case 5:
       return 10 * value / 0.9807;  // mbar by a factor of its own
     default:

@@ -15,6 +15,7 @@ inline constexpr double kKpaPerKgfCm2 = 98.0665;      // kPa
 inline constexpr double kMmHgPerKgfCm2 = 735.72;      // mmHg; the steam equation has its own
 inline constexpr double kBarPerKgfCm2 = 0.980665;     // bar
 inline constexpr double kPsiPerKgfCm2 = 14.22;        // psi
+inline constexpr double kMmH2OPerKgfCm2 = 10000;      // mmH2O
 inline constexpr double kMolarVolume = 22.415;        // Nm3/kmol
 inline constexpr double kNormalAirDensity = 1.2928;   // kg/Nm3
 

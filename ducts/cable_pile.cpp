@@ -7,24 +7,26 @@ namespace ducts {
 namespace {
 
 constexpr int kMostCables = 1500;
+constexpr int kMostStrips = 400;
 
 /// Cables by the strip of the section in which their centres lie, so that only near ones are asked.
-class Heap {
+class PileBuilder {
  public:
-  Heap(double width, double height, double thickest)
-      : width_(width), height_(height), strip_(std::max(thickest, width / 400)) {
+  PileBuilder(double width, double height, double thickest)
+      : width_(width), height_(height), strip_(std::max(thickest, width / kMostStrips)) {
     strips_.resize(static_cast<std::size_t>(width / strip_) + 1);
   }
 
   /// Lays a cable at the lowest free place; false when there is none.
   bool Lay(double radius) {
     constexpr int kPlaces = 160;
+    constexpr double kLower = 1e-9;  // mm; of places that are as low the first one counts
     if (2 * radius > width_) return false;
     PlacedCable best{0, height_, radius};
     for (int i = 0; i <= kPlaces; ++i) {
       const double x = radius + (width_ - 2 * radius) * i / kPlaces;
       const double y = RestingHeight(x, radius);
-      if (y < best.y - 1e-9) best = {x, y, radius};
+      if (y < best.y - kLower) best = {x, y, radius};
     }
     if (best.y + radius > height_) return false;
     strips_[StripOf(best.x)].push_back(best);
@@ -69,18 +71,18 @@ CablePile PileCables(const std::vector<CableRun>& cables, double width, double h
   std::stable_sort(byDiameter.begin(), byDiameter.end(),
                    [](const auto& a, const auto& b) { return a.diameter > b.diameter; });
   if (byDiameter.empty() || width <= 0 || height <= 0) return pile;
-  Heap heap(width, height, byDiameter.front().diameter);
+  PileBuilder builder(width, height, byDiameter.front().diameter);
   int laid = 0;
   for (const CableRun& run : byDiameter) {
     const Real count = Int(run.quantity);  // a part of a cable is none
     const int before = laid;
     while (run.diameter > 0 && laid - before < count && laid < kMostCables &&
-           heap.Lay(run.diameter / 2)) {
+           builder.Lay(run.diameter / 2)) {
       ++laid;
     }
     pile.left += count - (laid - before);
   }
-  pile.cables = heap.Take();
+  pile.cables = builder.Take();
   return pile;
 }
 

@@ -3,9 +3,8 @@
 namespace ducts {
 
 CableLoad LoadOf(const CableRun& run, Real spanM) {
-  constexpr double kPi = 3.1415927410125732;  // single precision, and meant so
   constexpr double kMetresPerKm = 1000;
-  const Real area = kPi * run.diameter * run.diameter / 4 * run.quantity;
+  const Real area = common::kSinglePi * run.diameter * run.diameter / 4 * run.quantity;
   const Real unitWeight = run.weightPerKm * run.quantity / kMetresPerKm;
   return {area, unitWeight, unitWeight * spanM};
 }

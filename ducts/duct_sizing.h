@@ -99,6 +99,8 @@ struct DuctCheck {
   bool sagsTooMuch = false;
 };
 
+/// Checks a duct with its cables over a support span in m and with a number of workers in its
+/// middle.
 DuctCheck CheckDuct(const DuctSection& section, const CableLoad& cables, Real spanM, Real workers);
 
 }  // namespace ducts

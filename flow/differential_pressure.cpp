@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/number.h"
+#include "data/units.h"
 #include "flow/rounds.h"
 
 namespace flow {
@@ -11,16 +12,16 @@ using common::At;
 using common::Icon;
 using common::Messages;
 using common::NumberText;
-using common::Real;
 using common::RoundDigits;
+using data::kMmH2OPerKgfCm2;
 
 namespace {
 
 // Mass flow in kg/h from mm, kg/m3 and mmH2O: pi/4 sqrt(2 * 9.80665) * 3600e-6 = 0.0125217,
 // rounded.
 constexpr double kFlowConstant = 0.01252;
-constexpr double kWaterColumn = 10000;   // mmH2O per kgf/cm2
-constexpr double kQuarterColumn = 2500;  // a quarter of the pressure, the bound for gas and steam
+// A quarter of the pressure, the bound for gas and steam.
+constexpr double kQuarterColumn = kMmH2OPerKgfCm2 / 4;
 constexpr const char* kExtrapolationMark = "（外挿計算）";
 constexpr const char* kOutsideStandard = "規格範囲外で計算しますか";
 
@@ -39,7 +40,7 @@ bool AskToExtrapolate(Context& context, const std::string& text, Icon icon, Mess
 
 /// Pressure ratio at normal flow: differential over absolute pressure.
 Real PressureRatio(const Context& context, Real dP) {
-  return dP * pow(context.qNor / context.qMax, 2) / (kWaterColumn * context.p);
+  return dP * pow(context.qNor / context.qMax, 2) / (kMmH2OPerKgfCm2 * context.p);
 }
 
 Real Expansion(const Context& context, Real beta, Real x) {
@@ -163,7 +164,7 @@ bool CheckPipeAndDifferential(Context& context, const OrificeTable& table, Messa
                   {}, Icon::kCritical);
     return Fail(context);
   }
-  if (context.Liquid() && context.dP >= kWaterColumn * context.p) {
+  if (context.Liquid() && context.dP >= kMmH2OPerKgfCm2 * context.p) {
     messages.Show("流体の圧力より差圧の方が大きいですよ。 ", {}, Icon::kWarning);
     return Fail(context);
   }
@@ -241,7 +242,7 @@ Real BoreAtReference(const Context& context, Real beta) {
 }
 
 bool CheckCalculatedDifferential(Context& context, Real dP, Messages& messages) {
-  const Real limit = (context.Liquid() ? kWaterColumn : kQuarterColumn) * context.p;
+  const Real limit = (context.Liquid() ? kMmH2OPerKgfCm2 : kQuarterColumn) * context.p;
   if (dP <= limit) return true;
   messages.Show("差圧が大き過ぎます。絞り径を変更して下さい。");
   return Fail(context);

@@ -1,7 +1,7 @@
 #include "flow/discharge.h"
 
 #include <algorithm>
-#include <span>
+#include <array>
 
 #include "common/number.h"
 #include "flow/rounds.h"
@@ -10,7 +10,6 @@ namespace flow {
 
 using common::At;
 using common::Interpolate;
-using common::Real;
 
 namespace {
 
@@ -53,19 +52,19 @@ DischargeEquation::DischargeEquation(ElementType type, Real reNor, float pipeBor
 }
 
 Coefficients DischargeEquation::At(Real beta) const {
-  if (type_ == kVenaContractaTapOrifice) return {std::nullopt, VenaContracta(beta)};
+  if (type_ == kVenaContractaTapOrifice) return {std::nullopt, VenaContractaCoefficient(beta)};
   Real c;
   if (type_ <= kCornerTapOrifice) {
-    c = Orifice(beta);
+    c = OrificeDischarge(beta);
   } else if (type_ <= kLongRadiusNozzle) {
-    c = Nozzle(beta);
+    c = NozzleDischarge(beta);
   } else {
-    c = Venturi(beta);
+    c = VenturiDischarge(beta);
   }
   return {c, Alpha(c, beta)};
 }
 
-Real DischargeEquation::Orifice(Real beta) const {
+Real DischargeEquation::OrificeDischarge(Real beta) const {
   const Real beta2 = beta * beta;
   const Real beta4 = beta2 * beta2;
   const Real beta8 = beta4 * beta4;
@@ -80,7 +79,7 @@ Real DischargeEquation::Orifice(Real beta) const {
   return c;
 }
 
-Real DischargeEquation::VenaContracta(Real beta) const {
+Real DischargeEquation::VenaContractaCoefficient(Real beta) const {
   const Real d2 = pipeBore_ * pipeBore_;
   const Real k0 = 0.5922 + 0.4252 * (0.3871 / (d2 * pow(beta, 2) + 0.254 * pipeBore_) +
                                      pow(beta, 4) + 1.25 * pow(beta, 16));
@@ -89,13 +88,13 @@ Real DischargeEquation::VenaContracta(Real beta) const {
   return k0 + b * reynoldsTerm_;
 }
 
-Real DischargeEquation::Nozzle(Real beta) const {
+Real DischargeEquation::NozzleDischarge(Real beta) const {
   if (type_ == kLongRadiusNozzle) return 0.9965 - 0.00653 * sqrt(kMillion * beta / reNor_);
   return 0.99 - 0.2262 * pow(beta, Real(4.1)) -
          (0.00175 * pow(beta, 2) - 0.0033 * pow(beta, Real(4.15))) * reynoldsTerm_;
 }
 
-Real DischargeEquation::Venturi(Real beta) const {
+Real DischargeEquation::VenturiDischarge(Real beta) const {
   switch (type_) {
     case kAsCastVenturi:
       return 0.984;
@@ -106,22 +105,6 @@ Real DischargeEquation::Venturi(Real beta) const {
     default:
       return 0.9858 - 0.196 * pow(beta, Real(4.5));
   }
-}
-
-Coefficients OrificeDischarge(ElementType type, Real reNor, Real beta, float pipeBore) {
-  return DischargeEquation(type, reNor, pipeBore).At(beta);
-}
-
-Real VenaContractaCoefficient(Real reNor, Real beta, float pipeBore) {
-  return DischargeEquation(kVenaContractaTapOrifice, reNor, pipeBore).At(beta).alpha;
-}
-
-Coefficients NozzleDischarge(ElementType type, Real reNor, Real beta) {
-  return DischargeEquation(type, reNor, 0).At(beta);
-}
-
-Coefficients VenturiDischarge(ElementType type, Real beta) {
-  return DischargeEquation(type, 0, 0).At(beta);
 }
 
 Real ExpansionFactor(ElementType type, Real beta, Real x, Real kappa) {
@@ -141,16 +124,28 @@ Real QuarterCircleExpansion(Real beta, Real x, Real kappa) {
          0.1 * pow(1 - pow(1 - x, 1 / kappa), Real(1.15));
 }
 
+namespace {
+
+using QuarterCircleColumn = std::array<Real, OrificeTable::kQuarterCircleRows>;
+constexpr int kLastRow = OrificeTable::kQuarterCircleRows - 1;
+
+/// A column of the quarter circle table at x of another column, within the pair of rows from `row`
+/// on; the last row belongs to the last pair.
+Real Between(const QuarterCircleColumn& column, const QuarterCircleColumn& abscissa, Real x,
+             int row) {
+  const int pair = row == kLastRow ? kLastRow - 1 : row;
+  return Interpolate(At(column, pair), At(column, pair + 1), At(abscissa, pair), x,
+                     At(abscissa, pair + 1));
+}
+
+}  // namespace
+
 QuarterCircle QuarterCircleFromBeta(const OrificeTable& table, Real beta, float pipeBore) {
-  constexpr int kLast = OrificeTable::kQuarterCircleRows - 1;
-  const int i = common::IntIndex(200 * beta - 40);
-  const int pair = i == kLast ? kLast - 1 : i;
-  const auto over = [&](const auto& column) {
-    return Interpolate(At(column, pair), At(column, pair + 1), At(table.tableBeta, pair), beta,
-                       At(table.tableBeta, pair + 1));
-  };
-  const Real s = i == kLast ? At(table.tableS, kLast) : over(table.tableS);
-  return {s, s / pow(beta, 2), Real(pipeBore) * over(table.tableRadius)};
+  const int row = common::IntIndex(200 * beta - 40);
+  const Real s = row == kLastRow ? At(table.tableS, kLastRow)
+                                 : Between(table.tableS, table.tableBeta, beta, row);
+  const Real radius = Between(table.tableRadius, table.tableBeta, beta, row);
+  return {s, s / pow(beta, 2), Real(pipeBore) * radius};
 }
 
 namespace {
@@ -162,18 +157,9 @@ constexpr double kSMax = 0.503;
 /// Row of the quarter circle table at or below S, from a guess that is a few rows too high. Ends
 /// with an index fault should the table start above S.
 int RowOf(const OrificeTable& table, Real s) {
-  constexpr int kLast = OrificeTable::kQuarterCircleRows - 1;
-  int i = std::min(common::IntIndex(220 * pow(s, Real(0.29)) - 76), kLast);
-  while (s < At(table.tableS, i)) --i;
-  return i;
-}
-
-/// A column of the quarter circle table at S, within the pair of rows from `row` on.
-Real OverS(const OrificeTable& table,
-           const std::array<Real, OrificeTable::kQuarterCircleRows>& column, Real s, int row) {
-  const int pair = std::min(row, OrificeTable::kQuarterCircleRows - 2);
-  return Interpolate(At(column, pair), At(column, pair + 1), At(table.tableS, pair), s,
-                     At(table.tableS, pair + 1));
+  int row = std::min(common::IntIndex(220 * pow(s, Real(0.29)) - 76), kLastRow);
+  while (s < At(table.tableS, row)) --row;
+  return row;
 }
 
 /// Tells that S lies outside its span; true if it does.
@@ -197,7 +183,7 @@ bool SolveS(const Context& context, const OrificeTable& table, Real s0, Real x, 
   while (abs(prev / s - 1) > kRelativeStep) {
     rounds.Next();
     prev = s;
-    const Real beta = OverS(table, table.tableBeta, s, RowOf(table, s));
+    const Real beta = Between(table.tableBeta, table.tableS, s, RowOf(table, s));
     eps = QuarterCircleExpansion(beta, x, context.kappa);
     if (eps <= 0) {
       messages.Show("データが異常のようです。確認してください。");
@@ -224,9 +210,9 @@ std::optional<QuarterCircleSolution> QuarterCircleFromS(Context& context, const 
     return solution;
   }
   const int row = RowOf(table, s);
-  solution.beta = OverS(table, table.tableBeta, s, row);
+  solution.beta = Between(table.tableBeta, table.tableS, s, row);
   solution.alpha = s / pow(solution.beta, 2);
-  solution.radius = Real(context.pipeBore) * OverS(table, table.tableRadius, s, row);
+  solution.radius = Real(context.pipeBore) * Between(table.tableRadius, table.tableS, s, row);
   return solution;
 }
 
@@ -295,8 +281,6 @@ ReynoldsRange QuarterCircleLimits(const OrificeTable& table, Real beta) {
           Interpolate(At(high, i), At(high, i + 1), b0, beta, b0 + 0.1)};
 }
 
-Real AtLeast(Real value, Real floor) { return value < floor ? floor : value; }
-
 }  // namespace
 
 ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, Real beta,
@@ -305,10 +289,10 @@ ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, Real b
   const Real pipeTerm = 170 * beta2 * Real(pipeBore);
   switch (type) {
     case kFlangeTapOrifice:
-      return {AtLeast(pipeTerm, 5000), kNoLimit};
+      return {std::max(pipeTerm, Real(5000)), kNoLimit};
     case kDAndHalfDTapOrifice:
     case kCornerTapOrifice:
-      return {AtLeast(beta <= 0.56 ? Real(5000) : 16000 * beta2, pipeTerm), kNoLimit};
+      return {std::max(beta <= 0.56 ? Real(5000) : 16000 * beta2, pipeTerm), kNoLimit};
     case kVenaContractaTapOrifice:
       return {VenaContractaReLow(beta, pipeBore), pipeBore <= 125 ? 1000000 : 10000000};
     case kQuarterCircleOrifice:
@@ -328,10 +312,10 @@ Real PermanentLoss(ElementType type, Real dP, Real alpha, Real beta, Real c) {
   const Real beta2 = pow(beta, 2);
   if (type == kQuarterCircleOrifice) return dP * (1 - alpha * beta2) / (1 + alpha * beta2);
   if (type == kVenturiNozzle) {
-    return dP * AtLeast(0.0924 * pow(beta, Real(-0.7422)), 0.11);
+    return dP * std::max(0.0924 * pow(beta, Real(-0.7422)), Real(0.11));
   }
   if (FamilyOf(type) == ElementFamily::kVenturi) {
-    return dP * AtLeast(0.085 * pow(beta, Real(-0.3463)), 0.1);
+    return dP * std::max(0.085 * pow(beta, Real(-0.3463)), Real(0.1));
   }
   const Real r = sqrt(1 - pow(beta, 4) * (1 - pow(c, 2)));
   const Real q = c * beta2;

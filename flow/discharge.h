@@ -13,8 +13,8 @@ namespace flow {
 /// Discharge coefficient C (where the element has one) and flow coefficient
 /// alpha = C / sqrt(1 - beta^4), neither with a unit.
 struct Coefficients {
-  std::optional<common::Real> c;
-  common::Real alpha;
+  std::optional<Real> c;
+  Real alpha;
 };
 
 /// Coefficient equation of one element in one pipe at one Reynolds number, as a function of beta.
@@ -24,73 +24,65 @@ class DischargeEquation {
  public:
   /// reNor: pipe Reynolds number at normal flow; pipeBore: D in mm. Raises a fault for a Reynolds
   /// number of 0 where the equation uses it (types 0 to 3, 5, 6).
-  DischargeEquation(ElementType type, common::Real reNor, float pipeBore);
+  DischargeEquation(ElementType type, Real reNor, float pipeBore);
 
   /// The coefficients at beta; raises a fault where the equation has no value (beta >= 1).
-  Coefficients At(common::Real beta) const;
+  Coefficients At(Real beta) const;
 
  private:
-  common::Real Orifice(common::Real beta) const;
-  common::Real VenaContracta(common::Real beta) const;
-  common::Real Nozzle(common::Real beta) const;
-  common::Real Venturi(common::Real beta) const;
+  /// Orifice plate with flange, D and D/2 or corner taps (types 0, 1, 2): Reader-Harris/Gallagher
+  /// equation, ISO 5167-2:2003 clause 5.3.2.1 = JIS Z 8762-2:2007, below 71.12 mm (in single
+  /// precision) with the correction for small pipes. Valid for beta 0.1 to 0.75, D 50 to 1000 mm.
+  Real OrificeDischarge(Real beta) const;
+
+  /// Flow coefficient alpha of an orifice plate with vena contracta taps (type 3), older metric
+  /// form with D in mm, beta 0.1 to 0.8. There is no C.
+  Real VenaContractaCoefficient(Real beta) const;
+
+  /// ISA 1932 nozzle (type 5), ISO 5167-3:2003 clause 5.1.6.2 (beta 0.3 to 0.8), and long radius
+  /// nozzle (type 6), clause 5.2.6.2 (beta 0.2 to 0.8).
+  Real NozzleDischarge(Real beta) const;
+
+  /// Classical venturi tubes (types 7 to 9), ISO 5167-4:2003 clause 5.5, and venturi nozzle (type
+  /// 10), ISO 5167-3:2003 clause 5.3.4.2; none of them depends on the Reynolds number.
+  Real VenturiDischarge(Real beta) const;
 
   ElementType type_;
-  common::Real reNor_;
-  common::Real pipeBore_;
+  Real reNor_;
+  Real pipeBore_;
   bool smallBore_ = false;
-  common::Real reynoldsTerm_;  // the power of 1000000/Re that stands alone in the equation
-  common::Real downstreamTap_;
-  common::Real upstreamTerm_;
-  common::Real smallBoreTerm_;
+  Real reynoldsTerm_;  // the power of 1000000/Re that stands alone in the equation
+  Real downstreamTap_;
+  Real upstreamTerm_;
+  Real smallBoreTerm_;
 };
-
-/// Orifice plate with flange, D and D/2 or corner taps (types 0, 1, 2): Reader-Harris/Gallagher
-/// equation, ISO 5167-2:2003 clause 5.3.2.1 = JIS Z 8762-2:2007. reNor: pipe Reynolds number;
-/// pipeBore: D in mm, below 71.12 mm (in single precision) with the correction for small pipes.
-/// Valid for beta 0.1 to 0.75, D 50 to 1000 mm.
-Coefficients OrificeDischarge(ElementType type, common::Real reNor, common::Real beta,
-                              float pipeBore);
-
-/// Flow coefficient alpha of an orifice plate with vena contracta taps (type 3), older metric form
-/// with D in mm, beta 0.1 to 0.8. There is no C.
-common::Real VenaContractaCoefficient(common::Real reNor, common::Real beta, float pipeBore);
-
-/// ISA 1932 nozzle (type 5), ISO 5167-3:2003 clause 5.1.6.2 (beta 0.3 to 0.8), and long radius
-/// nozzle (type 6), clause 5.2.6.2 (beta 0.2 to 0.8). reNor: pipe Reynolds number.
-Coefficients NozzleDischarge(ElementType type, common::Real reNor, common::Real beta);
-
-/// Classical venturi tubes (types 7 to 9), ISO 5167-4:2003 clause 5.5, and venturi nozzle (type
-/// 10), ISO 5167-3:2003 clause 5.3.4.2; none of them depends on the Reynolds number.
-Coefficients VenturiDischarge(ElementType type, common::Real beta);
 
 /// Expansion factor of all types but 4 for gas and steam. x: differential over absolute pressure,
 /// both at normal flow. Types 0 to 2: ISO 5167-2:2003 clause 5.3.2.2; types 5 to 10: ISO
 /// 5167-3:2003 clause 5.1.6.3, isentropic; type 3: the older linear form. Raises a fault for x > 1,
 /// for kappa 1 and for x = 0 with types 5 to 10.
-common::Real ExpansionFactor(ElementType type, common::Real beta, common::Real x,
-                             common::Real kappa);
+Real ExpansionFactor(ElementType type, Real beta, Real x, Real kappa);
 
 /// Expansion factor of the quarter circle plate (type 4) for gas and steam; x as above.
-common::Real QuarterCircleExpansion(common::Real beta, common::Real x, common::Real kappa);
+Real QuarterCircleExpansion(Real beta, Real x, Real kappa);
 
 /// Quarter circle plate of known beta.
 struct QuarterCircle {
-  common::Real s;  // alpha beta^2
-  common::Real alpha;
-  common::Real radius;  // of the inlet edge, mm
+  Real s;  // alpha beta^2
+  Real alpha;
+  Real radius;  // of the inlet edge, mm
 };
 
 /// S, alpha and radius of a quarter circle plate from its table. pipeBore: D in mm. Raises an index
 /// fault for a beta beyond the table.
-QuarterCircle QuarterCircleFromBeta(const OrificeTable& table, common::Real beta, float pipeBore);
+QuarterCircle QuarterCircleFromBeta(const OrificeTable& table, Real beta, float pipeBore);
 
 /// Quarter circle plate that was looked for by its S.
 struct QuarterCircleSolution {
-  common::Real eps = 1;
-  common::Real alpha;
-  common::Real beta;
-  common::Real radius;  // mm
+  Real eps = 1;
+  Real alpha;
+  Real beta;
+  Real radius;  // mm
 };
 
 /// Plate of the flow parameter s0 = alpha eps beta^2; x: differential over absolute pressure at
@@ -98,30 +90,28 @@ struct QuarterCircleSolution {
 /// `calcFailed`, and nothing is returned. Inside the loop for gas and steam it leaves alpha and
 /// beta 0 instead, as does an eps that is not positive, so that the check on beta speaks, too.
 std::optional<QuarterCircleSolution> QuarterCircleFromS(Context& context, const OrificeTable& table,
-                                                        common::Real s0, common::Real x,
+                                                        Real s0, Real x,
                                                         common::Messages& messages);
 
 /// Limits of the pipe Reynolds number at normal flow.
 struct ReynoldsRange {
-  common::Real reLow;
-  common::Real reHigh;
+  Real reLow;
+  Real reHigh;
 };
 
 /// Reynolds limits of an element; pipeBore: D in mm. Types 0 to 2: ISO 5167-2 with 170 beta^2 D on
 /// all three taps; 5, 6, 10: ISO 5167-3; 7 to 9: ISO 5167-4; 3 and 4 by tables. For type 3 beyond
 /// beta 0.8 or D 750 mm there is no lower limit: 0.
-ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, common::Real beta,
+ReynoldsRange ReynoldsLimits(const OrificeTable& table, ElementType type, Real beta,
                              float pipeBore);
 
 /// Permanent pressure loss in mmH2O of the differential dP in mmH2O. Types 0 to 3, 5, 6: ISO 5167-2
 /// eq. (7); type 4: the same with alpha beta^2; venturi types: fractions of dP with a floor.
-common::Real PermanentLoss(ElementType type, common::Real dP, common::Real alpha, common::Real beta,
-                           common::Real c);
+Real PermanentLoss(ElementType type, Real dP, Real alpha, Real beta, Real c);
 
 /// Distance of the downstream vena contracta tap from the plate, in the unit of pipeBore20, which
 /// is the bore as entered, not that at temperature. Beyond the table, which ends at beta 0.1 and
 /// 0.8, the first or last pair of rows is drawn out.
-common::Real DownstreamTapDistance(const OrificeTable& table, common::Real beta,
-                                   common::Real pipeBore20);
+Real DownstreamTapDistance(const OrificeTable& table, Real beta, Real pipeBore20);
 
 }  // namespace flow

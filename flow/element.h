@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "data/process_state.h"
+
 namespace flow {
 
 /// Differential-pressure elements. The value is the position in the sheet's list and what a tag
@@ -22,8 +24,7 @@ enum ElementType : int {
 
 inline constexpr int kElementTypes = 11;
 
-/// What a fluid is, as the list index of the sheets.
-enum FluidPhase : int { kLiquid = 0, kGas = 1, kSteam = 2 };
+using enum data::FluidPhase;
 
 enum class ElementFamily { kOrificePlate, kNozzle, kVenturi };
 

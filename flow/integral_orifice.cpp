@@ -1,6 +1,7 @@
 #include "flow/integral_orifice.h"
 
 #include "common/number.h"
+#include "data/units.h"
 #include "flow/rounds.h"
 
 namespace flow {
@@ -9,16 +10,14 @@ using common::abs;
 using common::At;
 using common::log;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
+using data::kMmH2OPerKgfCm2;
 
 namespace {
 
-constexpr double kWaterColumn = 10000;     // mmH2O per kgf/cm2
 constexpr double kUsablePressure = 0.75;   // share of the pressure that a differential may take
 constexpr double kLargestGroup1 = 200000;  // mmH2O
-constexpr int kGroup2Law = 3;              // where the law tables keep group 2
 
 /// Flow coefficients of the bores of group 1, from the makers' calibration; they are also those of
 /// the K values and of the laws of group 0.
@@ -63,7 +62,7 @@ bool RateFlow(const Equivalent& equivalent, const Volumes& volumes, Real rho, Bo
 
 /// The two notes on the differential, which come last in groups 0 and 2.
 void RateDifferential(const Range& range, const IntegralInputs& inputs, BoreRating& rating) {
-  if (rating.dP > inputs.p * kWaterColumn * kUsablePressure) {
+  if (rating.dP > inputs.p * kMmH2OPerKgfCm2 * kUsablePressure) {
     rating.note = kDifferentialTooLarge;
   } else if (rating.dP < range.low || rating.dP > range.high) {
     rating.note = kOutOfRange;
@@ -104,46 +103,60 @@ Real ThermalExpansion(Real T) {
   return pow(1 + aT * 1e-06 * (T - 20), 2);
 }
 
+/// Finds the differential of a gas or steam together with its expansion factor. flowShare: square
+/// of normal over scale flow; differential: that of an expansion factor, mmH2O. False: noted.
+template <class Differential>
+bool SettleExpansion(const IntegralInputs& inputs, Real flowShare, Real beta,
+                     Differential differential, BoreRating& rating) {
+  constexpr double kStartDifferential = 1000;  // mmH2O
+  constexpr double kSettled = 0.0001;
+  const Real P = inputs.p;
+  const Real x0 = kStartDifferential * flowShare / kMmH2OPerKgfCm2 / P;
+  Real eps = IntegralExpansion(x0, beta, inputs.kappa);
+  Real previous;
+  Rounds rounds;
+  do {
+    rounds.Next();
+    previous = eps;
+    rating.dP = differential(eps);
+    if (rating.dP > P * kMmH2OPerKgfCm2) {
+      rating.note = kDifferentialTooLarge;
+      return false;
+    }
+    const Real x = rating.dP * flowShare / (P * kMmH2OPerKgfCm2);
+    eps = IntegralExpansion(x, beta, inputs.kappa);
+  } while (abs(eps - previous) / eps >= kSettled);
+  rating.eps = eps;
+  return true;
+}
+
 void RateGroup1(const IntegralTable& table, const IntegralInputs& inputs, const Volumes& volumes,
                 int i, BoreRating& rating) {
   // kg/h through the 14 mm pipe: 0.0125218 * 14.008^2.
   constexpr double kFlowConstant = 2.457;
-  constexpr double kStartDifferential = 1000;  // mmH2O
-  constexpr double kSettled = 0.0001;
-  const Real rho = inputs.rho;
-  const Real P = inputs.p;
-  const Real Wmax = volumes.Q * rho;
-  const Real Wn = volumes.Qn * rho;
   if (rating.re < At(table.integralReLow, i)) {
     rating.note = kReynoldsTooLow;
     return;
   }
+  const Real rho = inputs.rho;
+  const Real Wmax = volumes.Q * rho;
+  const Real Wn = volumes.Qn * rho;
   const Real Fa = ThermalExpansion(inputs.temperatureC);
   const Real K = At(table.integralK, i);
+  const auto differential = [&](Real eps) {
+    return pow(Wmax / (kFlowConstant * Fa * eps * K * sqrt(rho)), 2);
+  };
   if (inputs.fluidPhase == kLiquid) {
     rating.eps = 1;
-    rating.dP = pow(Wmax / (kFlowConstant * Fa * K * sqrt(rho)), 2);
-    if (rating.dP > P * kWaterColumn * kUsablePressure) rating.note = kDifferentialTooLarge;
-  } else {
-    const Real beta = At(At(table.integralBeta, 1), i);
-    Real x = kStartDifferential * pow(Wn / Wmax, 2) / kWaterColumn / P;
-    Real eps = IntegralExpansion(x, beta, inputs.kappa);
-    Real previous;
-    Rounds rounds;
-    do {
-      rounds.Next();
-      previous = eps;
-      rating.dP = pow(Wmax / (kFlowConstant * Fa * eps * K * sqrt(rho)), 2);
-      if (rating.dP > P * kWaterColumn) {
-        rating.note = kDifferentialTooLarge;
-        return;
-      }
-      x = rating.dP * pow(Wn / Wmax, 2) / (P * kWaterColumn);
-      eps = IntegralExpansion(x, beta, inputs.kappa);
-    } while (abs(eps - previous) / eps >= kSettled);
-    rating.eps = eps;
+    rating.dP = differential(1);
+    if (rating.dP > inputs.p * kMmH2OPerKgfCm2 * kUsablePressure) {
+      rating.note = kDifferentialTooLarge;
+    }
+  } else if (!SettleExpansion(inputs, pow(Wn / Wmax, 2), At(At(table.integralBeta, 1), i),
+                              differential, rating)) {
+    return;
   }
-  if (rating.note.empty() && rating.dP > kLargestGroup1) rating.note = kDifferentialTooLarge;
+  if (rating.dP > kLargestGroup1) rating.note = kDifferentialTooLarge;
   if (rating.note.empty()) rating.alpha = At(kAlpha, i);
 }
 
@@ -154,8 +167,9 @@ void RateGroup2(const IntegralTable& table, const IntegralInputs& inputs, const 
   const int p = TablePhase(inputs);
   if (!RateFlow(p == 0 ? kWater : kAir, volumes, inputs.rho, rating)) return;
   // The exponents of this group's law stand in the file and are not used.
-  const Real dP =
-      (pow(*rating.equivalentFlow, 2) / At(At(At(table.integralA, kGroup2Law), p), i)) * 1000;
+  const Real dP = (pow(*rating.equivalentFlow, 2) /
+                   At(At(At(table.integralA, IntegralTable::kGroup2Law), p), i)) *
+                  1000;
   if (rating.re < (p == 0 ? 450 : 1220)) {
     rating.note = kReynoldsTooLow;
     return;

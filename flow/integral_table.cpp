@@ -8,8 +8,6 @@ namespace {
 
 using common::TableReader;
 
-constexpr std::size_t kGroup2Law = 3;  // where the law tables keep group 2
-
 /// Number and diameter of one bore; the diameter is kept as text, too.
 void ReadBore(TableReader& reader, IntegralTable& table, std::size_t group, std::size_t bore) {
   table.integralNo[group][bore] = reader.Text();
@@ -73,7 +71,7 @@ bool ReadIntegralTable(std::string bytes, IntegralTable& table) {
   ReadGroup1(reader, read);
   read.integralName[2] = reader.Text();
   ReadBores(reader, read, 2, IntegralTable::kWideBores, kBody13);
-  ReadLaw(reader, read, kGroup2Law, IntegralTable::kWideBores);
+  ReadLaw(reader, read, IntegralTable::kGroup2Law, IntegralTable::kWideBores);
   if (!reader.Good()) return false;
   table = std::move(read);
   return true;

@@ -27,7 +27,7 @@ bool ReadOrificeTable(std::string bytes, OrificeTable& table) {
     read.pipeMin[i] = reader.Number();
     read.pipeMax[i] = reader.Number();
   }
-  for (common::Real& factor : read.downstreamTapFactor) factor = reader.Number();
+  for (Real& factor : read.downstreamTapFactor) factor = reader.Number();
   for (std::size_t i = 0; i < OrificeTable::kQuarterCircleRows; ++i) {
     read.tableBeta[i] = reader.Number();
     read.tableS[i] = reader.Number();

@@ -8,6 +8,8 @@
 
 namespace flow {
 
+using common::Real;
+
 /// Limits of use, tap factors and quarter circle data of the differential-pressure elements, as
 /// they stand in Orifice.dat.
 struct OrificeTable {
@@ -17,23 +19,23 @@ struct OrificeTable {
 
   // Limits of use by element type: beta, and pipe bore in mm. The restriction orifice sheet
   // overwrites rows 0 and 1 for the rest of the run.
-  std::array<common::Real, kElementTypes> betaMin{};
-  std::array<common::Real, kElementTypes> betaMax{};
-  std::array<common::Real, kElementTypes> pipeMin{};
-  std::array<common::Real, kElementTypes> pipeMax{};
+  std::array<Real, kElementTypes> betaMin{};
+  std::array<Real, kElementTypes> betaMax{};
+  std::array<Real, kElementTypes> pipeMin{};
+  std::array<Real, kElementTypes> pipeMax{};
 
   /// Downstream tap of vena contracta taps, fraction of D; row i is for beta = 0.10 + 0.05 i.
-  std::array<common::Real, kTapFactors> downstreamTapFactor{};
+  std::array<Real, kTapFactors> downstreamTapFactor{};
 
   // Quarter circle plate: beta, S = alpha beta^2, and edge radius as a fraction of D; all rising
   // with the row, but the radius.
-  std::array<common::Real, kQuarterCircleRows> tableBeta{};
-  std::array<common::Real, kQuarterCircleRows> tableS{};
-  std::array<common::Real, kQuarterCircleRows> tableRadius{};
+  std::array<Real, kQuarterCircleRows> tableBeta{};
+  std::array<Real, kQuarterCircleRows> tableS{};
+  std::array<Real, kQuarterCircleRows> tableRadius{};
 
   // Pipe Reynolds limits of the quarter circle plate.
-  std::array<common::Real, kReynoldsRows> quarterCircleReMax{};
-  std::array<common::Real, kReynoldsRows> quarterCircleReMin{};
+  std::array<Real, kReynoldsRows> quarterCircleReMax{};
+  std::array<Real, kReynoldsRows> quarterCircleReMin{};
 
   bool Empty() const { return tableBeta.back() == 0; }
 };

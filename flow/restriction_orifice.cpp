@@ -7,15 +7,12 @@
 namespace flow {
 
 using common::abs;
+using common::kSinglePi;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 
 namespace {
-
-/// pi as the velocity and the plates of these sheets have it, in single precision.
-constexpr double kSinglePi = 3.1415927410125732;
 
 /// Pressure ratio from which on the flow does not choke: that of kappa 1.4, taken for all gases.
 constexpr double kCriticalRatio = 0.528;

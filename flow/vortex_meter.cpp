@@ -3,19 +3,17 @@
 #include <algorithm>
 
 #include "common/number.h"
+#include "data/units.h"
 
 namespace flow {
 
 using common::At;
+using common::kSinglePi;
 using common::pow;
-using common::Real;
 using common::RoundDigits;
 using common::sqrt;
 
 namespace {
-
-/// pi in single precision, as the flows of these meters have it.
-constexpr double kSinglePi = 3.1415927410125732;
 
 /// Makers 0 and 1 state frequency and Reynolds bounds of their own, the others do not.
 bool IsFirstMakers(const VortexInputs& inputs) { return inputs.maker <= 1; }
@@ -93,9 +91,6 @@ Real MinLiquidVelocityLast(Real rho, Real size) {
   return Within(size, 250, 300) ? pow(10 / rho, 0.2) : Real(0);
 }
 
-/// The larger of two limits.
-Real Larger(Real a, Real b) { return a > b ? a : b; }
-
 // Largest velocities, as volume flows in m3/h of a bore in mm2 (pi/4 * 3600e-6 = 0.0028274), and
 // Reynolds bounds as volume flows of bore in mm times viscosity in cSt (Re * 2.827e-6).
 constexpr double kLiquidMax = 0.028274334669113155;   // 10 m/s
@@ -110,14 +105,12 @@ MeterRange FirstMakersLimits(const VortexInputs& inputs, Real size, Real bore, R
   MeterRange range;
   range.qMin = 3.6 * f / KFactorAtTemperature(kFactor, inputs.t);
   if (bore == 0) return range;
-  range.qMin = Larger(range.qMin, kReynoldsMin * bore * nu);
-  range.qMin = Larger(range.qMin, FlowOfVelocity(MinVelocityFirst(inputs, size), bore));
+  range.qMin = std::max(range.qMin, kReynoldsMin * bore * nu);
+  range.qMin = std::max(range.qMin, FlowOfVelocity(MinVelocityFirst(inputs, size), bore));
   if (IsLiquid(inputs)) {
     range.qMax = kLiquidMax * pow(bore, 2);
   } else {
-    const Real cap = kReynoldsMax * bore * nu;
-    range.qMax = kGasMaxFirst * pow(bore, 2);
-    if (range.qMax > cap) range.qMax = cap;
+    range.qMax = std::min(kGasMaxFirst * pow(bore, 2), kReynoldsMax * bore * nu);
   }
   return range;
 }
@@ -130,7 +123,7 @@ MeterRange LastMakersLimits(const VortexInputs& inputs, Real size, Real bore) {
   const Real n = size < 150 ? 20 : 40;            // thousands of the lowest Reynolds number
   const Real qRe = (n * nu * bore) / 354;
   const Real qV = FlowOfVelocity(MinLiquidVelocityLast(inputs.rho, size), bore);
-  return {Larger(qRe, qV), kLiquidMax * pow(bore, 2)};
+  return {std::max(qRe, qV), kLiquidMax * pow(bore, 2)};
 }
 
 /// Loss coefficient of makers 0 and 1: dP = a rho Q^2 / 10000.
@@ -188,7 +181,7 @@ VortexRatings RateVortexMeters(const VortexTable& table, const VortexInputs& inp
     rating.rangeLow = RoundDigits(range.qMin / inputs.scaleFlow * 100, 1);
     rating.rangeHigh = RoundDigits(range.qMax / inputs.scaleFlow * 100, 1);
     const Real dP = MeterPressureLoss(table, inputs, i);
-    rating.pressureLoss = dP * 10000;
+    rating.pressureLoss = dP * data::kMmH2OPerKgfCm2;
     rating.backPressure = 2.7 * dP + 1.3 * inputs.vapourPressure;
     rating.listed = dP < inputs.p && rating.rangeLow < 90 && rating.rangeHigh >= 90;
     if (!rating.listed) continue;

@@ -12,30 +12,30 @@ namespace flow {
 struct VortexInputs {
   int maker = 0;  // row of the table
   int fluidPhase = kLiquid;
-  common::Real p;               // kgf/cm2 absolute
-  common::Real t;               // degC
-  common::Real rho;             // density at operating conditions, kg/m3
-  common::Real mu;              // viscosity, cP
-  common::Real vapourPressure;  // Pv of a liquid, kgf/cm2 absolute
-  common::Real scaleFlow;       // maximum scale flow, m3/h at operating conditions
+  Real p;               // kgf/cm2 absolute
+  Real t;               // degC
+  Real rho;             // density at operating conditions, kg/m3
+  Real mu;              // viscosity, cP
+  Real vapourPressure;  // Pv of a liquid, kgf/cm2 absolute
+  Real scaleFlow;       // maximum scale flow, m3/h at operating conditions
 };
 
 /// What a meter of one size can measure, m3/h.
 struct MeterRange {
-  common::Real qMin;
-  common::Real qMax;
+  Real qMin;
+  Real qMax;
 };
 
 /// One nominal size of a maker.
 struct VortexRating {
-  bool made = false;          // the maker has this size
-  common::Real rangeLow;      // per cent of scale, 1 decimal
-  common::Real rangeHigh;     // the same
-  common::Real pressureLoss;  // at scale flow, mmH2O
-  common::Real backPressure;  // pressure that a liquid needs to stay free of vapour, kgf/cm2 abs
-  bool listed = false;        // it measures up to scale and its loss is below the pressure
-  common::Real frequency;     // nominal, at scale flow, Hz; listed sizes
-  bool cavitates = false;     // a liquid at a pressure below backPressure; listed sizes
+  bool made = false;       // the maker has this size
+  Real rangeLow;           // per cent of scale, 1 decimal
+  Real rangeHigh;          // the same
+  Real pressureLoss;       // at scale flow, mmH2O
+  Real backPressure;       // pressure that a liquid needs to stay free of vapour, kgf/cm2 abs
+  bool listed = false;     // it measures up to scale and its loss is below the pressure
+  Real frequency;          // nominal, at scale flow, Hz; listed sizes
+  bool cavitates = false;  // a liquid at a pressure below backPressure; listed sizes
 };
 
 using VortexRatings = std::array<VortexRating, VortexTable::kSizes>;
@@ -46,19 +46,18 @@ bool IsGasTooLight(const VortexInputs& inputs);
 
 /// K-factor at operating temperature, pulses per litre: K (1 - 4.81e-05 (T - 15)), three times the
 /// expansion of a stainless steel body.
-common::Real KFactorAtTemperature(common::Real kFactor, common::Real t);
+Real KFactorAtTemperature(Real kFactor, Real t);
 
 /// Range of size i (row of the table). Makers 0 and 1: bounds of frequency, Reynolds number and
 /// velocity; makers 2 and 3: bounds of velocity and, for liquids, Reynolds number.
 MeterRange MeterFlowLimits(const VortexTable& table, const VortexInputs& inputs, int i);
 
 /// Loss of size i at scale flow, kgf/cm2.
-common::Real MeterPressureLoss(const VortexTable& table, const VortexInputs& inputs, int i);
+Real MeterPressureLoss(const VortexTable& table, const VortexInputs& inputs, int i);
 
 /// Frequency of size i at scale flow in Hz with 2 decimals; 0 for a meter that does not reach 95 %
 /// of scale (rangeHigh in per cent).
-common::Real MeterFrequency(const VortexTable& table, const VortexInputs& inputs, int i,
-                            common::Real rangeHigh);
+Real MeterFrequency(const VortexTable& table, const VortexInputs& inputs, int i, Real rangeHigh);
 
 /// Rates all ten sizes. Raises a fault for a scale flow or density of 0.
 VortexRatings RateVortexMeters(const VortexTable& table, const VortexInputs& inputs);

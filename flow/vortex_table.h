@@ -7,16 +7,17 @@
 
 namespace flow {
 
+using common::Real;
+
 /// Vortex meters of four makers, as they stand in Vortex.dat.
 struct VortexTable {
   static constexpr int kSizes = 10;
   static constexpr int kMakers = 4;
 
-  std::array<common::Real, kSizes> meterSize{};  // nominal, mm
+  std::array<Real, kSizes> meterSize{};  // nominal, mm
   std::array<std::string, kMakers> makerName;
-  std::array<std::array<common::Real, kSizes>, kMakers> meterBore{};  // mm; 0: no such size
-  std::array<std::array<common::Real, kSizes>, kMakers>
-      meterKFactor{};  // pulses per litre, 15 degC
+  std::array<std::array<Real, kSizes>, kMakers> meterBore{};     // mm; 0: no such size
+  std::array<std::array<Real, kSizes>, kMakers> meterKFactor{};  // pulses per litre, 15 degC
 
   bool Empty() const { return meterSize[0] == 0; }
 };

@@ -156,7 +156,7 @@ std::string Monkey::NewText(const std::string& present, bool plausible) {
   if (!plausible && random_.Percent(60)) {
     return random_.Percent(8) ? LongText(random_) : random_.Of(OddTexts());
   }
-  if (!present.empty() && common::IsNumber(present) && random_.Percent(85)) {
+  if (!present.empty() && common::WholeNumber(present) && random_.Percent(85)) {
     // Mostly a little more or less, now and then another order of magnitude.
     const double spread = random_.Percent(85) ? 0.3 : 3;
     try {

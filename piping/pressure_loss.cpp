@@ -7,9 +7,8 @@ namespace piping {
 
 namespace {
 
-constexpr double kPi = 3.1415927410125732;  // in single precision, and meant so
-constexpr double kTwiceGravity = 19.6;      // m/s2; 2 x 9.8, not 9.80665
-constexpr double kKgfM2PerKgfCm2 = 10000;   // kgf/m2 in 1 kgf/cm2
+constexpr double kTwiceGravity = 19.6;     // m/s2; 2 x 9.8, not 9.80665
+constexpr double kKgfM2PerKgfCm2 = 10000;  // kgf/m2 in 1 kgf/cm2
 
 /// Loss of zeta velocity heads, kgf/cm2; velocity in m/s, density in kg/m3.
 Real Loss(Real velocity, Real zeta, Real density) {
@@ -26,7 +25,7 @@ void RefuseNegative(Real density) {
 Real Velocity(const Line& line, Real density) {
   const Real volumeFlow = line.massFlow / density;  // m3/h
   const Real D = line.innerDiameter / 1000;         // m
-  return (volumeFlow * 4 / kPi) / pow(D, 2) / 3600;
+  return (volumeFlow * 4 / common::kSinglePi) / pow(D, 2) / 3600;
 }
 
 /// A contraction is rated by the velocity in the pipe, an enlargement by what the velocity changes.

@@ -3,18 +3,17 @@
 #include <algorithm>
 
 #include "common/number.h"
+#include "common/text.h"
 
 namespace piping {
 
 namespace {
 
-using common::Real;
+using common::IsBlank;
 using common::RoundDigits;
 using common::Val;
 
 constexpr int kZetaDigits = 3;
-
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
 
 /// Whether the type box holds a type from one to the other; an empty box is of no type.
 bool IsType(const ShapeEntries& shape, InletType from, InletType to) {

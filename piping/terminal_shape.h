@@ -7,6 +7,8 @@
 
 namespace piping {
 
+using common::Real;
+
 /// Shapes of a line's inlet, under the numbers that are typed on the sheet.
 enum InletType {
   kStraightInlet = 0,
@@ -18,8 +20,8 @@ enum InletType {
 
 /// Change of bore at an end of a line.
 struct Terminal {
-  common::Real ratio = 1;  // bore behind it over bore before it: d2/d1 at the inlet, d3/d2 behind
-  common::Real angle = 0;  // whole angle of the cone, deg; 180 is a sudden change
+  Real ratio = 1;  // bore behind it over bore before it: d2/d1 at the inlet, d3/d2 behind
+  Real angle = 0;  // whole angle of the cone, deg; 180 is a sudden change
 };
 
 /// The boxes of the shapes as they stand on the sheet.
@@ -41,9 +43,9 @@ void CorrectShape(ShapeEntries& shape, common::Messages& messages);
 /// Loss coefficient of the inlet in velocity heads, 3 decimals. A contraction takes that of its
 /// type; an enlargement is rated by its angle whatever the type. A type that there is not raises
 /// kInvalidArgument.
-common::Real InletZeta(int inletType, const Terminal& inlet);
+Real InletZeta(int inletType, const Terminal& inlet);
 
 /// Loss coefficient of the outlet in velocity heads, 3 decimals.
-common::Real OutletZeta(const Terminal& outlet);
+Real OutletZeta(const Terminal& outlet);
 
 }  // namespace piping

@@ -43,9 +43,9 @@ Real ScaleDifference(Real t) {
 }
 
 Real OldScaleTemperature(Real t) {
-  constexpr int kMostRounds = 100;
+  constexpr int kMaxRounds = 100;
   Real s = t;
-  for (int round = 0; round < kMostRounds; ++round) {
+  for (int round = 0; round < kMaxRounds; ++round) {
     const Real next = t - ScaleDifference(s);
     const Real step = abs(s - next);
     s = next;

@@ -15,7 +15,7 @@ bool ReadSensorTable(std::string bytes, SensorTable& table) {
     for (std::size_t range = 0; range < SensorTable::kRanges; ++range) {
       read.rangeLow[kind][range] = reader.Number();
       read.rangeHigh[kind][range] = reader.Number();
-      for (common::Real& coefficient : read.coef[kind][range]) coefficient = reader.Number();
+      for (Real& coefficient : read.coef[kind][range]) coefficient = reader.Number();
     }
   }
   if (!reader.Good()) return false;

@@ -7,6 +7,8 @@
 
 namespace temperature {
 
+using common::Real;
+
 /// Characteristics of eight thermocouples and two resistance bulbs, as they stand in TE.dat.
 struct SensorTable {
   static constexpr int kKinds = 10;
@@ -18,10 +20,10 @@ struct SensorTable {
 
   std::array<std::string, kKinds> sensorName;
   // [kind][range], degC. A kind of two ranges has the upper limit of the second in the third, too.
-  ByRange<common::Real> rangeLow{};
-  ByRange<common::Real> rangeHigh{};
+  ByRange<Real> rangeLow{};
+  ByRange<Real> rangeHigh{};
   /// [kind][range][power]: output in uV, or resistance over that at 0 degC, by powers of degC.
-  ByRange<std::array<common::Real, kCoefficients>> coef{};
+  ByRange<std::array<Real, kCoefficients>> coef{};
 
   bool Empty() const { return rangeHigh[0][0] == rangeLow[0][0]; }
 };

@@ -6,12 +6,18 @@ namespace temperature {
 
 namespace {
 
+using common::kSinglePi;
 using common::RoundDigits;
 
-constexpr double kPoise = 0.001;  // Pa s per cP
+constexpr double kTwoPi = 2 * kSinglePi;
+constexpr double kGravity = 9.80665;  // m/s2, N per kgf
+constexpr double kPascalSecondPerCp = 0.001;
 
 /// Roots of the cantilever's frequency equation.
 constexpr double kLambda[kModes] = {1.875, 4.694, 7.855};
+
+/// Reduced velocity from which on the random force has no figure.
+constexpr double kRandomForceVr = 5.0;
 
 // Reduced velocities between the kinds of vibration.
 constexpr double kSymmetricFrom = 1.25;
@@ -63,14 +69,16 @@ Fatigue JudgeFatigue(const Thermowell& well, Real randomStress) {
 
 void FindRandomStress(const Thermowell& well, Real velocity, Real reducedVelocity,
                       common::Messages& messages, ThermowellFindings& findings) {
-  findings.randomStress = 0;
-  if (well.insertionLength == 0) return;
+  if (well.insertionLength == 0) {
+    findings.randomStress = 0;
+    return;
+  }
   if (reducedVelocity >= kRandomForceVr) {
+    findings.randomStress = 0;
     messages.Show("ﾗﾝﾀﾞﾑ励振力の計算は、\nＶr＞５ 以上の領域に対応していません。", "ﾗﾝﾀﾞﾑ励振力");
     findings.fatigue = Fatigue::kBeyondRange;
     return;
   }
-  findings.randomStress.reset();
   findings.randomStress =
       CalcRandomStress(well, velocity, findings.natural->hertz[0], reducedVelocity);
 }
@@ -101,15 +109,15 @@ Real Thermowell::WettedDiameter() const { return (tipDiameter + DiameterAtDepth(
 
 Real Thermowell::MassPerLength() const {
   const Real Dm = MeanDiameter();
-  return (kPi / 4) * (wellDensity * (pow(Dm, 2) - pow(bore, 2)) + density * pow(Dm, 2));
+  return (kSinglePi / 4) * (wellDensity * (pow(Dm, 2) - pow(bore, 2)) + density * pow(Dm, 2));
 }
 
 Real Thermowell::SecondMomentOfArea() const {
-  return (kPi / 64) * (pow(MeanDiameter(), 4) - pow(bore, 4));
+  return (kSinglePi / 64) * (pow(MeanDiameter(), 4) - pow(bore, 4));
 }
 
 Real Thermowell::SectionModulus() const {
-  return (kPi / 32) * (pow(rootDiameter, 4) - pow(bore, 4)) / rootDiameter;
+  return (kSinglePi / 32) * (pow(rootDiameter, 4) - pow(bore, 4)) / rootDiameter;
 }
 
 bool AnalyseThermowell(const Thermowell& well, common::Messages& messages,
@@ -131,13 +139,13 @@ bool AnalyseThermowell(const Thermowell& well, common::Messages& messages,
 
 Real PipeVelocity(Real volumeFlow, Real pipeBore) {
   constexpr double kSecondsPerHour = 3600;
-  return (volumeFlow * 4 / (kPi * pow(pipeBore / 1000.0, 2))) / kSecondsPerHour;
+  return (volumeFlow * 4 / (kSinglePi * pow(pipeBore / 1000.0, 2))) / kSecondsPerHour;
 }
 
 std::optional<Real> TankVelocity(const Thermowell& well) {
   const Real N = well.impellerSpeed;
   const Real impellerReynolds =
-      well.density * N * pow(well.impellerDiameter, 2) / (well.viscosity * kPoise);
+      well.density * N * pow(well.impellerDiameter, 2) / (well.viscosity * kPascalSecondPerCp);
   const Real Ri = well.impellerDiameter / 2;
   const Real Rc = (impellerReynolds / (1000 + 1.6 * impellerReynolds)) * Ri;  // rotating core
   const Real Rt = well.tankDiameter / 2 - well.insertionLength;               // of the tip
@@ -147,7 +155,7 @@ std::optional<Real> TankVelocity(const Thermowell& well) {
 }
 
 Real TipReynolds(const Thermowell& well, Real velocity) {
-  return well.tipDiameter * velocity * well.density / (well.viscosity * kPoise);
+  return well.tipDiameter * velocity * well.density / (well.viscosity * kPascalSecondPerCp);
 }
 
 Real GetStrouhal(Real reynolds) {
@@ -215,7 +223,6 @@ bool AvoidsLockIn(Real reducedVelocity, Real dampingParameter) {
 }
 
 DragCoefficient CylinderDrag(Real reynolds, Real insertionLength, Real diameter) {
-  constexpr double k8Pi = 25.132741928100586;
   const Real l = log(reynolds);
   DragCoefficient drag{0, insertionLength / diameter};
   if (reynolds >= 400000) {
@@ -225,7 +232,7 @@ DragCoefficient CylinderDrag(Real reynolds, Real insertionLength, Real diameter)
   }
   Real Cd = 0;  // from Re 1000 on the finite length alone decides
   if (reynolds < 0.4) {
-    Cd = k8Pi / (reynolds * (2.002 - l));
+    Cd = 8 * kSinglePi / (reynolds * (2.002 - l));
   } else if (reynolds < 1000) {
     Cd = exp(0.0383 * pow(l, 2) - 0.6559 * l + 2.3437);
   }
@@ -258,15 +265,15 @@ Real CalcRandomStress(const Thermowell& well, Real velocity, Real firstFrequency
   const Real fr = firstFrequency * Dm / velocity;
   // Spectrum with 4 pi, and the response below with 64 pi, as this method states them; the powers
   // of pi of random vibration theory would be higher and the stress lower.
-  const Real Sf =
-      reducedVelocity < kCrossFlowVr ? 4 / (1 + (kPi * 4.0) * pow(fr, 2)) : 0.007979 / pow(fr, 4);
+  const Real Sf = reducedVelocity < kCrossFlowVr ? 4 / (1 + (kSinglePi * 4.0) * pow(fr, 2))
+                                                 : 0.007979 / pow(fr, 4);
   const Real Sp = (pow((0.13 / 2) * well.density * pow(velocity, 2) * Dm, 2) * Sf * Dm) / velocity;
   const Real lambda = kLambda[0];
   const Real x = lambda * (1 - well.insertionLength / well.totalLength);
   const Real phi = -(sinh(x) - sin(x)) + kSigma * (cosh(x) + cos(x));
   const Real phi1 = phi / lambda;
   const Real Y = kTipValue * kDeviations *
-                 sqrt((pow(phi1, 2) * Sp) / (64 * kPi * pow(well.MassPerLength(), 2) *
+                 sqrt((pow(phi1, 2) * Sp) / (64 * kSinglePi * pow(well.MassPerLength(), 2) *
                                              pow(firstFrequency, 3) * well.dampingRatio));
   return (well.youngsModulus * well.SecondMomentOfArea() / well.SectionModulus()) * Y *
          pow(lambda, 2) / pow(well.totalLength, 2);

@@ -15,11 +15,6 @@ using common::Real;
 // of ASME PTC for the first mode of a tapered tube. Lengths are in m and forces in kgf, so moduli
 // and stresses are in kgf/m2; faults are those of common::Real.
 
-/// pi as the sheets have it, a single-precision value held in double; meant so in all of this.
-inline constexpr double kPi = 3.1415927410125732;
-inline constexpr double kTwoPi = 6.2831854820251465;
-inline constexpr double kGravity = 9.80665;  // m/s2, N per kgf
-
 enum InstallKind { kInPipe = 0, kInTank = 1 };
 
 /// Entries of the analysis.
@@ -149,15 +144,16 @@ NaturalFrequencies CalcNaturalFrequencies(const Thermowell& well);
 /// it divides by: 13 % below it at 16 mm in water, and lost in rounding below 0.01 mm.
 Real CalcTaperFirstMode(const Thermowell& well);
 
-/// By the ratio of natural to vortex frequency, 3 decimals: near within 0.7 to 1.3, both included.
-FrequencyMargin MarginOf(Real naturalFrequency, Real vortexFrequency);
 inline constexpr double kLowMargin = 0.7;
 inline constexpr double kHighMargin = 1.3;
+/// By the ratio of natural to vortex frequency, 3 decimals: near within 0.7 to 1.3, both included.
+FrequencyMargin MarginOf(Real naturalFrequency, Real vortexFrequency);
 
-/// Whether lock-in is avoided or suppressed: Vr < 1, or Cn > 64, or Vr < 3.3 with Cn > 2.5.
-bool AvoidsLockIn(Real reducedVelocity, Real dampingParameter);
+/// Reduced velocities from which on lock-in threatens in line with the flow and across it.
 inline constexpr double kInLineVr = 1.0;
 inline constexpr double kCrossFlowVr = 3.3;
+/// Whether lock-in is avoided or suppressed: Vr < 1, or Cn > 64, or Vr < 3.3 with Cn > 2.5.
+bool AvoidsLockIn(Real reducedVelocity, Real dampingParameter);
 
 /// Drag coefficient of a cylinder of finite length, 2 decimals.
 DragCoefficient CylinderDrag(Real reynolds, Real insertionLength, Real diameter);
@@ -169,7 +165,6 @@ Real CalcDragStress(const Thermowell& well, Real velocity);
 /// standard deviation.
 Real CalcRandomStress(const Thermowell& well, Real velocity, Real firstFrequency,
                       Real reducedVelocity);
-inline constexpr double kRandomForceVr = 5.0;
 
 /// Sum of drag and random stress; at right angles to each other for 4 <= Vr < 6.
 Real CombinedStress(Real dragStress, Real randomStress, Real reducedVelocity);

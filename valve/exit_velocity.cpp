@@ -10,10 +10,7 @@ namespace valve {
 using common::pow;
 
 Real OutletSteamDensity(const Service& service) {
-  data::ProcessState outlet;
-  outlet.pressureAbs = service.p2;
-  outlet.temperatureK = service.tk;
-  return data::SteamDensity(outlet);
+  return data::SteamDensity(service.p2, service.tk);
 }
 
 Real ExitVelocity(const Service& service, Real d) {

@@ -1,6 +1,5 @@
 #include "valve/opening.h"
 
-#include "common/number.h"
 #include "valve/quotient.h"
 
 namespace valve {
@@ -47,13 +46,12 @@ Real Opening(int characteristic, Real cv, Real ratedCv, Real rangeability) {
 }
 
 std::string RangeabilityOf(std::string_view model, Real ratedCv, const std::string& stored) {
-  const std::string_view start = model.substr(0, 3);
-  if (start == "VSM") {
+  if (model.starts_with("VSM")) {
     if (ratedCv >= 0.16) return "30";
     if (ratedCv >= 0.02) return "25";
     if (ratedCv <= 0.01) return "20";
   }
-  if (start == "81 ") {
+  if (model.starts_with("81 ")) {
     if (ratedCv <= 0.15) return "10";
     if (ratedCv <= 0.8) return "15";
     if (ratedCv == 1.5) return "25";
@@ -62,7 +60,7 @@ std::string RangeabilityOf(std::string_view model, Real ratedCv, const std::stri
 }
 
 bool IsLinearTrim(std::string_view model, Real ratedCv) {
-  return model.substr(0, 3) == "81 " && ratedCv <= 0.056;
+  return model.starts_with("81 ") && ratedCv <= 0.056;
 }
 
 }  // namespace valve

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/real.h"
+#include "valve/opening.h"
 
 namespace valve {
 
@@ -17,11 +18,11 @@ struct SelectedValve {
   Real n = 1.4;       // noise coefficient; the rule of a micro-flow maker overwrites it
   Real ratedCv;
   Real rangeability;
-  int characteristic = -1;  // see Characteristic, -1 for none
-  Real d;                   // valve size, mm
-  Real d1;                  // bore of the upstream pipe, mm
-  Real d2;                  // bore of the downstream pipe, mm
-  Real wallWeight;          // mass of the pipe wall by area, kg/m2; 0 for not given
+  int characteristic = kNoCharacteristic;
+  Real d;           // valve size, mm
+  Real d1;          // bore of the upstream pipe, mm
+  Real d2;          // bore of the downstream pipe, mm
+  Real wallWeight;  // mass of the pipe wall by area, kg/m2; 0 for not given
 };
 
 }  // namespace valve

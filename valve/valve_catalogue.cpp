@@ -1,22 +1,19 @@
 #include "valve/valve_catalogue.h"
 
 #include <algorithm>
-#include <initializer_list>
-#include <string_view>
 
 #include "common/fields.h"
 #include "common/table_reader.h"
 #include "common/text.h"
+#include "valve/opening.h"
 
 namespace valve {
 
 namespace {
 
-bool IsBlank(const std::string& text) { return text.empty(); }
-
 template <class Row>
-bool AllBlank(const Row& row) {
-  return std::all_of(row.begin(), row.end(), IsBlank);
+bool AllEmpty(const Row& row) {
+  return std::all_of(row.begin(), row.end(), [](const std::string& text) { return text.empty(); });
 }
 
 /// Visits the fields of a model in file order, the trims behind them, and says where a record ends.
@@ -53,13 +50,13 @@ void Visit(Catalogue& catalogue, Field field, RecordEnd recordEnd) {
 
 int CharacteristicIndex(const std::string& field) {
   constexpr int kLast = static_cast<int>(kCharacteristics.size()) - 1;
-  if (field.size() != 1 || field[0] < '0' || field[0] > '0' + kLast) return -1;
+  if (field.size() != 1 || field[0] < '0' || field[0] > '0' + kLast) return kNoCharacteristic;
   return field[0] - '0';
 }
 
 bool ValveCatalogue::Empty() const {
-  return AllBlank(valveMaker) && std::all_of(valveModel.begin(), valveModel.end(),
-                                             [](const auto& models) { return AllBlank(models); });
+  return AllEmpty(valveMaker) && std::all_of(valveModel.begin(), valveModel.end(),
+                                             [](const auto& models) { return AllEmpty(models); });
 }
 
 bool ReadValveCatalogue(std::string bytes, ValveCatalogue& catalogue) {
@@ -92,7 +89,7 @@ std::string WriteValveCatalogue(const ValveCatalogue& catalogue) {
 
 bool ValveDiaTable::Empty() const {
   return std::all_of(valveDia.begin(), valveDia.end(),
-                     [](const auto& row) { return AllBlank(row); });
+                     [](const auto& row) { return AllEmpty(row); });
 }
 
 bool ReadValveDiaTable(std::string bytes, ValveDiaTable& table) {

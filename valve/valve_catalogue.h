@@ -10,8 +10,8 @@ namespace valve {
 inline constexpr std::array<const char*, 6> kCharacteristics = {
     "Equal Percent", "Linear", "60ﾟ Batterfly", "Modified Parabolic", "Quick Open", "その他"};
 
-/// Index of a characteristic from its field in the catalogue; -1 for an empty field, for one that
-/// is no number, and for a number outside the list.
+/// Index of a characteristic from its field in the catalogue; kNoCharacteristic for an empty field,
+/// for one that is no number, and for a number outside the list.
 int CharacteristicIndex(const std::string& field);
 
 /// Makers, models and trims of control valves, as they stand in ValveSpec.dat. All of it is text,

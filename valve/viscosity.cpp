@@ -13,10 +13,6 @@ using common::sqrt;
 
 namespace {
 
-bool StartsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
-
 /// Kinematic viscosity, cSt, of viscosity cP and density kg/m3.
 Real CentiStokes(Real mu, Real rho) { return Quotient(mu, rho) * 1000; }
 
@@ -49,13 +45,13 @@ void CorrectByIsa(const Service& service, const SelectedValve& valve, const Size
 
 /// Style modifier of the micro-flow trims of "本山" by rated Cv; 0 for one that is not listed.
 Real MicroFlowStyleModifier(std::string_view model, Real ratedCv) {
-  if (StartsWith(model, "06-M")) {
+  if (model.starts_with("06-M")) {
     if (ratedCv <= 0.01) return 0.75;
     if (ratedCv <= 0.05) return 0.54;
     if (ratedCv == 0.1) return 0.38;
     if (ratedCv == 0.15) return 0.31;
   }
-  if (StartsWith(model, "06-L")) {
+  if (model.starts_with("06-L")) {
     constexpr struct {
       double ratedCv, fd;
     } kTrims[] = {{0.02, 0.08}, {0.05, 0.11}, {0.1, 0.14}, {0.15, 0.17}, {0.2, 0.19}, {0.4, 0.29}};
@@ -106,8 +102,8 @@ void CorrectBy山武(const Service& service, const SizedCv& sized, ViscosityCorr
 
 ValveClass ClassOf(std::string_view maker, std::string_view model) {
   if (model.find("微少") == std::string_view::npos) return ValveClass::kOrdinary;
-  if (StartsWith(maker, "本山") && StartsWith(model, "06-")) return ValveClass::k本山微少弁;
-  if (StartsWith(maker, "山武") && StartsWith(model, "VSM")) return ValveClass::k山武微少弁;
+  if (maker.starts_with("本山") && model.starts_with("06-")) return ValveClass::k本山微少弁;
+  if (maker.starts_with("山武") && model.starts_with("VSM")) return ValveClass::k山武微少弁;
   return ValveClass::kOrdinary;
 }
 

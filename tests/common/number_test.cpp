@@ -16,12 +16,22 @@ TEST(Val, TakesTheNumericPrefix) {
               {"+2", 2},     {".5", 0.5},    {"-.5", -0.5}, {"5.", 5},      {"1.2.3", 1.2},
               {"1e3", 1000}, {"1D-2", 0.01}, {"2e", 2},     {"2e+", 2},     {"abc", 0},
               {"-", 0},      {"e5", 0},      {"１２", 0},   {"1e-400", 0},  {"3kPa", 3},
-              {"--1", 0},    {"1-2", 1},     {"&H10", 0},   {"1e 3", 1000}, {"0x10", 0}};
+              {"--1", 0},    {"1-2", 1},     {"&H10", 0},   {"1e 3", 1000}, {"0x10", 0},
+              {"+-5", 0},    {"inf", 0},     {"-nan", 0},   {"1d2e3", 100}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text);
     EXPECT_EQ(static_cast<double>(Val(row.text)), row.value);
   }
   EXPECT_THROW(Val("1e400"), RuntimeFault);
+}
+
+TEST(WholeNumber, IsNothingButANumber) {
+  for (const char* text : {" 1.5", "-.5 ", "5.", "+2e-3", "1D2", "1e-400"}) {
+    EXPECT_EQ(WholeNumber(text), Val(text)) << text;
+  }
+  for (const char* text : {"", " ", "-", ".", "1 2", "1-2", "1e", "1e+", "3kPa", "inf", "1e400"}) {
+    EXPECT_FALSE(WholeNumber(text)) << text;
+  }
 }
 
 TEST(Val, DoesNotDependOnTheLocale) {

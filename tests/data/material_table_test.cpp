@@ -18,21 +18,14 @@ Estimate At(const MaterialTable& table, MaterialRow property, int material, doub
   tests::ScriptedMessages messages;
   ProcessState state;
   state.temperatureC = celsius;
-  Real value;
-  switch (property) {
-    case kDensityRow:
-      value = MaterialDensity(table, material, celsius, messages);
-      break;
-    case kYoungsModulusRow:
-      value = MaterialYoungsModulus(table, material, state, messages);
-      break;
-    case kStressRow:
-      value = MaterialAllowableStress(table, material, state, messages);
-      break;
-    case kExpansionRow:
-      value = MaterialLinearExpansion(table, material, state, messages);
-      break;
+  if (property == kDensityRow) {
+    const Real density = MaterialDensity(table, material, celsius, messages);
+    return {density, messages.shown};
   }
+  const auto estimate = property == kYoungsModulusRow ? MaterialYoungsModulus
+                        : property == kStressRow      ? MaterialAllowableStress
+                                                      : MaterialLinearExpansion;
+  const Real value = estimate(table, material, state, messages);
   return {value, messages.shown};
 }
 

@@ -470,6 +470,7 @@ TEST(EstimateIsentropicExponent, EquationsByHand) {
   } rows[] = {
       // 3.973 / 1.9865 = 2
       {"cubic", {"1", "3.973", "0", "0", "0", kBlank, kBlank}, 2},
+      {"near the gas constant", {"1", "1.9965", "0", "0", "0", kBlank, kBlank}, 199.65},
       {"cubic in K", {"1", "0", "0.02", "0", "0", "-50", "50"}, 1.51},        // 5.863 / 3.8765
       {"exponential", {"2", "2", "300", "-6.85", "", kBlank, kBlank}, 1.58},  // 2 e = 5.4366
       {"quotient", {"3", "0.01", "0.001", "8", "", kBlank, "50"}, 1.66},      // 8 / 1.6 = 5

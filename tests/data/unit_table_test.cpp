@@ -1,6 +1,5 @@
 #include "data/unit_table.h"
 
-#include "common/text.h"
 #include "tests/data/shipped_data.h"
 
 namespace data {
@@ -160,6 +159,7 @@ TEST(UnitTable, RefusesWhatExceedsItsLimits) {
               {"huge count", "\"c\",2147483647,0\r\n", false},
               {"broken count", "\"c\",0.5,0\r\n\"u\",1,0", false},
               {"factor no number", "\"c\",0,0\r\n\"u\",one,0", false},
+              {"factor with more behind it", "\"c\",0,0\r\n\"u\",1-2,0", false},
               {"factor beyond range", "\"c\",0,0\r\n\"u\",1e999,0", false},
               {"category cut", Category(2) + "\"d\"", false}};
   for (const auto& row : rows) {

@@ -1,7 +1,6 @@
 #include "ducts/duct_sizing.h"
 
 #include <cmath>
-#include <functional>
 #include <vector>
 
 #include "tests/data/shipped_data.h"

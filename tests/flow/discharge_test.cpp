@@ -20,7 +20,7 @@ double Reynolds(double kgPerSecond, double metres, double pascalSecond) {
 // tests/test_flow_meter.py, D 73.91 mm; given to 16 digits. Venturi tubes: ISO 5167-4:2003, 5.5.2
 // to 5.5.4; venturi nozzle ISO 5167-3:2003, 5.3.4.2, 0.9858 - 0.196 beta^4.5 with 0.5^4.5 =
 // 0.0441942.
-TEST(Discharge, AgreesWithAnIndependentImplementation) {
+TEST(DischargeEquation, AgreesWithAnIndependentImplementation) {
   const double slow = Reynolds(0.124431876, 0.07391, 0.0000185861753095);
   const double fast = Reynolds(0.1, 0.07391, 1.8e-5);
   const struct {
@@ -48,29 +48,33 @@ TEST(Discharge, AgreesWithAnIndependentImplementation) {
 // ISO 5167-2:2003 5.3.2.1: at an infinite Reynolds number corner taps leave only
 // 0.5961 + 0.0261 beta^2 - 0.216 beta^8; from 71.12 mm (2.8 inch) down the small pipe term comes
 // in.
-TEST(OrificeDischarge, TapAndSmallPipeTermsVanishWhereTheStandardSaysSo) {
-  constexpr double kEndlessReynolds = 1e300;
+TEST(DischargeEquation, TapAndSmallPipeTermsVanishWhereTheStandardSaysSo) {
+  const auto corner = [](double beta, float pipeBore) {
+    return *DischargeEquation(kCornerTapOrifice, 1e300, pipeBore).At(beta).c;
+  };
   for (const double beta : {0.1, 0.3, 0.5, 0.75}) {
     SCOPED_TRACE(beta);
     const double atInfinity = 0.5961 + 0.0261 * beta * beta - 0.216 * std::pow(beta, 8);
-    const double corner100 = *OrificeDischarge(kCornerTapOrifice, kEndlessReynolds, beta, 100).c;
+    const double corner100 = corner(beta, 100);
     const double tapTerm = (0.043 + 0.08 - 0.123) * std::pow(beta, 4) / (1 - std::pow(beta, 4));
     EXPECT_NEAR(corner100, atInfinity + tapTerm, 1e-12);
-    EXPECT_EQ(*OrificeDischarge(kCornerTapOrifice, kEndlessReynolds, beta, 71.12f).c, corner100);
-    const double below =
-        *OrificeDischarge(kCornerTapOrifice, kEndlessReynolds, beta, std::nextafter(71.12f, 0.f)).c;
-    EXPECT_NEAR(below - corner100, 0, 1e-7);
-    EXPECT_NEAR(*OrificeDischarge(kCornerTapOrifice, kEndlessReynolds, beta, 50.8f).c - corner100,
-                0.011 * (0.75 - beta) * 0.8, 1e-8);
+    EXPECT_EQ(corner(beta, 71.12f), corner100);
+    EXPECT_NEAR(corner(beta, std::nextafter(71.12f, 0.f)), corner100, 1e-7);
+    EXPECT_NEAR(corner(beta, 50.8f) - corner100, 0.011 * (0.75 - beta) * 0.8, 1e-8);
   }
 }
 
 // Hand calculation for D 100 mm, beta 0.5, Re 10^6: K0 = 0.5922 + 0.4252 (0.3871/2525.4 + 0.0625 +
 // 1.25/65536) = 0.618848; B = 0.00025 + 0.002325 (0.5 + 0.109375 + 10/4096 + 7.874/65536) =
 // 0.001673.
-TEST(VenaContractaCoefficient, FollowsAHandCalculation) {
-  EXPECT_NEAR(VenaContractaCoefficient(1e6, 0.5, 100), 0.618848 + 0.00167275, 1e-6);
-  EXPECT_NEAR(VenaContractaCoefficient(1e4, 0.5, 100), 0.618848 + 0.0167275, 1e-6);
+TEST(DischargeEquation, OfVenaContractaTapsFollowsAHandCalculation) {
+  const struct {
+    double reynolds, alpha;
+  } rows[] = {{1e6, 0.618848 + 0.00167275}, {1e4, 0.618848 + 0.0167275}};
+  for (const auto& row : rows) {
+    const DischargeEquation equation(kVenaContractaTapOrifice, row.reynolds, 100);
+    EXPECT_NEAR(equation.At(0.5).alpha, row.alpha, 1e-6);
+  }
 }
 
 // Venturi tube of beta 0.6 at 60 bar with 0.5 bar, exponent 1.3: ISO/TR 11583, worked example,
@@ -222,6 +226,11 @@ TEST(DownstreamTapDistance, InterpolatesAndDrawsTheEndsOut) {
     SCOPED_TRACE(row.beta);
     EXPECT_NEAR(DownstreamTapDistance(table, row.beta, 200), 200 * row.factor, 1e-9);
   }
+  // A beta that is less than 1e-6 below a row counts as on it: the pair behind is drawn out.
+  OrificeTable kink;
+  kink.downstreamTapFactor[9] = 1e6;  // at 0.55, 0 elsewhere
+  EXPECT_NEAR(DownstreamTapDistance(kink, 0.5 - 9e-7, 1), -18, 1e-6);
+  EXPECT_EQ(DownstreamTapDistance(kink, 0.5 - 11e-7, 1), 0);
 }
 
 }  // namespace

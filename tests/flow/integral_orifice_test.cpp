@@ -125,9 +125,18 @@ TEST(RateBore, CoefficientRatioAndItsLimits) {
     EXPECT_NEAR(*rating.kaf, row.kaf, 3e-4);
     EXPECT_NEAR(rating.dP, 6701.96 * 1.44 / std::pow(row.kaf, 2), 10);
   }
+  // A curve that rises above 1 counts 1.
+  IntegralTable high = Table();
+  high.kafC0[0][2] += 0.5;
+  IntegralInputs inputs = Service(2, kLiquid, 1.2);
+  inputs.mu = 354 * inputs.normalFlow / (5000 * 1.511);
+  EXPECT_EQ(RateBore(high, inputs, 2).kaf, common::Real(1));
 }
 
 TEST(RateBore, FirstNoteEndsTheBore) {
+  // By the orifice equation 4 l/min make 13388 mmH2O in bore 3 (27040 in group 2), three quarters
+  // of 1.785 kgf/cm2; Re in the body of 13 mm is 354 * 192 / (13 mu).
+  constexpr double kReOfBody = 354.0 * 192 / 13;
   const struct {
     const char* what;
     int model, phase, i;
@@ -146,10 +155,19 @@ TEST(RateBore, FirstNoteEndsTheBore) {
       {"small range of the wide model", 2, kLiquid, 5, 2.4, 11, 0.8, 1, "", true},
       {"group 1 Reynolds", 3, kLiquid, 5, 1, 11, 0.8, 1, kReynoldsTooLow, false},
       {"group 1 liquid at its pressure", 3, kLiquid, 1, 2, 11, 0.8, 1, kDifferentialTooLarge, true},
+      {"group 0 above 3/4 of the pressure", 2, kLiquid, 3, 4, 1.77, 0.8, 1, kDifferentialTooLarge,
+       true},
+      {"group 0 below 3/4 of the pressure", 2, kLiquid, 3, 4, 1.80, 0.8, 1, "", true},
+      {"group 1 above 3/4 of the pressure", 3, kLiquid, 3, 4, 1.77, 0.8, 1, kDifferentialTooLarge,
+       true},
+      {"group 1 below 3/4 of the pressure", 3, kLiquid, 3, 4, 1.80, 0.8, 1, "", true},
       {"group 1 gas above its pressure", 3, kGas, 1, 90, 11, 0.8, 0.018, kDifferentialTooLarge,
        true},
       {"group 1 at high pressure", 3, kLiquid, 1, 2, 100, 0.8, 1, kDifferentialTooLarge, true},
       {"group 2 Reynolds", 4, kLiquid, 1, 0.2, 11, 0.8, 1, kReynoldsTooLow, false},
+      {"group 2 below Re 450", 4, kLiquid, 3, 4, 11, 0.8, kReOfBody / 449.9, kReynoldsTooLow,
+       false},
+      {"group 2 at Re 450", 4, kLiquid, 3, 4, 11, 0.8, kReOfBody / 450.1, "", true},
       {"group 2 scale flow", 4, kLiquid, 6, 67.1, 11, 0.8, 1, kScaleFlowTooLarge, false},
       {"group 2 gas Reynolds", 4, kGas, 6, 10, 11, 0.05, 0.018, kReynoldsTooLow, false},
   };

@@ -37,6 +37,7 @@ RestrictionInputs Air() {
   inputs.kappa = 1.4;
   return inputs;
 }
+
 // Thin plate 0.61 and full flow 1; the cubic meets the thin plate at 0.1 and the line at 0.9 to
 // the rounding of its coefficients.
 TEST(ThicknessCoefficient, JoinsItsBranches) {
@@ -142,6 +143,14 @@ TEST(Restriction, JudgesThePlate) {
   EXPECT_NEAR(thick.deflection,
               thick.deflectionCoefficient * 0.03 * std::pow(51.15, 4) / (19700 * 216), 1e-9);
   EXPECT_FALSE(thick.overdeflected);
+  // The deflection goes with 1 / E and may be a hundredth of the dam.
+  const double dam = (102.3 - thick.bore.bore) / 2;
+  const double leastModulus = 19700 * thick.deflection / (dam / 100);
+  for (const double share : {0.9999, 1.0001}) {
+    inputs.youngsModulus = leastModulus * share;
+    EXPECT_EQ(CalculateRestriction(inputs).overdeflected, share < 1) << share;
+  }
+  inputs.youngsModulus = 19700;
   inputs.thickness = 0.5;
   const RestrictionResult thin = CalculateRestriction(inputs);
   EXPECT_TRUE(thin.overstressed);

@@ -193,6 +193,11 @@ TEST(CalculateLineLoss, StopsWhereTheLossExceedsThePressure) {
       With(belowVacuum, &Line::pipeLength, 1)};
   EXPECT_TRUE(CalculateLineLoss(Air()));
   for (std::size_t i = 0; i < std::size(rows); ++i) EXPECT_FALSE(CalculateLineLoss(rows[i])) << i;
+  // A loss that is all of the pressure does not exceed it. That of a liquid is the same at any.
+  liquid.pressureAbs = CalculateLineLoss(liquid)->totalLoss;
+  EXPECT_TRUE(CalculateLineLoss(liquid));
+  liquid.pressureAbs = std::nextafter(static_cast<double>(liquid.pressureAbs), 0);
+  EXPECT_FALSE(CalculateLineLoss(liquid));
 }
 
 TEST(CalculateLineLoss, EndsInAFaultWithoutAFlow) {

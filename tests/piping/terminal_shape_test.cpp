@@ -75,6 +75,9 @@ TEST(Zeta, AgreesWithHandbooksWhereTheyShould) {
   // Sudden contractions to 0.5 and 0.7 of the bore, by Weisbach's contraction coefficients.
   EXPECT_NEAR(OutletZeta({0.5, 180}), 0.33, 0.03);
   EXPECT_NEAR(OutletZeta({0.7, 180}), 0.22, 0.03);
+  // The polynomial by hand, 0.2245003 and 0.0654986, where its third decimal is about to turn.
+  EXPECT_NEAR(OutletZeta({0.691, 180}), 0.225, 1e-9);
+  EXPECT_NEAR(OutletZeta({0.915, 180}), 0.065, 1e-9);
 }
 
 TEST(Zeta, ChangesAtItsLimits) {

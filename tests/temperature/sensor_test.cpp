@@ -52,6 +52,7 @@ TEST_F(SensorTest, AgreesWithThePublishedTables) {
         << table.sensorName[static_cast<std::size_t>(row.kind)] << " " << row.t;
   }
 }
+
 TEST_F(SensorTest, LimitsAreInsideAndBeyondThemItSaysSo) {
   for (int kind = 0; kind < SensorTable::kKinds; ++kind) {
     const Real low = common::At(table.rangeLow, kind)[0];
@@ -94,6 +95,45 @@ TEST_F(SensorTest, RangesMeetWithoutAStep) {
                   IsResistance(kind) ? 0.002 : 0.1)
           << kind << " " << limit;
     }
+  }
+}
+
+// Two kinds that give the number of their range, and two with nothing but their own terms. A limit
+// belongs to the range above, the top one to its own; type K has 118.5976 uV at 126.9886 degC and
+// e^-1.183432 of it 100 K away; the bulb of the old scale has the old temperature above 0 degC.
+TEST(SensorFormula, HasItsRangesAndTerms) {
+  SensorTable table;
+  for (const Kind kind : {kB, kR, kK, kJPt}) {
+    table.rangeLow[kind] = {-100, 10, 20};
+    table.rangeHigh[kind] = {10, 20, kind == kR ? 20 : 300};  // type R has two ranges
+    for (const int range : {0, 1, 2}) {
+      auto& coefficients = common::At(table.coef[kind], range);
+      if (kind == kB || kind == kR) coefficients[0] = range;
+      if (kind == kJPt) coefficients[1] = 0.01;
+    }
+  }
+  const struct {
+    Kind kind;
+    double t, output;
+  } rows[] = {{kB, 9.999, 0},
+              {kB, 10, 1},
+              {kB, 19.999, 1},
+              {kB, 20, 2},
+              {kB, 300, 2},
+              {kR, 10, 1},
+              {kR, 20, 1},
+              {kK, 126.9886, 118.5976},
+              {kK, 226.9886, 36.3176646},
+              {kJPt, -50, -50},
+              {kJPt, 0, 0},
+              {kJPt, 50, 50.00912}};
+  tests::ScriptedMessages messages;
+  for (const auto& [kind, t, output] : rows) {
+    EXPECT_NEAR(*CalcSensorOutput(table, kind, t, messages, ""), output, kind == kJPt ? 1e-5 : 1e-6)
+        << t;
+  }
+  for (const double t : {-50.0, 50.0}) {
+    EXPECT_NEAR(CalcTemperature(table, kJPt, t > 0 ? 50.00912 : t), t, 0.002);
   }
 }
 

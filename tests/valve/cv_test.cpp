@@ -91,6 +91,7 @@ TEST(Sizing, AgreesWithPublishedGasExamples) {
     EXPECT_NEAR(sized->cv * sized->flp / sized->fp, row.cv, row.cv * 0.01);
   }
 }
+
 TEST(RequiredCv, TurnsCriticalAtItsLimits) {
   // 12 and 6 are exact, so the limit itself can be met.
   for (const Service& service : {Air(12, 6), Steam(12, 6)}) {
