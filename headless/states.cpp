@@ -5,6 +5,7 @@
 
 #include "common/text.h"
 #include "forms/controls.h"
+#include "forms/form.h"
 #include "shell/recovery_commands.h"
 
 namespace headless {
@@ -154,7 +155,8 @@ Json StateOf(const forms::Control& control) {
   Json state = {{"control", control.Name()},        {"kind", control.Kind()},
                 {"text", control.Text()},           {"enabled", control.Enabled()},
                 {"visible", control.Visible()},     {"color", control.ForeColor()},
-                {"backcolor", control.BackColor()}, {"tooltip", control.ToolTip()}};
+                {"backcolor", control.BackColor()}, {"tooltip", control.ToolTip()},
+                {"hint", control.Owner().Told().HintOf(control)}};
   if (const auto* const list = dynamic_cast<const forms::ListControl*>(&control)) {
     state["index"] = list->Index();
     state["items"] = list->Items();
