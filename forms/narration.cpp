@@ -26,9 +26,13 @@ bool IsCaption(const Cell& cell) {
          All(cell, [](const Control* c) { return IsLabel(c, LabelStyle::kCaption); });
 }
 
-/// Whether a caption in front of the cell would be its own: labels other than results name nothing.
+bool IsBlank(const Cell& cell) { return cell.Controls().empty() && cell.Text().empty(); }
+
+/// Whether a caption in front of the cell would be its own. Buttons carry theirs, and labels other
+/// than results have none.
 bool IsField(const Cell& cell) {
   return All(cell, [](const Control* c) {
+    if (dynamic_cast<const Button*>(c) != nullptr) return false;
     return dynamic_cast<const Label*>(c) == nullptr || IsLabel(c, LabelStyle::kResult);
   });
 }
@@ -105,7 +109,7 @@ class Narration::TableReader {
   void ReadTitles(const Line& line) {
     int column = 0;
     for (const Cell& cell : line) {
-      if (cell.What() != Cell::Kind::kEmpty) {
+      if (!IsBlank(cell)) {
         Column& titled = columns_[column];
         for (Words& words : WordsOf(cell)) titled.words.push_back(std::move(words));
         titled.cells.push_back(&cell);
@@ -178,7 +182,7 @@ class Narration::TableReader {
   /// The fields behind one caption are told apart by the titles of their columns.
   void EndCaption() {
     const bool captioned = std::any_of(captions_.begin(), captions_.end(), [](const Cell* cell) {
-      return !cell->Controls().empty() || !cell->Text().empty();
+      return !IsBlank(*cell);
     });
     for (const auto& [control, column] : sharing_) {
       Place& place = narration_.places_[control];
@@ -293,6 +297,8 @@ std::string Narration::HintOf(const Control& control) const {
   const std::string unit = UnitOf(control);
   const std::size_t sentence = hint.find("。");
   if (!unit.empty() && sentence != std::string::npos) hint.insert(sentence, "［" + unit + "］");
+  const bool hasKey = dynamic_cast<const TextBox*>(&control) != nullptr && control.onDblClick;
+  if (!hint.empty() && hasKey) hint += "（F4＝ダブルクリック）";
   return hint;
 }
 
