@@ -123,7 +123,15 @@ void FormView::FocusOn(const forms::Control& control) {
   } else if (QGuiApplication::mouseButtons() != Qt::NoButton) {
     return;  // what the mouse has pressed must not move away from under it
   }
-  ensureWidgetVisible(widget);
+  ScrollTo(*widget);
+}
+
+void FormView::ScrollTo(const QWidget& widget) {
+  constexpr int kMargin = 8;
+  const QRect place(widget.mapTo(content_, QPoint()), widget.size());
+  for (const QPoint corner : {place.bottomRight(), place.topLeft()}) {
+    ensureVisible(corner.x(), corner.y(), kMargin, kMargin);
+  }
 }
 
 void FormView::TakeFocus() {

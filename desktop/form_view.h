@@ -44,6 +44,8 @@ class FormView : public QScrollArea {
   /// Shows name, unit and tip of a control.
   void Tell(const forms::Control& control);
   void OrderTabs();
+  /// Scrolls until the whole widget shows, or its upper left end where it is too large.
+  void ScrollTo(const QWidget& widget);
   void SetLetters(int pixels);
   QSize SizeWithPages();
   bool Fits() const;

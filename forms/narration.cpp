@@ -45,8 +45,7 @@ bool MayBeUnit(const Cell& cell) {
 }
 
 bool HasUnit(const Control* control) {
-  return dynamic_cast<const TextBox*>(control) != nullptr ||
-         IsLabel(control, LabelStyle::kResult);
+  return dynamic_cast<const TextBox*>(control) != nullptr || IsLabel(control, LabelStyle::kResult);
 }
 
 /// Captions are spaced out with wide blanks to stand in a column.
@@ -169,7 +168,8 @@ class Narration::TableReader {
   /// The unit of the field in front, and of those before it that have none.
   void ReadUnit(const Cell& cell) {
     for (Control* field : withoutUnit_) {
-      for (Words& words : WordsOf(cell)) narration_.places_[field].units.push_back(std::move(words));
+      for (Words& words : WordsOf(cell))
+        narration_.places_[field].units.push_back(std::move(words));
     }
     if (!withoutUnit_.empty()) {
       for (const Control* selector : cell.Controls()) {
@@ -181,9 +181,8 @@ class Narration::TableReader {
 
   /// The fields behind one caption are told apart by the titles of their columns.
   void EndCaption() {
-    const bool captioned = std::any_of(captions_.begin(), captions_.end(), [](const Cell* cell) {
-      return !IsBlank(*cell);
-    });
+    const bool captioned = std::any_of(captions_.begin(), captions_.end(),
+                                       [](const Cell* cell) { return !IsBlank(*cell); });
     for (const auto& [control, column] : sharing_) {
       Place& place = narration_.places_[control];
       if (captioned && sharing_.size() == 1) continue;

@@ -152,10 +152,14 @@ Json ItemsOf(const shell::PageRecorder& page) {
 }
 
 Json StateOf(const forms::Control& control) {
-  Json state = {{"control", control.Name()},        {"kind", control.Kind()},
-                {"text", control.Text()},           {"enabled", control.Enabled()},
-                {"visible", control.Visible()},     {"color", control.ForeColor()},
-                {"backcolor", control.BackColor()}, {"tooltip", control.ToolTip()},
+  Json state = {{"control", control.Name()},
+                {"kind", control.Kind()},
+                {"text", control.Text()},
+                {"enabled", control.Enabled()},
+                {"visible", control.Visible()},
+                {"color", control.ForeColor()},
+                {"backcolor", control.BackColor()},
+                {"tooltip", control.ToolTip()},
                 {"hint", control.Owner().Told().HintOf(control)}};
   if (const auto* const list = dynamic_cast<const forms::ListControl*>(&control)) {
     state["index"] = list->Index();

@@ -14,11 +14,11 @@ namespace {
 /// What has one meaning on all forms; a form's own row comes first.
 const std::vector<FieldHint>& CommonHints() {
   static const std::vector<FieldHint> kHints = {
-      {"txtTagNo", "計器のタグ番号。半角 26 字（全角 13 字）まで。タグリストにこの名前で登録します。"},
+      {"txtTagNo",
+       "計器のタグ番号。半角 26 字（全角 13 字）まで。タグリストにこの名前で登録します。"},
       {"txt用途", "計器の用途や設置場所。計算書に印刷されます。"},
       {"cbo流体", "流体の相。相によって使える単位と入力欄が変わります。"},
-      {"txt圧力",
-       "上流側の運転圧力。通常 0～20 MPaG。\n単位の末尾 G はゲージ圧、A は絶対圧です。"},
+      {"txt圧力", "上流側の運転圧力。通常 0～20 MPaG。\n単位の末尾 G はゲージ圧、A は絶対圧です。"},
       {"txt温度", "流体の運転温度。通常 -200～600 ℃。"},
       {"txt密度",
        "流体の密度。通常 液体 500～1500 kg/m3、気体 0.09～5 kg/Nm3。\n"

@@ -7,15 +7,15 @@ namespace sheets {
 namespace {
 
 constexpr const char* kScaleFlow = "計器の最大目盛（100 %）の流量。常用流量以上の値にします。";
-constexpr const char* kNormalFlow = "通常運転の流量。普通は目盛流量の 60～80 %、目盛流量以下にします。";
+constexpr const char* kNormalFlow =
+    "通常運転の流量。普通は目盛流量の 60～80 %、目盛流量以下にします。";
 constexpr const char* kElementPipeBore =
     "20 ℃での配管内径。通常 25～1200 mm。\n右クリックで配管寸法の一覧を開きます。";
 constexpr const char* kLinePipeBore =
     "配管の内径。通常 10～1000 mm。右クリックで配管寸法の一覧を開きます。";
 constexpr const char* kExpansion =
     "20 ℃から運転温度までの線膨張率。\n通常 炭素鋼 11～13、オーステナイト系ステンレス鋼 16～18。";
-constexpr const char* kYoungsModulus =
-    "運転温度でのヤング率。鋼は約 20000 kgf/mm2（200 GPa）。";
+constexpr const char* kYoungsModulus = "運転温度でのヤング率。鋼は約 20000 kgf/mm2（200 GPa）。";
 constexpr const char* kAllowableStress = "運転温度での許容引張応力。鋼は通常 50～140 N/mm2。";
 constexpr const char* kPicksAndCloses = "ダブルクリックか Enter キーで決定します。";
 
@@ -55,27 +55,26 @@ FormHints Orifice() {
 }
 
 FormHints RestrictionOrifice() {
-  return {
-      "frmRO",
-      {
-          {"txt流量", "制限オリフィスを流れる流量。"},
-          {"txt差圧", "オリフィスで落とす差圧。上流の絶対圧力より小さい値にします。"},
-          {"txt圧縮係数", "運転状態の気体の圧縮係数 Z。通常 0.5～1.1、空欄は 1 とします。"},
-          {"cboRO材質", "板の材質。選ぶとヤング率と許容応力を入力します。手入力もできます。"},
-          {"txtヤング率", kYoungsModulus},
-          {"txt許容応力", kAllowableStress},
-          {"txt配管内径", kLinePipeBore},
-          {"txtThickness", "オリフィス板の厚さ。通常 3～50 mm。液体では流量係数も変わります。"},
-          {"pic断面", "板と配管の断面図。入力値と計算結果の寸法で描きます。"},
-          {"lbl流量係数", "液体は流出係数 C、気体・蒸気は臨界流の係数 Cg。"},
-          {"lbl背圧補正", "音速に達しない気体・蒸気で絞り径に掛ける係数 F。液体では空欄です。"},
-          {"lbl流速1", "上流配管内の流速。"},
-          {"lbl応力係数", "外周を固定した孔あき円板の応力係数。括弧内は最大応力の向きです。"},
-          {"lbl最大応力", "差圧による板の最大応力。許容応力を超えると赤で示します。"},
-          {"lblMinThickness", "許容応力に収まる最小の板厚。"},
-          {"lblたわみ係数", "外周を固定した孔あき円板のたわみ係数。"},
-          {"lbl変形量", "板の最大たわみ。せきの高さの 1 % を超えると赤で示します。"},
-      }};
+  return {"frmRO",
+          {
+              {"txt流量", "制限オリフィスを流れる流量。"},
+              {"txt差圧", "オリフィスで落とす差圧。上流の絶対圧力より小さい値にします。"},
+              {"txt圧縮係数", "運転状態の気体の圧縮係数 Z。通常 0.5～1.1、空欄は 1 とします。"},
+              {"cboRO材質", "板の材質。選ぶとヤング率と許容応力を入力します。手入力もできます。"},
+              {"txtヤング率", kYoungsModulus},
+              {"txt許容応力", kAllowableStress},
+              {"txt配管内径", kLinePipeBore},
+              {"txtThickness", "オリフィス板の厚さ。通常 3～50 mm。液体では流量係数も変わります。"},
+              {"pic断面", "板と配管の断面図。入力値と計算結果の寸法で描きます。"},
+              {"lbl流量係数", "液体は流出係数 C、気体・蒸気は臨界流の係数 Cg。"},
+              {"lbl背圧補正", "音速に達しない気体・蒸気で絞り径に掛ける係数 F。液体では空欄です。"},
+              {"lbl流速1", "上流配管内の流速。"},
+              {"lbl応力係数", "外周を固定した孔あき円板の応力係数。括弧内は最大応力の向きです。"},
+              {"lbl最大応力", "差圧による板の最大応力。許容応力を超えると赤で示します。"},
+              {"lblMinThickness", "許容応力に収まる最小の板厚。"},
+              {"lblたわみ係数", "外周を固定した孔あき円板のたわみ係数。"},
+              {"lbl変形量", "板の最大たわみ。せきの高さの 1 % を超えると赤で示します。"},
+          }};
 }
 
 FormHints Integral() {
@@ -204,24 +203,23 @@ std::vector<FormHints> ThermowellDialogues() {
 }
 
 FormHints ThermoElement() {
-  return {
-      "frmTE",
-      {
-          {"txtMaker", "計器のメーカー名。計算書に印刷されます。"},
-          {"txtModel", "計器の型式。計算書に印刷されます。"},
-          {"optTC", "熱電対または測温抵抗体の種類。選ぶと換算値を計算し直します。"},
-          {"txtScale(0)", "計器目盛の下限（0 %）の温度。測温体の使用範囲内にします。",
-           "計器目盛の下限"},
-          {"txtScale(1)", "計器目盛の上限（100 %）の温度。測温体の使用範囲内にします。",
-           "計器目盛の上限"},
-          {"txt温度", "出力に換算する温度。入力と同時に換算します。"},
-          {"lbl換算出力", "入力した温度での測温体の出力。", "温度に対する出力"},
-          {"txtEMF", "温度に換算する起電力または抵抗値。入力と同時に換算します。"},
-          {"lblTemp", "入力した出力に当たる温度。", "出力に対する温度"},
-          {"cmd出力", "温度を出力に換算し、できないときは理由を示します。"},
-          {"cmd温度", "出力を温度に換算し、できないときは理由を示します。"},
-          {"pic特性", "目盛の範囲での測温体の特性曲線。"},
-      }};
+  return {"frmTE",
+          {
+              {"txtMaker", "計器のメーカー名。計算書に印刷されます。"},
+              {"txtModel", "計器の型式。計算書に印刷されます。"},
+              {"optTC", "熱電対または測温抵抗体の種類。選ぶと換算値を計算し直します。"},
+              {"txtScale(0)", "計器目盛の下限（0 %）の温度。測温体の使用範囲内にします。",
+               "計器目盛の下限"},
+              {"txtScale(1)", "計器目盛の上限（100 %）の温度。測温体の使用範囲内にします。",
+               "計器目盛の上限"},
+              {"txt温度", "出力に換算する温度。入力と同時に換算します。"},
+              {"lbl換算出力", "入力した温度での測温体の出力。", "温度に対する出力"},
+              {"txtEMF", "温度に換算する起電力または抵抗値。入力と同時に換算します。"},
+              {"lblTemp", "入力した出力に当たる温度。", "出力に対する温度"},
+              {"cmd出力", "温度を出力に換算し、できないときは理由を示します。"},
+              {"cmd温度", "出力を温度に換算し、できないときは理由を示します。"},
+              {"pic特性", "目盛の範囲での測温体の特性曲線。"},
+          }};
 }
 
 std::vector<FormHints> PressureLoss() {
@@ -233,7 +231,8 @@ std::vector<FormHints> PressureLoss() {
         {"txtPipeLength", "直管部の長さの合計。通常 1～10000 m。"},
         {"txtInletType", "流入部の形状の番号 0～4。右クリックでも形状の図を開きます。"},
         {"cmdInletType", "流入部の形状を図から選びます。"},
-        {"txt管径比率(0)", "流入側の管径に対する配管内径の比 d2/d1。\n同じ径は 1、容器からは 0.01。",
+        {"txt管径比率(0)",
+         "流入側の管径に対する配管内径の比 d2/d1。\n同じ径は 1、容器からは 0.01。",
          "流入部の管径比率 d2/d1"},
         {"txt管径比率(1)", "配管内径に対する流出側の管径の比 d3/d2。\n同じ径は 1、容器へは 100。",
          "流出部の管径比率 d3/d2"},
@@ -344,7 +343,7 @@ std::vector<FormHints> ValveDialogues() {
 
 const std::vector<FormHints>& SheetHints() {
   static const std::vector<FormHints> kHints = [] {
-    std::vector<FormHints> all = {Orifice(),      RestrictionOrifice(), Integral(), Vortex(),
+    std::vector<FormHints> all = {Orifice(),      RestrictionOrifice(), Integral(),     Vortex(),
                                   ControlValve(), Thermowell(),         ThermoElement()};
     for (const auto& some :
          {ThermowellDialogues(), PressureLoss(), CableDuct(), ValveDialogues()}) {

@@ -1,0 +1,68 @@
+#include "common/text.h"
+#include "sheet_test.h"
+
+namespace sheets {
+namespace {
+
+class Hints : public SheetTest {};
+
+bool IsResult(const forms::Control& control) {
+  const auto* const label = dynamic_cast<const forms::Label*>(&control);
+  return label != nullptr && label->Style() == forms::LabelStyle::kResult;
+}
+
+void CheckHint(const std::string& hint) {
+  constexpr std::size_t kLines = 2, kLetters = 60;
+  std::size_t lines = 1;
+  std::size_t letters = 0;
+  for (const char32_t letter : common::CodePoints(hint)) {
+    letters = letter == U'\n' ? 0 : letters + 1;
+    if (letter == U'\n') ++lines;
+    EXPECT_LE(letters, kLetters) << hint;
+  }
+  EXPECT_LE(lines, kLines) << hint;
+}
+
+TEST_F(Hints, EveryControlIsNamedAndEveryFieldTellsWhatItWants) {
+  for (const std::string& name : bench.Forms().KnownNames()) {
+    bench.Forms().Show("frmCV");  // its dialogues have captions by the sheet on top
+    const forms::Form& form = bench.Forms().Show(name);
+    std::map<std::string, std::string> named;
+    for (const forms::Control* control : form.TabOrder()) {
+      const bool isPicture = dynamic_cast<const forms::Picture*>(control) != nullptr;
+      if (!control->Visible() || (!control->TakesFocus() && !IsResult(*control) && !isPicture)) {
+        continue;
+      }
+      SCOPED_TRACE(name + "." + control->Name());
+      const forms::Narration& told = form.Told();
+      const std::string spoken = told.NameOf(*control);
+      EXPECT_NE(spoken, "");
+      const auto [other, isNew] = named.try_emplace(spoken, control->Name());
+      EXPECT_TRUE(isNew) << spoken << " is also " << other->second;
+      const std::string hint = told.HintOf(*control);
+      CheckHint(hint);
+      if (IsResult(*control)) continue;
+      EXPECT_NE(hint, "");
+      const std::string unit = told.UnitOf(*control);
+      EXPECT_NE(hint.find(unit.empty() ? "" : "［" + unit + "］"), std::string::npos) << hint;
+    }
+    bench.Forms().CollectClosed();
+  }
+}
+
+TEST_F(Hints, FollowUnitAndMode) {
+  const forms::Form& valve = bench.Forms().Show("frmCV");
+  const auto tip = [&](const char* name) { return valve.Told().TipOf(Find(name)); };
+  EXPECT_NE(tip("txt差圧").find("差圧［kPa］"), std::string::npos);
+  Click("lbl差圧");
+  Pick("cbo圧力単位", 1);
+  EXPECT_NE(tip("txt差圧").find("圧力［MPaG］"), std::string::npos);
+  EXPECT_EQ(valve.Told().SpokenNameOf(Find("txt差圧")), "二次圧力 MPaG");
+  // A caution comes first, and a caption speaks for its field.
+  Find("txt流量").SetToolTip("注意");
+  EXPECT_TRUE(tip("txt流量").starts_with("注意\n弁を通る"));
+  EXPECT_EQ(tip("lbl流量"), tip("txt流量"));
+}
+
+}  // namespace
+}  // namespace sheets
