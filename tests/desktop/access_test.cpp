@@ -8,6 +8,7 @@
 #include <QTabBar>
 
 #include "desk.h"
+#include "desktop/questions.h"
 #include "desktop/theme.h"
 
 namespace desktop {
@@ -187,6 +188,22 @@ TEST_F(EveryForm, FocusShowsInBothThemes) {
     forms_.UnloadAll();
   }
   QApplication::setPalette(before);
+}
+
+TEST(Boxes, ShowWhichButtonHasTheFocus) {
+  for (const Theme* theme : {&Theme::Light(), &Theme::Dark()}) {
+    QWidget window;
+    window.setStyleSheet(WindowStyle(*theme));
+    MessageBox box({"続けますか", {}, common::Icon::kQuestion, common::Buttons::kYesNo}, &window);
+    box.show();
+    QApplication::setActiveWindow(&box);
+    for (QAbstractButton* button : box.buttons()) {
+      if (QWidget* const focus = QApplication::focusWidget()) focus->clearFocus();
+      const QImage plain = PictureOf(*button);
+      button->setFocus(Qt::TabFocusReason);
+      EXPECT_GT(ShareOfEdgeThatShows(plain, PictureOf(*button), button->rect()), 0.6);
+    }
+  }
 }
 
 TEST_F(EveryForm, ClickOnACaptionGoesToItsField) {
