@@ -315,12 +315,16 @@ std::string Narration::TipOf(const Control& control) const {
 void Narration::CollectFollowers() {
   for (const auto& [follower, place] : places_) {
     if (place.group.label != nullptr) followers_[place.group.label].push_back(follower);
-    if (place.unitOf != nullptr) followers_[place.unitOf].push_back(follower);
-    for (const auto* texts : {&place.caption, &place.units}) {
-      for (const Words& words : *texts) {
+    const auto follow = [this, follower = follower](const std::vector<Words>& texts) {
+      for (const Words& words : texts) {
         if (words.label != nullptr) followers_[words.label].push_back(follower);
       }
-    }
+    };
+    follow(place.caption);
+    follow(place.units);
+    if (place.unitOf == nullptr) continue;
+    followers_[place.unitOf].push_back(follower);
+    follow(places_.at(place.unitOf).caption);
   }
   for (const auto& [caption, field] : fieldOfLabel_) followers_[field].push_back(caption);
 }

@@ -189,8 +189,10 @@ void frmCV::ShowPressureKind(bool secondary) {
   lbl二次圧単位.SetText(secondary ? cbo圧力単位.Text() : "");
   lbl二次圧単位.SetVisible(secondary);
   cbo差圧単位.SetVisible(!secondary);
-  txt差圧.SetHint(secondary ? "弁の二次側（下流）の圧力。一次側の圧力より低い値にします。"
-                            : "弁の前後の差圧。上流の絶対圧力より小さい値にします。");
+  txt差圧.SetHint(secondary ? "弁の二次側（下流）の圧力。一次側の圧力より低い値にします。\n"
+                              "見出しのクリックで差圧の入力に切り替えます。"
+                            : "弁の前後の差圧。上流の絶対圧力より小さい値にします。\n"
+                              "見出しのクリックで二次圧力の入力に切り替えます。");
 }
 
 void frmCV::cboMaker_Click() {

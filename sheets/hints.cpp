@@ -1,6 +1,5 @@
 #include "sheets/hints.h"
 
-#include <algorithm>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -49,47 +48,59 @@ const std::vector<FieldHint>& CommonHints() {
   return kHints;
 }
 
-/// "name(3)" without its index, and the index from 1 as text.
-std::pair<std::string, std::string> ArrayAndNumber(const std::string& control) {
-  const std::size_t bracket = control.find('(');
-  if (bracket == std::string::npos) return {control, {}};
-  return {control.substr(0, bracket), std::to_string(std::stoi(control.substr(bracket + 1)) + 1)};
+struct Element {
+  forms::Control* control;
+  /// Its number in its array from 1, "" outside of arrays.
+  std::string number;
+};
+
+/// The controls by their names, and those of arrays by the names of these, too.
+using Elements = std::multimap<std::string, Element>;
+
+Elements ElementsOf(const forms::Form& form) {
+  Elements elements;
+  for (forms::Control* control : form.Controls()) {
+    const std::string& name = control->Name();
+    const std::size_t bracket = name.find('(');
+    elements.emplace(name, Element{control, {}});
+    if (bracket == std::string::npos) continue;
+    const int number = std::stoi(name.substr(bracket + 1)) + 1;
+    elements.emplace(name.substr(0, bracket), Element{control, std::to_string(number)});
+  }
+  return elements;
 }
 
-void Give(forms::Control& control, const FieldHint& row, const std::string& number) {
+void Give(const Element& element, const FieldHint& row) {
+  forms::Control& control = *element.control;
   if (control.Hint().empty()) control.SetHint(row.hint);
   if (row.name == nullptr || !control.AccessibleName().empty()) return;
   std::string name = row.name;
   if (const std::size_t mark = name.find('#'); mark != std::string::npos) {
-    name.replace(mark, 1, number);
+    name.replace(mark, 1, element.number);
   }
   control.SetAccessibleName(name);
 }
 
 /// Whether any control has the row's name.
-bool GiveRow(forms::Form& form, const FieldHint& row) {
-  bool found = false;
-  for (forms::Control* control : form.Controls()) {
-    const auto [array, number] = ArrayAndNumber(control->Name());
-    if (control->Name() != row.control && array != row.control) continue;
-    Give(*control, row, number);
-    found = true;
-  }
-  return found;
+bool GiveRow(const Elements& elements, const FieldHint& row) {
+  const auto [first, last] = elements.equal_range(row.control);
+  for (auto element = first; element != last; ++element) Give(element->second, row);
+  return first != last;
 }
 
 }  // namespace
 
 void GiveHints(forms::Form& form) {
+  const Elements elements = ElementsOf(form);
   for (const auto* tables : {&SheetHints(), &ToolHints()}) {
     for (const FormHints& table : *tables) {
       if (table.form != form.Name()) continue;
       for (const FieldHint& row : table.fields) {
-        if (!GiveRow(form, row)) throw std::logic_error(form.Name() + " has no " + row.control);
+        if (!GiveRow(elements, row)) throw std::logic_error(form.Name() + " has no " + row.control);
       }
     }
   }
-  for (const FieldHint& row : CommonHints()) GiveRow(form, row);
+  for (const FieldHint& row : CommonHints()) GiveRow(elements, row);
 }
 
 }  // namespace sheets

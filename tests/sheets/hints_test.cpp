@@ -50,6 +50,27 @@ TEST_F(Hints, EveryControlIsNamedAndEveryFieldTellsWhatItWants) {
   }
 }
 
+// A gesture that nothing on the sheet shows stands in the tip of what takes it.
+TEST_F(Hints, TellHiddenGestures) {
+  int gestures = 0;
+  for (const std::string& name : bench.Forms().KnownNames()) {
+    const forms::Form& form = bench.Forms().Show(name);
+    for (const forms::Control* control : form.TabOrder()) {
+      const std::string tip = form.Told().TipOf(*control);
+      const auto tells = [&](bool takes, const char* word) {
+        if (!takes) return;
+        ++gestures;
+        EXPECT_NE(tip.find(word), std::string::npos) << name << "." << control->Name() << tip;
+      };
+      tells(bool(control->onDblClick), "ダブルクリック");
+      tells(bool(control->onRightClick), "右クリック");
+      tells(bool(control->onClick) && !control->TakesFocus(), "クリック");
+    }
+    bench.Forms().CollectClosed();
+  }
+  EXPECT_GT(gestures, 150);
+}
+
 TEST_F(Hints, FollowUnitAndMode) {
   const forms::Form& valve = bench.Forms().Show("frmCV");
   const auto tip = [&](const char* name) { return valve.Told().TipOf(Find(name)); };
