@@ -8,8 +8,7 @@ namespace {
 
 std::vector<FormHints> Editors() {
   constexpr const char* kCoefficients =
-      "左から式の適用温度の下限・上限 ℃と係数 c0～c3。式は下に示します。\n"
-      "係数がすべて空欄なら推算式なしです。";
+      "左から式の適用温度の下限・上限 ℃と係数 c0～c3。式は下に示します。";
   return {{"frmEditCVspec",
            {{"optMaker", "編集するメーカーを選びます。"},
             {"optModel", "編集する型式を選びます。"},

@@ -50,6 +50,38 @@ TEST_F(Hints, EveryControlIsNamedAndEveryFieldTellsWhatItWants) {
   }
 }
 
+// What the eye reads beside, over and behind a field.
+TEST_F(Hints, NamesFollowThePlaceInTheLayout) {
+  const struct {
+    const char *form, *control, *spoken;
+  } rows[] = {{"frmOrifice", "txt目盛流量", "目盛流量 kg/h"},
+              {"frmOrifice", "cbo圧力単位", "圧力の単位"},
+              {"frmOrifice", "opt絞り径→差圧", "計算モード 絞り径→差圧"},
+              {"frmTW", "txt挿入長", "挿入長 Le mm"},
+              {"frmTW", "txt応力集中係数", "応力集中係数 Kt"},
+              {"frmCV", "txt上流配管厚", "上流配管 厚さ mm"},
+              {"frmCV", "txtRangeability", "ﾚﾝｼﾞｱﾋﾞﾘﾃｨ"},
+              {"frmPressLoss", "lblVelosityIn", "流速（流入） m/s"},
+              {"frmPressLoss", "lblTerminalLoss(1)", "流出部損失 kPa"},
+              {"frmPressLoss", "txt付属品数(4)", "ｸﾞﾛｰﾌﾞ弁"},
+              {"frmTE", "txtScale(0)", "計器目盛の下限 ℃"},
+              {"frmTE", "lblTE出力(10)", "100 起電力(μV)"},
+              {"frmVortex", "lblRange(2)", "測定範囲 (%FS) 3"},
+              {"frmCable", "lblUnitWeight(3)", "概算重量 kg/km 4"},
+              {"frmCable", "txtHeight", "深さ mm"},
+              {"frmCable", "lblSumWeight", "合計 重量 kg"},
+              {"frmEditCVspec", "txt弁Cv(1)", "2 定格Cv"},
+              {"frm物性", "opt気体", "流体の種類 気体"}};
+  for (const auto& row : rows) {
+    const forms::Form& form = bench.Forms().Show(row.form);
+    EXPECT_EQ(form.Told().SpokenNameOf(Find(row.control)), row.spoken) << row.form;
+  }
+  bench.Forms().Show("frmPressLoss");
+  Find("lblTotalLoss").SetText("12.5");
+  EXPECT_EQ(bench.Forms().Active()->Told().SpokenNameOf(Find("lblTotalLoss")),
+            "全圧力損失 12.5 kPa");
+}
+
 // A gesture that nothing on the sheet shows stands in the tip of what takes it.
 TEST_F(Hints, TellHiddenGestures) {
   int gestures = 0;
