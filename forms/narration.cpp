@@ -267,15 +267,16 @@ std::string Narration::UnitOf(const Control& control) const {
 std::string Narration::NameOf(const Control& control) const {
   std::string name = control.AccessibleName();
   if (!name.empty()) return name;
-  const std::string own = WithoutWideBlanks(control.Text());
-  if (dynamic_cast<const Button*>(&control) != nullptr) return own;
+  if (dynamic_cast<const Button*>(&control) != nullptr) return WithoutWideBlanks(control.Text());
   const Place* const place = PlaceOf(control);
   if (place == nullptr) return {};
   if (place->unitOf != nullptr) return NameOf(*place->unitOf) + "の単位";
   for (const Words& words : place->caption) Append(name, words.Text());
   if (name.empty()) name = place->group.Text();
   if (place->line > 0) Append(name, std::to_string(place->line));
-  if (dynamic_cast<const CheckControl*>(&control) != nullptr) Append(name, own);
+  if (dynamic_cast<const CheckControl*>(&control) != nullptr) {
+    Append(name, WithoutWideBlanks(control.Text()));
+  }
   return name;
 }
 

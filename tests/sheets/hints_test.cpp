@@ -11,6 +11,12 @@ bool IsResult(const forms::Control& control) {
   return label != nullptr && label->Style() == forms::LabelStyle::kResult;
 }
 
+/// Fields, buttons, results and pictures have names, captions and headings are some.
+bool IsNamed(const forms::Control& control) {
+  return control.TakesFocus() || IsResult(control) ||
+         dynamic_cast<const forms::Picture*>(&control) != nullptr;
+}
+
 void CheckHint(const std::string& hint) {
   constexpr std::size_t kLines = 2, kLetters = 60;
   std::size_t lines = 1;
@@ -29,10 +35,7 @@ TEST_F(Hints, EveryControlIsNamedAndEveryFieldTellsWhatItWants) {
     const forms::Form& form = bench.Forms().Show(name);
     std::map<std::string, std::string> named;
     for (const forms::Control* control : form.TabOrder()) {
-      const bool isPicture = dynamic_cast<const forms::Picture*>(control) != nullptr;
-      if (!control->Visible() || (!control->TakesFocus() && !IsResult(*control) && !isPicture)) {
-        continue;
-      }
+      if (!control->Visible() || !IsNamed(*control)) continue;
       SCOPED_TRACE(name + "." + control->Name());
       const forms::Narration& told = form.Told();
       const std::string spoken = told.NameOf(*control);
