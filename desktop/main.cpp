@@ -41,7 +41,9 @@ int main(int count, char** arguments) {
                               &platform);
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
+  presenter.KeepPlacesIn(settings);
   shell::Workspace& workspace = workbench.Space();
+  workspace.keepsUnits = true;
   workspace.recovery.UseFolder(shell::DefaultStateFolder());
   workspace.recovery.onTrouble = [&window](const std::string& text) { ShowQuietly(window, text); };
   QTimer recoveryTimer;
