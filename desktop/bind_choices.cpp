@@ -238,6 +238,16 @@ void JoinGroup(const forms::OptionButton& option, QRadioButton& button, QWidget&
   group->addButton(&button);
 }
 
+/// The tab key goes to the marked option of a group; the arrow keys walk on from there.
+void LetTabReachMarked(const QButtonGroup& group) {
+  const QList<QAbstractButton*> buttons = group.buttons();
+  const bool any = std::any_of(buttons.begin(), buttons.end(),
+                               [](const QAbstractButton* button) { return button->isChecked(); });
+  for (QAbstractButton* button : buttons) {
+    button->setFocusPolicy(button->isChecked() || !any ? Qt::StrongFocus : Qt::ClickFocus);
+  }
+}
+
 void ShowOption(const forms::OptionButton& option, QRadioButton& button) {
   button.setText(QString::fromStdString(option.Text()));
   QButtonGroup* const group = button.group();
@@ -245,6 +255,7 @@ void ShowOption(const forms::OptionButton& option, QRadioButton& button) {
   group->setExclusive(false);
   button.setChecked(option.Checked());
   group->setExclusive(true);
+  LetTabReachMarked(*group);
   ShowCommon(option, button, Theme::Current().card, forms::kWhite);
 }
 

@@ -35,8 +35,10 @@ class Clickable : public Reporting<Widget, ControlKind> {
     event->accept();
     const bool click = std::exchange(pressed_, false) && event->button() == Qt::LeftButton &&
                        this->rect().contains(event->position().toPoint());
-    if (click) this->Shown().Click();
+    if (click) Clicked();
   }
+
+  virtual void Clicked() { this->Shown().Click(); }
 
  private:
   bool pressed_ = false;
@@ -53,6 +55,12 @@ class LabelField : public Clickable<QLabel, forms::Label> {
   void SetLeastWidth(int width) {
     leastWidth_ = width;
     updateGeometry();
+  }
+
+ protected:
+  void Clicked() override {
+    if (!Shown().onClick && !Shown().onDblClick) FocusBuddy(*this);
+    Clickable::Clicked();
   }
 
  private:
@@ -196,7 +204,8 @@ const char* LookOf(forms::LabelStyle style) {
 void ShowLabel(const forms::Label& label, QLabel& widget) {
   const Theme& theme = Theme::Current();
   const bool clickable = label.onClick || label.onDblClick;
-  widget.setText(QString::fromStdString(label.Text()));
+  widget.setText(widget.buddy() != nullptr ? CaptionOf(label.Text())
+                                           : QString::fromStdString(label.Text()));
   widget.setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
   widget.setProperty("clickable", clickable);
   const bool result = label.Style() == forms::LabelStyle::kResult;
@@ -330,7 +339,6 @@ Bound Bind(forms::Picture& picture, QWidget& parent) {
   const auto show = [&picture, widget] {
     widget->setEnabled(picture.Enabled());
     widget->setHidden(!picture.Visible());
-    widget->setToolTip(QString::fromStdString(picture.ToolTip()));
     widget->update();
   };
   return {widget, show, [&picture, widget](const Scale& scale, int) {

@@ -1,5 +1,6 @@
 #include "desktop/binding.h"
 
+#include <QLabel>
 #include <QTextDocument>
 #include <QVariant>
 #include <stdexcept>
@@ -25,12 +26,6 @@ Bound BindFirstOf(forms::Control& control, QWidget& parent) {
   return bound;
 }
 
-/// Tool tips of ours are plain text, whatever they look like.
-QString PlainToolTip(const std::string& text) {
-  const QString tip = QString::fromStdString(text);
-  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
-}
-
 QString ColorStyle(const forms::Control& control, const QColor& ground, forms::Color plain) {
   const Theme& theme = Theme::Current();
   QString style;
@@ -48,6 +43,11 @@ QString ColorStyle(const forms::Control& control, const QColor& ground, forms::C
 
 }  // namespace
 
+QString PlainToolTip(const std::string& text) {
+  const QString tip = QString::fromStdString(text);
+  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+}
+
 Bound BindAny(forms::Control& control, QWidget& parent) {
   using namespace forms;
   Bound bound =
@@ -61,9 +61,18 @@ void ShowCommon(const forms::Control& control, QWidget& widget, const QColor& gr
                 forms::Color plain) {
   widget.setEnabled(control.Enabled());
   widget.setHidden(!control.Visible());
-  widget.setToolTip(PlainToolTip(control.ToolTip()));
   const QString style = ColorStyle(control, ground, plain);
   if (widget.styleSheet() != style) widget.setStyleSheet(style);
+}
+
+QString CaptionOf(const std::string& text) {
+  return QString::fromStdString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+void FocusBuddy(const QLabel& caption) {
+  QWidget* const field = caption.buddy();
+  if (field == nullptr || !field->isEnabled() || field->focusPolicy() == Qt::NoFocus) return;
+  field->setFocus(Qt::ShortcutFocusReason);
 }
 
 void SetLook(QWidget& widget, const char* look) { widget.setProperty("look", look); }

@@ -8,6 +8,8 @@
 #include "desktop/scale.h"
 #include "forms/controls.h"
 
+class QLabel;
+
 namespace desktop {
 
 /// A control and the widget that shows it.
@@ -41,10 +43,18 @@ Bound Bind(forms::ProgressBar& bar, QWidget& parent);
 /// The same for a control whose kind shows only at run time.
 Bound BindAny(forms::Control& control, QWidget& parent);
 
-/// Shows what every kind of control has: enabled, visible, tool tip and colours.
+/// Tool tips of ours are plain text, whatever they look like.
+QString PlainToolTip(const std::string& text);
+
+/// Shows what every kind of control has: enabled, visible and colours.
 /// ground: the colour behind the letters; plain: the back colour that asks for nothing special.
 void ShowCommon(const forms::Control& control, QWidget& widget, const QColor& ground,
                 forms::Color plain);
+
+/// The text of a label; one with a buddy would take an ampersand for the mark of a key.
+QString CaptionOf(const std::string& text);
+/// Gives the focus to the field that a caption belongs to.
+void FocusBuddy(const QLabel& caption);
 
 /// Marks a widget for the style sheet.
 void SetLook(QWidget& widget, const char* look);

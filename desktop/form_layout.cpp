@@ -114,6 +114,15 @@ void StretchRows(QGridLayout& grid, const std::vector<forms::Line>& lines) {
   if (!anyTall) grid.setRowStretch(row, 1);
 }
 
+/// A fixed caption; a click on it goes to its field.
+class CaptionText : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent*) override { FocusBuddy(*this); }
+};
+
 bool TakesRoom(const forms::Block& block) {
   return block.stretch > 0 || block.kind == forms::Block::Kind::kSpace;
 }
@@ -194,9 +203,11 @@ QWidget* LayoutBuilder::BuildCell(const forms::Cell& cell) {
     case forms::Cell::Kind::kText:
       break;
   }
-  auto* const text = new QLabel(QString::fromStdString(cell.Text()));
+  auto* const text = new CaptionText;
   text->setTextFormat(Qt::PlainText);
+  text->setText(CaptionOf(cell.Text()));
   SetLook(*text, "caption");
+  captions_.emplace_back(&cell, text);
   return text;
 }
 

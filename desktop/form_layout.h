@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "desktop/scale.h"
@@ -9,6 +10,7 @@
 
 class QBoxLayout;
 class QGridLayout;
+class QLabel;
 class QLayout;
 
 namespace desktop {
@@ -19,6 +21,8 @@ class LayoutBuilder {
   /// Creates the widget of a control; characters: the width that its cell asks for, or 0.
   using Place = std::function<QWidget*(forms::Control& control, int characters)>;
   using Resize = std::function<void(const Scale&)>;
+  /// A fixed text of the layout and the label that shows it.
+  using Caption = std::pair<const forms::Cell*, QLabel*>;
 
   explicit LayoutBuilder(Place place) : place_(std::move(place)) {}
 
@@ -26,6 +30,7 @@ class LayoutBuilder {
   QWidget* BuildForm(const forms::Block& block);
   /// What has to be done when the letter height changes.
   std::vector<Resize> TakeResizes() { return std::move(resizes_); }
+  const std::vector<Caption>& Captions() const { return captions_; }
 
  private:
   /// Where room goes that no block of a column asks for: columns side by side end on one line.
@@ -49,6 +54,7 @@ class LayoutBuilder {
 
   Place place_;
   std::vector<Resize> resizes_;
+  std::vector<Caption> captions_;
 };
 
 }  // namespace desktop

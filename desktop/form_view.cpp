@@ -1,6 +1,8 @@
 #include "desktop/form_view.h"
 
 #include <QEvent>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -26,7 +28,7 @@ FormView::FormView(forms::Form& form, QWidget* parent) : QScrollArea(parent), fo
   const std::vector<LayoutBuilder::Resize> layouts = builder.TakeResizes();
   resizes_.insert(resizes_.end(), layouts.begin(), layouts.end());
   setWidget(content_);
-  CollectUnits(form_.Layout());
+  JoinCaptions(builder.Captions());
   for (const auto& [control, bound] : bound_) Show(*control);
   OrderTabs();
   SetLetters(kBaseLetterPixels);
@@ -75,47 +77,30 @@ void FormView::Show(const forms::Control& control) {
   const auto found = bound_.find(&control);
   if (found == bound_.end()) return;
   found->second.show();
-  ShowAccessibleName(control);
-  for (const Unit& unit : units_) {
-    const bool names =
-        std::find(unit.controls.begin(), unit.controls.end(), &control) != unit.controls.end();
-    if (names) ShowAccessibleName(*unit.field);
-  }
+  Tell(control);
+  for (const forms::Control* follower : form_.Told().FollowersOf(control)) Tell(*follower);
 }
 
-void FormView::ShowAccessibleName(const forms::Control& control) {
-  std::string name = control.AccessibleName();
-  if (name.empty()) return;
-  for (const Unit& unit : units_) {
-    if (unit.field != &control) continue;
-    if (!unit.text.empty()) name += " " + unit.text;
-    for (const forms::Control* source : unit.controls) {
-      if (source->Visible() && !source->Text().empty()) name += " " + source->Text();
+void FormView::Tell(const forms::Control& control) {
+  QWidget* const widget = WidgetOf(control);
+  if (widget == nullptr) return;
+  const forms::Narration& told = form_.Told();
+  const std::string tip = told.TipOf(control);
+  widget->setAccessibleName(QString::fromStdString(told.SpokenNameOf(control)));
+  widget->setAccessibleDescription(QString::fromStdString(tip));
+  widget->setToolTip(PlainToolTip(tip));
+}
+
+void FormView::JoinCaptions(const std::vector<LayoutBuilder::Caption>& texts) {
+  for (const auto& [cell, label] : texts) {
+    if (const forms::Control* const field = form_.Told().FieldOf(*cell)) {
+      label->setBuddy(WidgetOf(*field));
     }
   }
-  WidgetOf(control)->setAccessibleName(QString::fromStdString(name));
-}
-
-void FormView::CollectUnits(const forms::Block& block) {
-  for (const forms::Line& line : block.lines) CollectUnits(line);
-  for (const forms::Block& inner : block.blocks) CollectUnits(inner);
-}
-
-void FormView::CollectUnits(const forms::Line& line) {
-  const forms::Control* field = nullptr;
-  for (const forms::Cell& cell : line) {
-    const auto isUnit = [](const forms::Control* control) {
-      const auto* const label = dynamic_cast<const forms::Label*>(control);
-      return label != nullptr ? label->Style() == forms::LabelStyle::kUnit
-                              : dynamic_cast<const forms::ComboBox*>(control) != nullptr;
-    };
-    const bool names = !cell.Controls().empty() &&
-                       std::all_of(cell.Controls().begin(), cell.Controls().end(), isUnit);
-    if (field != nullptr && (names || cell.What() == forms::Cell::Kind::kText)) {
-      units_.push_back({field, {cell.Controls().begin(), cell.Controls().end()}, cell.Text()});
-    }
-    const forms::Control* const last = cell.Controls().empty() ? nullptr : cell.Controls().back();
-    field = dynamic_cast<const forms::TextBox*>(last) != nullptr ? last : nullptr;
+  for (const auto& [control, bound] : bound_) {
+    auto* const label = qobject_cast<QLabel*>(bound.widget);
+    const forms::Control* const field = form_.Told().FieldOf(*control);
+    if (label != nullptr && field != nullptr) label->setBuddy(WidgetOf(*field));
   }
 }
 
@@ -131,10 +116,22 @@ void FormView::OrderTabs() {
 
 void FormView::FocusOn(const forms::Control& control) {
   QWidget* const widget = WidgetOf(control);
-  if (widget == nullptr || window()->focusWidget() == widget) return;
-  widget->setFocus(Qt::OtherFocusReason);
-  if (auto* const edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
-  ensureWidgetVisible(widget);
+  if (widget == nullptr) return;
+  if (window()->focusWidget() != widget) {
+    widget->setFocus(Qt::OtherFocusReason);
+    if (auto* const edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+  } else if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    return;  // what the mouse has pressed must not move away from under it
+  }
+  ScrollTo(*widget);
+}
+
+void FormView::ScrollTo(const QWidget& widget) {
+  constexpr int kMargin = 8;
+  const QRect place(widget.mapTo(content_, QPoint()), widget.size());
+  for (const QPoint corner : {place.bottomRight(), place.topLeft()}) {
+    ensureVisible(corner.x(), corner.y(), kMargin, kMargin);
+  }
 }
 
 void FormView::TakeFocus() {

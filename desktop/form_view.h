@@ -38,18 +38,14 @@ class FormView : public QScrollArea {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Where the name of a field's unit comes from.
-  struct Unit {
-    const forms::Control* field;
-    std::vector<const forms::Control*> controls;
-    std::string text;
-  };
-
   QWidget* PlaceControl(forms::Control& control, int characters);
-  void CollectUnits(const forms::Block& block);
-  void CollectUnits(const forms::Line& line);
-  void ShowAccessibleName(const forms::Control& control);
+  /// Relates each caption to the field that it names.
+  void JoinCaptions(const std::vector<LayoutBuilder::Caption>& texts);
+  /// Shows name, unit and tip of a control.
+  void Tell(const forms::Control& control);
   void OrderTabs();
+  /// Scrolls until the whole widget shows, or its upper left end where it is too large.
+  void ScrollTo(const QWidget& widget);
   void SetLetters(int pixels);
   QSize SizeWithPages();
   bool Fits() const;
@@ -61,7 +57,6 @@ class FormView : public QScrollArea {
   QWidget* content_ = nullptr;
   std::map<const forms::Control*, Bound> bound_;
   std::vector<LayoutBuilder::Resize> resizes_;
-  std::vector<Unit> units_;
   QSize natural_;
   /// A window onto a page shows more of it where there is room; letters then stay as they are.
   bool pageTakesRoom_ = false;

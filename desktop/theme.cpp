@@ -148,10 +148,15 @@ QString FormStyle(const Theme& theme, int letterPixels) {
       {"@barPx", 0.9},       {"@titlePx", 1.0},   {"@notePx", 0.92}, {"@letterPx", 1.0},
       {"@padPx", 0.38},      {"@thinPadPx", 0.2}, {"@roundPx", 0.3}, {"@cardRoundPx", 0.5},
       {"@buttonPadPx", 1.2}, {"@dropPx", 1.5},    {"@arrowPx", 0.8}, {"@markPx", 1.08}};
-  for (const auto& [mark, share] : sizes) {
-    const int pixels = std::max(1, static_cast<int>(std::lround(letterPixels * share)));
+  // The frame of the focus takes a pixel of the padding, so that nothing moves.
+  const std::pair<const char*, double> besideFocus[] = {
+      {"@focusPadPx", 0.38}, {"@focusThinPadPx", 0.2}, {"@focusButtonPadPx", 1.2}};
+  const auto fill = [&](const char* mark, double share, int less) {
+    const int pixels = std::max(1, static_cast<int>(std::lround(letterPixels * share))) - less;
     text.replace(QLatin1String(mark), QString::number(pixels) + QLatin1String("px"));
-  }
+  };
+  for (const auto& [mark, share] : besideFocus) fill(mark, share, 1);
+  for (const auto& [mark, share] : sizes) fill(mark, share, 0);
   return FillIn(text, theme);
 }
 

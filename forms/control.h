@@ -47,8 +47,12 @@ class Control {
   void SetBackColor(Color color);
   const std::string& ToolTip() const { return toolTip_; }
   void SetToolTip(std::string text);
+  /// What the field wants: meaning, usual range, gestures. It is shown where the system's own tool
+  /// tip has nothing to say, and below that. The unit is put behind its first sentence.
+  const std::string& Hint() const { return hint_; }
+  void SetHint(std::string text);
 
-  /// What a screen reader calls it; by default the caption that stands beside it in the layout.
+  /// A name of its own for a screen reader; without one it is called by its place in the layout.
   const std::string& AccessibleName() const { return accessibleName_; }
   void SetAccessibleName(std::string name) { accessibleName_ = std::move(name); }
 
@@ -79,6 +83,7 @@ class Control {
   std::string name_;
   std::string text_;
   std::string toolTip_;
+  std::string hint_;
   std::string accessibleName_;
   Color foreColor_ = kBlack;
   Color backColor_ = kWhite;

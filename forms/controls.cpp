@@ -61,6 +61,12 @@ void Control::SetToolTip(std::string text) {
   TellChanged();
 }
 
+void Control::SetHint(std::string text) {
+  if (hint_ == text) return;
+  hint_ = std::move(text);
+  TellChanged();
+}
+
 Label::Label(Form& form, std::string name, std::string text, LabelStyle style)
     : Control(form, std::move(name)), style_(style) {
   ReplaceText(std::move(text));

@@ -10,25 +10,6 @@ namespace forms {
 
 namespace {
 
-/// Gives each field the caption in front of it as the name that a screen reader says.
-void NameFieldsByCaption(const Block& block) {
-  for (const Line& line : block.lines) {
-    std::string caption;
-    for (const Cell& cell : line) {
-      if (cell.What() == Cell::Kind::kText) caption = cell.Text();
-      for (Control* control : cell.Controls()) {
-        const auto* label = dynamic_cast<const Label*>(control);
-        if (label != nullptr && label->Style() == LabelStyle::kCaption) {
-          caption = label->Text();
-        } else if (control->AccessibleName().empty()) {
-          control->SetAccessibleName(caption);
-        }
-      }
-    }
-  }
-  for (const Block& inner : block.blocks) NameFieldsByCaption(inner);
-}
-
 /// Counts while it lives.
 class Inside {
  public:
@@ -76,7 +57,7 @@ void Form::SetLayout(Block layout) {
   if (std::adjacent_find(seen.begin(), seen.end()) != seen.end()) {
     throw std::logic_error(name_ + " shows a control in two places");
   }
-  NameFieldsByCaption(layout_);
+  narration_.Read(layout_);
 }
 
 void Form::SetFocus(Control& control) {

@@ -7,6 +7,7 @@
 
 #include "common/fault.h"
 #include "forms/layout.h"
+#include "forms/narration.h"
 #include "forms/presenter.h"
 
 namespace forms {
@@ -51,6 +52,8 @@ class Form {
   const std::vector<Control*>& TabOrder() const { return tabOrder_; }
 
   const Block& Layout() const { return layout_; }
+  /// Names, units and tips of the controls as the layout tells them.
+  const Narration& Told() const { return narration_; }
 
   /// The control with the focus, or null.
   Control* Focused() const { return focused_; }
@@ -108,6 +111,7 @@ class Form {
   std::vector<Control*> controls_;
   std::vector<Control*> tabOrder_;
   Block layout_;
+  Narration narration_;
   std::optional<PlaceWish> wantedPlace_;
   Control* focused_ = nullptr;
   Presenter* presenter_ = nullptr;

@@ -5,6 +5,7 @@
 
 #include "common/text.h"
 #include "forms/controls.h"
+#include "forms/form.h"
 #include "shell/recovery_commands.h"
 
 namespace headless {
@@ -151,10 +152,15 @@ Json ItemsOf(const shell::PageRecorder& page) {
 }
 
 Json StateOf(const forms::Control& control) {
-  Json state = {{"control", control.Name()},        {"kind", control.Kind()},
-                {"text", control.Text()},           {"enabled", control.Enabled()},
-                {"visible", control.Visible()},     {"color", control.ForeColor()},
-                {"backcolor", control.BackColor()}, {"tooltip", control.ToolTip()}};
+  Json state = {{"control", control.Name()},
+                {"kind", control.Kind()},
+                {"text", control.Text()},
+                {"enabled", control.Enabled()},
+                {"visible", control.Visible()},
+                {"color", control.ForeColor()},
+                {"backcolor", control.BackColor()},
+                {"tooltip", control.ToolTip()},
+                {"hint", control.Owner().Told().HintOf(control)}};
   if (const auto* const list = dynamic_cast<const forms::ListControl*>(&control)) {
     state["index"] = list->Index();
     state["items"] = list->Items();

@@ -189,6 +189,10 @@ void frmCV::ShowPressureKind(bool secondary) {
   lbl二次圧単位.SetText(secondary ? cbo圧力単位.Text() : "");
   lbl二次圧単位.SetVisible(secondary);
   cbo差圧単位.SetVisible(!secondary);
+  txt差圧.SetHint(secondary ? "弁の二次側（下流）の圧力。一次側の圧力より低い値にします。\n"
+                              "見出しのクリックで差圧の入力に切り替えます。"
+                            : "弁の前後の差圧。上流の絶対圧力より小さい値にします。\n"
+                              "見出しのクリックで二次圧力の入力に切り替えます。");
 }
 
 void frmCV::cboMaker_Click() {
@@ -373,11 +377,6 @@ void frmCV::ClearSizingResults() {
 
 void frmCV::DeclareLayout() {
   for (Label* label : {&lblFlash, &lblCritical, &lbl注意}) label->SetForeColor(forms::kMagenta);
-  // Two fields share a caption, so a screen reader needs names of their own.
-  txt上流配管外径.SetAccessibleName("上流配管外径");
-  txt上流配管厚.SetAccessibleName("上流配管厚さ");
-  txt下流配管外径.SetAccessibleName("下流配管外径");
-  txt下流配管厚.SetAccessibleName("下流配管厚さ");
   SetLayout(forms::Column({
       forms::Table({{lblタイトル}}),
       forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),

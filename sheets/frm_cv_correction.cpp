@@ -86,8 +86,6 @@ frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
     label->onDblClick = cmd補正データ.onClick;
   }
   // A gas has Y in the place where a liquid has its Reynolds number.
-  lblYR.SetAccessibleName(lblY.Text());
-  lblReR.SetAccessibleName(lblRe.Text());
   LayOut({{lblFp, lblFpR},
           {forms::Cell::OneOf({&lblY, &lblRe}), forms::Cell::OneOf({&lblYR, &lblReR})},
           {lblFr, lblFrR}},

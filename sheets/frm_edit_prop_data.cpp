@@ -32,6 +32,48 @@ constexpr std::array<Plot, frmEditPropData::kPlots> kGasPlots = {{
     {FluidProperty::kHeatRatio, "比熱比"},
 }};
 
+/// What fields of the table hold, from one to the other.
+struct FieldsHint {
+  int first;
+  int last;
+  const char* hint;
+};
+
+constexpr FieldsHint kLiquidHints[] = {
+    {data::kLiquidName, data::kLiquidName, "流体名。シートの流体の一覧に表示されます。"},
+    {data::kLiquidDensityCode, data::kLiquidDensityCode, "密度推算式の種類。"},
+    {data::kLiquidDensityA, data::kLiquidDensityLow - 1, "密度推算式の係数（結果は kg/m3）。"},
+    {data::kLiquidDensityLow, data::kLiquidDensityHigh, "密度推算式を使える温度の範囲。"},
+    {data::kLiquidViscosityCode, data::kLiquidViscosityCode, "粘性係数推算式の種類。"},
+    {data::kLiquidViscosityA, data::kLiquidViscosityLow - 1,
+     "粘性係数推算式の係数（結果は mPa･s）。"},
+    {data::kLiquidViscosityLow, data::kLiquidViscosityHigh, "粘性係数推算式を使える温度の範囲。"},
+    {data::kLiquidCriticalPressure, data::kLiquidCriticalPressure,
+     "臨界圧力（絶対圧）。通常 2～22 MPa。"},
+    {data::kLiquidVapourCode, data::kLiquidVapourCode, "蒸気圧推算式の種類。"},
+    {data::kLiquidVapourA, data::kLiquidVapourLow - 1, "蒸気圧推算式の係数（結果は kgf/cm2A）。"},
+    {data::kLiquidVapourLow, data::kLiquidVapourHigh, "蒸気圧推算式を使える温度の範囲。"},
+    {data::kLiquidVapourHigh + 1, frmEditPropData::kFields - 1, "備考。計算には使いません。"}};
+
+constexpr FieldsHint kGasHints[] = {
+    {data::kGasName, data::kGasName, "流体名。シートの流体の一覧に表示されます。"},
+    {data::kGasMolecularWeight, data::kGasMolecularWeight, "分子量。通常 2～200。"},
+    {data::kGasNormalDensity, data::kGasNormalDensity,
+     "標準状態（0 ℃、1 気圧）の密度。0 では分子量から求めます。"},
+    {data::kGasCriticalPressure, data::kGasCriticalPressure,
+     "臨界圧力（絶対圧）。通常 0.2～22 MPa。"},
+    {data::kGasCriticalTemperature, data::kGasCriticalTemperature,
+     "臨界温度（絶対温度）。通常 5～700 K。"},
+    {data::kGasNormalCompressibility, data::kGasNormalCompressibility,
+     "標準状態の圧縮係数。通常 0.95～1、0 では臨界値から求めます。"},
+    {data::kGasViscosityCode, data::kGasViscosityCode, "粘性係数推算式の種類。"},
+    {data::kGasViscosityA, data::kGasViscosityLow - 1, "粘性係数推算式の係数（結果は mPa･s）。"},
+    {data::kGasViscosityLow, data::kGasViscosityHigh, "粘性係数推算式を使える温度の範囲。"},
+    {data::kGasHeatCode, data::kGasHeatCode, "比熱比推算式の種類。"},
+    {data::kGasHeatA, data::kGasHeatLow - 1, "比熱比推算式の係数（理想気体の比熱）。"},
+    {data::kGasHeatLow, data::kGasHeatHigh, "比熱比推算式を使える温度の範囲。"},
+    {data::kGasHeatHigh + 1, frmEditPropData::kFields - 1, "備考など。計算には使いません。"}};
+
 /// Refuses what the file cannot hold, with the fluid that has it.
 void CheckStorable(const FluidTable& table) {
   for (const FluidTable::Record& fluid : table.fluids) {
@@ -105,6 +147,16 @@ void frmEditPropData::ShowTable() {
   for (int field = 0; field < kFields; ++field) {
     lblItemName[field].SetText(common::At(Table().headers, field));
   }
+  const auto tell = [this](const auto& hints) {
+    for (const FieldsHint& row : hints) {
+      for (int field = row.first; field <= row.last; ++field) txtItemData[field].SetHint(row.hint);
+    }
+  };
+  if (phase_ == data::kLiquid) {
+    tell(kLiquidHints);
+  } else {
+    tell(kGasHints);
+  }
   TabStrip1.SetItems(Table().Names());
   if (TabStrip1.Count() > 0) TabStrip1.SetIndex(0);
   TabStrip1_Click();
@@ -135,6 +187,7 @@ void frmEditPropData::ShowJudgement() {
   }
   for (int plot = 0; plot < kPlots; ++plot) {
     common::At(curves_, plot) = CurveOf(plot);
+    picProperty[plot].SetAccessibleName(common::At(curves_, plot).title + " の推算曲線");
     picProperty[plot].Redraw();
   }
 }

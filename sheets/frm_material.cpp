@@ -142,6 +142,8 @@ void frmMaterial::LayOut() {
                         low ? "低温側" : "高温側"};
     for (int column = 0; column < boxes->Count(); ++column) {
       line.push_back(forms::Cell((*boxes)[column]).Wide(kColumns[column].characters));
+      (*boxes)[column].SetAccessibleName(std::string(kProperties[row / 2]) +
+                                         (low ? " 低温側 " : " 高温側 ") + kColumns[column].title);
     }
     if (!low) (*boxes)[0].SetToolTip("推算には使用しません（低温側の上限が境界です）。");
     lines.push_back(std::move(line));

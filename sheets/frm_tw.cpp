@@ -172,6 +172,9 @@ void frmTW::ShowInstallation() {
     control->SetVisible(InTank());
   }
   txt配管内径.SetToolTip(InTank() ? "" : "規格配管ならﾀﾞﾌﾞﾙｸﾘｯｸで入力可");
+  txt流量.SetHint(InTank() ? "攪拌機の回転数。通常 10～500 rpm。" : "配管を流れる流量。");
+  txt配管内径.SetHint(InTank() ? "攪拌翼（インペラー）の直径。攪拌槽内径より小さくします。"
+                               : "配管の内径。通常 25～1200 mm。");
   ShowUnitsOfPhase();
 }
 

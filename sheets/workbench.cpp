@@ -30,6 +30,7 @@
 #include "sheets/frm_unit_edit.h"
 #include "sheets/frm_vortex.h"
 #include "sheets/frm_zepha2excel.h"
+#include "sheets/hints.h"
 #include "sheets/pressure_loss_dialogues.h"
 #include "sheets/small_dialogues.h"
 #include "sheets/thermowell_dialogues.h"
@@ -49,7 +50,11 @@ Workbench::Workbench(forms::Presenter& presenter, std::string installDir,
 void Workbench::ProvideForms() {
   shell::Workspace& space = workspace_;
   const auto provide = [&space]<class FormType>(const char* name, std::type_identity<FormType>) {
-    space.forms.Provide(name, [&space] { return std::make_unique<FormType>(space); });
+    space.forms.Provide(name, [&space] {
+      auto form = std::make_unique<FormType>(space);
+      GiveHints(*form);
+      return form;
+    });
   };
   provide("frmOrifice", std::type_identity<frmOrifice>());
   provide(frmCable::kName, std::type_identity<frmCable>());

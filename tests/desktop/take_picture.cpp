@@ -1,8 +1,8 @@
 // Takes a picture of the workbench in a state that a script describes:
 //   take_picture OUT.png [--size WIDTHxHEIGHT] [--dark] [--form NAME] < SCRIPT
 // Lines of the script: load PATH, recall ROW, menu NAME, open FORM, type CONTROL TEXT, pick CONTROL
-// N or =TEXT, choose, click, dblclick, rclick CONTROL, close FORM. --form takes the picture of that
-// form's own window alone.
+// N or =TEXT, choose, click, dblclick, rclick, focus CONTROL, close FORM. --form takes the picture
+// of that form's own window alone.
 #include <QApplication>
 #include <QTimer>
 #include <cstdlib>
@@ -65,6 +65,8 @@ void Run(sheets::Workbench& workbench, const std::string& line) {
   } else if (auto* const check = dynamic_cast<forms::CheckControl*>(control);
              check != nullptr && verb == "choose") {
     check->Choose();
+  } else if (verb == "focus") {
+    form->SetFocus(*control);
   } else if (verb == "click") {
     control->Click();
   } else if (verb == "dblclick") {

@@ -226,8 +226,8 @@ TEST(Form, KnowsItsControlsByName) {
   EXPECT_EQ(form.Find("txtNone"), nullptr);
   EXPECT_THROW(form.lblValue[3], std::out_of_range);
   EXPECT_THROW(TextBox(form, "txtName"), std::logic_error);
-  EXPECT_EQ(form.txtName.AccessibleName(), "名称");
-  EXPECT_EQ(form.txtFlow.AccessibleName(), "流量");
+  EXPECT_EQ(form.Told().NameOf(form.txtName), "名称");
+  EXPECT_EQ(form.Told().NameOf(form.txtFlow), "流量");
 }
 
 TEST(Changes, AreToldToThePresenterOnce) {
