@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <csignal>
 
+#include "common/file.h"
 #include "desktop/application.h"
 #include "desktop/main_window.h"
 #include "desktop/platform.h"
@@ -37,8 +38,9 @@ int main(int count, char** arguments) {
   desktop::QtPresenter presenter;
   desktop::QtPlatform platform(presenter);
   shell::FileSettings settings(shell::DefaultSettingsPath());
-  sheets::Workbench workbench(presenter, QApplication::applicationDirPath().toStdString(), settings,
-                              &platform);
+  const std::string programFolder = QApplication::applicationDirPath().toStdString();
+  sheets::Workbench workbench(presenter, programFolder, settings, &platform);
+  workbench.Space().guideDir = common::JoinPath(programFolder, "guide");
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   shell::Workspace& workspace = workbench.Space();

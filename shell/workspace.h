@@ -38,6 +38,8 @@ struct Workspace {
 
   /// Folder with the data files.
   std::string installDir;
+  /// Folder with the pages of the user's guide, which need not be there.
+  std::string guideDir;
   Tables tables;
   /// The valve catalogue has been edited since its file was read or written.
   bool valvesModified = false;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "common/file.h"
 #include "headless/driver.h"
 #include "headless/states.h"
 
@@ -93,6 +94,7 @@ int main(int count, char** values) {
   const std::unique_ptr<shell::SettingsStore> settings = Settings(arguments->settings);
   headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir,
                           *settings, StateFolder(arguments->settings));
+  driver.Bench().Space().guideDir = common::JoinPath(ProgramFolder(), "guide");
   // The start may ask before the first command can be read.
   for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());
