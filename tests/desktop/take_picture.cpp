@@ -142,6 +142,9 @@ void Camera::Run(const std::string& line) {
     list->SetText(text);
   } else if (list != nullptr && verb == "pick") {
     Pick(*list, text);
+  } else if (auto* const grid = dynamic_cast<forms::Grid*>(&control);
+             grid != nullptr && verb == "pick") {
+    grid->Pick(common::IntIndex(common::Val(text)));
   } else if (auto* const check = dynamic_cast<forms::CheckControl*>(&control);
              check != nullptr && verb == "choose") {
     check->Choose();

@@ -54,6 +54,7 @@ void CollectTexts(const forms::Block& block, std::set<std::string>& texts) {
 std::set<std::string> TextsOn(shell::FormManager& forms) {
   std::set<std::string> texts = {""};
   for (const forms::Form* form : forms.Open()) {
+    texts.insert(form->Caption());
     CollectTexts(form->Layout(), texts);
     for (const forms::Control* control : form->Controls()) {
       texts.insert(control->Text());
