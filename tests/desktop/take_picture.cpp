@@ -1,12 +1,14 @@
 // Takes pictures of the workbench in states that a script describes:
 //   take_picture [OUT.png] [--size WIDTHxHEIGHT] [--dark] [--form NAME] [--script FILE] [< SCRIPT]
-// Lines of the script: load PATH, recall ROW, menu NAME, open FORM, close FORM, type CONTROL TEXT,
-// pick CONTROL N or =TEXT, choose, click, dblclick, rclick CONTROL, size WIDTHxHEIGHT, reset
-// (closes all forms), picture PATH [FORM] (of the window, or of that form alone). CONTROL may be
-// FORM!CONTROL. --form takes the last picture of that form's own window alone. What a user would be
-// told ends the program: nobody is there to read it.
+// Lines of the script: load PATH, recall ROW, menu NAME, open FORM, close FORM, reset (closes all
+// forms), type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click, dblclick, rclick CONTROL, where
+// CONTROL may be FORM!CONTROL; size WIDTHxHEIGHT of the window, place TOOL X Y WIDTH HEIGHT over it;
+// picture PATH [FORM] of the window, or of that form alone, desk PATH of the window and the tools
+// over it. --form takes the last picture of that form's own window alone. What a user would be told
+// ends the program: nobody is there to read it.
 #include <QApplication>
 #include <QEventLoop>
+#include <QPainter>
 #include <QTimer>
 #include <cstdlib>
 #include <fstream>
@@ -62,11 +64,12 @@ class Camera {
     if (form == nullptr) Fail("no form " + name);
     return *presenter_.ViewOf(*form);
   }
-  static void Save(QWidget& target, const QString& path) {
-    if (!target.grab().save(path)) Fail("the picture was not saved: " + path.toStdString());
+  static void Save(const QPixmap& picture, const QString& path) {
+    if (!picture.save(path)) Fail("the picture was not saved: " + path.toStdString());
   }
 
  private:
+  QPixmap Desk() const;
   bool RunOnWindow(const std::string& verb, const std::string& object, const std::string& text);
   forms::Control& FindControl(const std::string& name) const;
   static void Pick(forms::ListControl& list, const std::string& text);
@@ -95,6 +98,27 @@ void Camera::Pick(forms::ListControl& list, const std::string& text) {
   list.Pick(index);
 }
 
+/// The window and the tools over it, each at its place below a strip with its title: there is no
+/// window manager who would draw one.
+QPixmap Camera::Desk() const {
+  constexpr int kStrip = 24;
+  QPixmap desk = window_.grab();
+  QPainter painter(&desk);
+  for (const forms::Form* form : workbench_.Forms().Open()) {
+    QWidget& tool = *presenter_.ViewOf(*form)->window();
+    if (&tool == &window_ || !tool.isVisible()) continue;
+    const QRect place(tool.pos() - window_.pos(), tool.size());
+    const QRect strip(place.left(), place.top() - kStrip, place.width(), kStrip);
+    const QPalette& palette = tool.palette();
+    painter.fillRect(strip, palette.mid());
+    painter.setPen(palette.color(QPalette::WindowText));
+    painter.drawText(strip, Qt::AlignCenter, tool.windowTitle());
+    painter.drawPixmap(place.topLeft(), tool.grab());
+    painter.drawRect(place.united(strip).adjusted(0, 0, -1, -1));
+  }
+  return desk;
+}
+
 /// What concerns no control; false for another verb.
 bool Camera::RunOnWindow(const std::string& verb, const std::string& object,
                          const std::string& text) {
@@ -114,12 +138,17 @@ bool Camera::RunOnWindow(const std::string& verb, const std::string& object,
     forms.UnloadAll();
   } else if (verb == "size") {
     Resize(object);
-  } else if (verb == "picture") {
+  } else if (verb == "place") {
+    std::istringstream numbers(text);
+    int x = 0, y = 0, width = 0, height = 0;
+    numbers >> x >> y >> width >> height;
+    ViewOf(object).window()->setGeometry({window_.pos() + QPoint(x, y), QSize(width, height)});
+  } else if (verb == "picture" || verb == "desk") {
     constexpr int kDrawn = 150;  // ms
     forms.CollectClosed();
     Settle(kDrawn);
     QWidget& target = text.empty() ? window_ : ViewOf(text);
-    Save(target, QString::fromStdString(object));
+    Save(verb == "desk" ? Desk() : target.grab(), QString::fromStdString(object));
   } else {
     return false;
   }
@@ -193,7 +222,8 @@ int main(int count, char** arguments) {
     constexpr int kDrawn = 500;  // ms
     Settle(kDrawn);
     const std::string form = option("--form").toStdString();
-    Camera::Save(form.empty() ? window : *camera.ViewOf(form).window(), path);
+    QWidget& target = form.empty() ? window : *camera.ViewOf(form).window();
+    Camera::Save(target.grab(), path);
   }
   presenter.CloseAll();
   return 0;

@@ -12,6 +12,9 @@
 #include "forms/controls.h"
 #include "headless/driver.h"
 #include "shell/sheet_registry.h"
+#include "tests/support/fake_platform.h"
+#include "tests/support/recording_presenter.h"
+#include "tests/support/temporary_folder.h"
 
 namespace headless {
 namespace {
@@ -173,10 +176,35 @@ TEST_F(Guide, MessagesStandInTheProgram) {
   EXPECT_GT(messages, 50);
 }
 
-TEST_F(Guide, EverySheetHasItsPage) {
+// The page of every sheet that there is, the index without one, a help file of the house before
+// both; and what is missing is named.
+TEST_F(Guide, HelpOpensThePageOfTheSheetOnTop) {
+  const tests::TemporaryFolder folder;
+  tests::RecordingPresenter presenter;
+  tests::FakePlatform platform;
+  shell::MemorySettings settings;
+  sheets::Workbench bench(presenter, folder.Path(), settings, &platform);
+  bench.Space().guideDir = pages;
+  const auto help = [&] {
+    bench.Window().Run("mnuZEPHAHelp");
+    return platform.opened.back();
+  };
+  EXPECT_EQ(help(), pages + "/index.html");
   for (const shell::SheetEntry& sheet : shell::SheetRegistry()) {
-    EXPECT_TRUE(fs::exists(pages + "/" + sheet.guidePage + ".html")) << sheet.kind;
+    shell::OpenSheet(bench.Space(), sheet.kind);
+    EXPECT_EQ(help(), pages + "/" + sheet.guidePage + ".html");
+    EXPECT_TRUE(fs::exists(help())) << sheet.kind;
   }
+  common::WriteFile(folder / "Zepha.chm", "of the house");
+  EXPECT_EQ(help(), folder / "Zepha.chm");
+
+  Driver driver(folder.Path(), settings);  // has no program to open anything
+  driver.Bench().Space().guideDir = "/none";
+  EXPECT_EQ(driver.Execute("menu mnuZEPHAHelp")["messages"][0]["text"],
+            "ヘルプを開けません。\n" + (folder / "Zepha.chm"));
+  fs::remove(folder / "Zepha.chm");
+  EXPECT_EQ(driver.Execute("menu mnuZEPHAHelp")["messages"][0]["text"],
+            "ヘルプを開けません。\n/none/index.html");
 }
 
 TEST_F(Guide, PagesAreReachedFromTheIndexAndTheirLinksLeadSomewhere) {
