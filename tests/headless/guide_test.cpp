@@ -155,6 +155,7 @@ TEST_F(Guide, MessagesStandInTheProgram) {
     }
   }
   program = std::regex_replace(program, std::regex("\"\\s*\n\\s*\""), "");
+  program = std::regex_replace(program, std::regex("\\\\\""), "\"");
   int messages = 0;
   for (const fs::path& file : FilesOf(sources, ".md")) {
     bool inTable = false;
