@@ -22,8 +22,8 @@ void StartUserProgram(Workspace& workspace, int index);
 /// Shows the captions of the user programs on their buttons.
 void ShowUserPrograms(Workspace& workspace);
 
-/// Opens the help file of the house beside the program, otherwise the page of the user's guide on the
-/// sheet on top.
+/// Opens the help file of the house beside the program, otherwise the page of the user's guide on
+/// the sheet on top.
 void ShowHelp(Workspace& workspace);
 
 }  // namespace shell

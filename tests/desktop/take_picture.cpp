@@ -1,11 +1,11 @@
 // Takes pictures of the workbench in states that a script describes:
 //   take_picture [OUT.png] [--size WIDTHxHEIGHT] [--dark] [--form NAME] [--script FILE] [< SCRIPT]
 // Lines of the script: load PATH, recall ROW, menu NAME, open FORM, close FORM, reset (closes all
-// forms), type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click, dblclick, rclick CONTROL, where
-// CONTROL may be FORM!CONTROL; size WIDTHxHEIGHT of the window, place TOOL X Y WIDTH HEIGHT over it;
-// picture PATH [FORM] of the window, or of that form alone, desk PATH of the window and the tools
-// over it. --form takes the last picture of that form's own window alone. What a user would be told
-// ends the program: nobody is there to read it.
+// forms), type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click, dblclick, rclick CONTROL,
+// where CONTROL may be FORM!CONTROL; size WIDTHxHEIGHT of the window, place TOOL X Y WIDTH HEIGHT
+// over it; picture PATH [FORM] of the window, or of that form alone, desk PATH of the window and
+// the tools over it. --form takes the last picture of that form's own window alone. What a user
+// would be told ends the program: nobody is there to read it.
 #include <QApplication>
 #include <QEventLoop>
 #include <QPainter>
