@@ -43,7 +43,9 @@ int main(int count, char** arguments) {
   workbench.Space().guideDir = common::JoinPath(programFolder, "guide");
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
+  presenter.KeepPlacesIn(settings);
   shell::Workspace& workspace = workbench.Space();
+  workspace.keepsUnits = true;
   workspace.recovery.UseFolder(shell::DefaultStateFolder());
   workspace.recovery.onTrouble = [&window](const std::string& text) { ShowQuietly(window, text); };
   QTimer recoveryTimer;

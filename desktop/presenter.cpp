@@ -1,6 +1,8 @@
 #include "desktop/presenter.h"
 
 #include <QApplication>
+#include <locale>
+#include <sstream>
 
 #include "desktop/form_view.h"
 #include "desktop/main_window.h"
@@ -12,6 +14,8 @@
 namespace desktop {
 
 namespace {
+
+constexpr const char* kToolPlaces = "Tools";
 
 class Counting {
  public:
@@ -83,15 +87,32 @@ QWidget* QtPresenter::ShowOwnWindow(forms::Form& form, FormView& view) {
   auto* const window = new OwnWindow(view, modal != nullptr ? *modal : *mainWindow_);
   window->onClose = [this, &form] { UserCloses(form); };
   window->onActivate = [this, &form] { Activated(form); };
-  const auto place = toolPlaces_.find(form.Name());
-  if (place != toolPlaces_.end() && !form.WantedPlace()) {
-    const QRect kept = OnScreen(place->second);
-    window->move(kept.topLeft());
-    window->resize(kept.size());
+  if (const QRect kept = KeptPlace(form); !kept.isEmpty()) {
+    const QRect place = OnScreen(kept);
+    window->move(place.topLeft());
+    window->resize(place.size());
   }
   window->show();
   window->activateWindow();
   return window;
+}
+
+/// "left top width height" in pixels.
+void QtPresenter::KeepPlace(const forms::Form& form, const QWidget& window) {
+  if (form.Role() != forms::FormRole::kTool || form.WantedPlace()) return;
+  std::ostringstream place;
+  place.imbue(std::locale::classic());
+  place << window.x() << ' ' << window.y() << ' ' << window.width() << ' ' << window.height();
+  places_->Set(kToolPlaces, form.Name(), place.str());
+}
+
+/// Empty when none was kept or it is damaged.
+QRect QtPresenter::KeptPlace(const forms::Form& form) const {
+  if (form.Role() != forms::FormRole::kTool || form.WantedPlace()) return {};
+  std::istringstream place(places_->Get(kToolPlaces, form.Name()));
+  int left = 0, top = 0, width = 0, height = 0;
+  if (!(place >> left >> top >> width >> height)) return {};
+  return {left, top, width, height};
 }
 
 void QtPresenter::RaiseForm(forms::Form& form) {
@@ -116,9 +137,7 @@ void QtPresenter::CloseForm(forms::Form& form) {
   const Counting steering(steering_);
   // An event of one of its widgets may be on the way, so the window goes later.
   QWidget* const window = found->second.window;
-  if (form.Role() == forms::FormRole::kTool) {
-    toolPlaces_[form.Name()] = {window->pos(), window->size()};
-  }
+  KeepPlace(form, *window);
   shown_.erase(found);
   closed_.emplace_back(window);
   // A window that was opened from this one would go with it.

@@ -10,6 +10,7 @@
 
 #include "forms/presenter.h"
 #include "shell/form_manager.h"
+#include "shell/settings.h"
 
 class QDialog;
 class QMdiSubWindow;
@@ -29,6 +30,8 @@ class QtPresenter : public forms::Presenter {
 
   /// From now on the forms of this manager appear in this window.
   void Attach(MainWindow& window, shell::FormManager& forms);
+  /// Places of tools are kept there, for later runs as well.
+  void KeepPlacesIn(shell::SettingsStore& settings) { places_ = &settings; }
   /// Takes all windows off the screen, before the forms go.
   void CloseAll();
   /// The view of an open form, or null.
@@ -56,6 +59,8 @@ class QtPresenter : public forms::Presenter {
 
   QWidget* ShowSheet(forms::Form& form, FormView& view);
   QWidget* ShowOwnWindow(forms::Form& form, FormView& view);
+  void KeepPlace(const forms::Form& form, const QWidget& window);
+  QRect KeptPlace(const forms::Form& form) const;
   void Activated(QMdiSubWindow* window);
   void Activated(forms::Form& form);
   void UserCloses(forms::Form& form);
@@ -69,7 +74,8 @@ class QtPresenter : public forms::Presenter {
   shell::FormManager* forms_ = nullptr;
   std::map<const forms::Form*, Shown> shown_;
   /// Where the tools stood when they were closed, by form name.
-  std::map<std::string, QRect> toolPlaces_;
+  shell::MemorySettings ownPlaces_;
+  shell::SettingsStore* places_ = &ownPlaces_;
   /// They may go with each other.
   std::vector<QPointer<QWidget>> closed_;
   /// Dialogues that wait.

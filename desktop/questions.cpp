@@ -1,7 +1,9 @@
 #include "desktop/questions.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <array>
 
 namespace desktop {
@@ -54,6 +56,11 @@ QMessageBox::StandardButton EscapeOf(common::Buttons buttons) {
     default:
       return QMessageBox::Cancel;
   }
+}
+
+QString DocumentsFolder() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 QString WithLineEnds(const std::string& text) {
@@ -114,6 +121,9 @@ FileBox::FileBox(const forms::FileQuestion& question, QWidget* parent) : QFileDi
   setOption(DontConfirmOverwrite);
   setNameFilters(NameFilters(question.filter));
   setDefaultSuffix(QString::fromStdString(question.extension));
+  const QString folder = QString::fromStdString(question.folder);
+  setDirectory(!folder.isEmpty() && QFileInfo(folder).isDir() ? folder : DocumentsFolder());
+  if (save && !question.name.empty()) selectFile(QString::fromStdString(question.name));
   setLabelText(LookIn, QStringLiteral("場所:"));
   setLabelText(FileName, QStringLiteral("ファイル名(&N):"));
   setLabelText(FileType, QStringLiteral("ファイルの種類:"));

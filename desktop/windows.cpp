@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/icons.h"
@@ -82,6 +83,20 @@ void OwnWindow::closeEvent(QCloseEvent* event) {
 void OwnWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::ActivationChange && isActiveWindow() && onActivate) onActivate();
+}
+
+void OwnWindow::showEvent(QShowEvent* event) {
+  constexpr int kFramedMs = 100;
+  QWidget::showEvent(event);
+  QTimer::singleShot(kFramedMs, this, [this] { StayOnScreen(); });
+}
+
+void OwnWindow::StayOnScreen() {
+  const QRect frame = frameGeometry();
+  const QRect place = OnScreen(frame);
+  if (place == frame) return;
+  resize(size() - (frame.size() - place.size()));
+  move(place.topLeft());
 }
 
 void OwnWindow::keyPressEvent(QKeyEvent* event) {

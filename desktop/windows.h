@@ -28,10 +28,13 @@ class OwnWindow : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Escape();
+  /// Its frame, too, whose size the window manager tells only after the window is shown.
+  void StayOnScreen();
 
   FormView& view_;
 };

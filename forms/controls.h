@@ -131,6 +131,12 @@ class ComboBox : public ListControl {
   Style style_;
 };
 
+/// Selects the unit of a field.
+class UnitBox : public ComboBox {
+ public:
+  UnitBox(Form& form, std::string name) : ComboBox(form, std::move(name)) {}
+};
+
 class ListBox : public ListControl {
  public:
   /// fixedPitch: lines are columns padded with blanks.

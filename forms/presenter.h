@@ -19,6 +19,10 @@ struct FileQuestion {
   std::string filter;
   /// Extension with its point, for a chosen name that has none.
   std::string extension;
+  /// Where the dialogue opens; "", or a folder that is gone: where the user keeps documents.
+  std::string folder = {};
+  /// The name that is proposed for saving.
+  std::string name = {};
 };
 
 /// Whoever shows the forms and stands between them and the user: the window system, the driver, or

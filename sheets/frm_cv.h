@@ -30,7 +30,7 @@ class frmCV : public ProcessSheet,
   TextBox txt流量{*this, "txt流量", forms::NumberKeys};
   Label lbl差圧{*this, "lbl差圧", "差圧"};
   TextBox txt差圧{*this, "txt差圧", forms::NumberKeys};
-  ComboBox cbo差圧単位{*this, "cbo差圧単位"};
+  UnitBox cbo差圧単位{*this, "cbo差圧単位"};
   /// Unit of the secondary pressure, which is that of the inlet; empty for a differential.
   Label lbl二次圧単位{*this, "lbl二次圧単位", "", LabelStyle::kUnit};
   VapourPressureFields vapour{*this};

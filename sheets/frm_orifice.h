@@ -53,7 +53,7 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   OptionButton opt絞り径_差圧{*this, "opt絞り径→差圧", "絞り径→差圧", "mode"};
   Label lbl設計差圧{*this, "lbl設計差圧", "設計差圧"};
   TextBox txt設計差圧{*this, "txt設計差圧", forms::NumberKeys};
-  ComboBox cbo設計差圧単位{*this, "cbo設計差圧単位"};
+  UnitBox cbo設計差圧単位{*this, "cbo設計差圧単位"};
   Label lbl絞り径{*this, "lbl絞り径", "絞り径（20℃）"};
   TextBox txt絞り径{*this, "txt絞り径", forms::NumberKeys};
 

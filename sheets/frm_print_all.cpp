@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "shell/file_questions.h"
+#include "shell/record_text.h"
+
 namespace sheets {
 
 frm一括印刷::frm一括印刷(shell::Workspace& workspace)
@@ -52,8 +55,11 @@ std::vector<int> frm一括印刷::MarkedRows() const {
 }
 
 void frm一括印刷::cmdPDF_Click() {
-  const std::optional<std::string> path =
-      workspace_.Shown().AskFile({true, "一括印刷", "PDF(*.pdf)|*.pdf", ".pdf"});
+  forms::FileQuestion question{true, "一括印刷", "PDF(*.pdf)|*.pdf", ".pdf"};
+  if (const std::string& file = workspace_.tags.zephaFileName; !file.empty()) {
+    question.name = shell::FileTitle(file) + ".pdf";
+  }
+  const std::optional<std::string> path = shell::AskForFile(workspace_, std::move(question));
   if (!path || workspace_.platform == nullptr) return;
   std::unique_ptr<shell::PrintJob> job = workspace_.platform->StartPdf(*path);
   if (!job) {

@@ -27,10 +27,10 @@ class frm物性 : public shell::Sheet, public FluidUser {
   forms::OptionButton opt蒸気{*this, "opt蒸気", "蒸気"};
   forms::Label lblPress{*this, "lblPress", "圧力"};
   forms::TextBox txtPress{*this, "txtPress", forms::NumberKeys};
-  forms::ComboBox cboPressUnit{*this, "cboPressUnit"};
+  forms::UnitBox cboPressUnit{*this, "cboPressUnit"};
   forms::Label lblTemp{*this, "lblTemp", "温度"};
   forms::TextBox txtTemp{*this, "txtTemp", forms::SignedNumberKeys};
-  forms::ComboBox cboTempUnit{*this, "cboTempUnit"};
+  forms::UnitBox cboTempUnit{*this, "cboTempUnit"};
   forms::ListBox lst流体名称{*this, "lst流体名称", 12};
   forms::Button cmd計算{*this, "cmd計算", "計算", forms::ButtonRole::kDefault};
 

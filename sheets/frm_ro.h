@@ -21,7 +21,7 @@ class frmRO : public ProcessSheet, public PipeTarget {
   TextBox txt流量{*this, "txt流量", forms::NumberKeys};
   Label lbl差圧{*this, "lbl差圧", "差圧"};
   TextBox txt差圧{*this, "txt差圧", forms::NumberKeys};
-  ComboBox cbo差圧単位{*this, "cbo差圧単位"};
+  UnitBox cbo差圧単位{*this, "cbo差圧単位"};
   HumidityFields humidity{*this};
   Label lbl圧縮係数{*this, "lbl圧縮係数", "圧縮係数"};
   TextBox txt圧縮係数{*this, "txt圧縮係数", forms::NumberKeys};
@@ -32,10 +32,10 @@ class frmRO : public ProcessSheet, public PipeTarget {
   ComboBox cboRO材質{*this, "cboRO材質", {}, ComboBox::Style::kEditable};
   Label lblヤング率{*this, "lblヤング率", "ヤング率"};
   TextBox txtヤング率{*this, "txtヤング率", forms::NumberKeys};
-  ComboBox cboヤング率単位{*this, "cboヤング率単位"};
+  UnitBox cboヤング率単位{*this, "cboヤング率単位"};
   Label lbl許容応力{*this, "lbl許容応力", "許容応力"};
   TextBox txt許容応力{*this, "txt許容応力", forms::NumberKeys};
-  ComboBox cbo許容応力単位{*this, "cbo許容応力単位"};
+  UnitBox cbo許容応力単位{*this, "cbo許容応力単位"};
   Label lbl配管呼称径{*this, "lbl配管呼称径", "配管呼称径"};
   ComboBox cbo配管呼称径{*this, "cbo配管呼称径", {}, ComboBox::Style::kEditable};
   Label lblSchedule{*this, "lblSchedule", "スケジュール"};

@@ -37,10 +37,10 @@ class frmTW : public ProcessSheet, public PipeTarget {
   TextBox txt保護管密度{*this, "txt保護管密度", forms::NumberKeys};
   Label lblヤング率{*this, "lblヤング率", "ヤング率"};
   TextBox txtヤング率{*this, "txtヤング率", forms::NumberKeys};
-  ComboBox cboヤング率単位{*this, "cboヤング率単位"};
+  UnitBox cboヤング率単位{*this, "cboヤング率単位"};
   Label lbl許容応力{*this, "lbl許容応力", "許容応力"};
   TextBox txt許容応力{*this, "txt許容応力", forms::NumberKeys};
-  ComboBox cbo許容応力単位{*this, "cbo許容応力単位"};
+  UnitBox cbo許容応力単位{*this, "cbo許容応力単位"};
 
   Label lbl保護管長{*this, "lbl保護管長", "保護管長 L"};
   TextBox txt保護管長{*this, "txt保護管長", forms::NumberKeys};

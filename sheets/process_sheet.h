@@ -24,6 +24,7 @@ using forms::LabelStyle;
 using forms::OptionButton;
 using forms::ResultLabel;
 using forms::TextBox;
+using forms::UnitBox;
 
 class CalculationPage;
 
@@ -35,7 +36,7 @@ struct HumidityFields {
   Label lbl相対湿度単位;
   Label lbl飽和水蒸気圧;
   TextBox txt飽和水蒸気圧;
-  ComboBox cbo飽和水蒸気圧単位;
+  UnitBox cbo飽和水蒸気圧単位;
 };
 
 /// Saturated vapour pressure of a liquid.
@@ -43,7 +44,7 @@ struct VapourPressureFields {
   explicit VapourPressureFields(Form& form);
   Label lbl飽和蒸気圧;
   TextBox txt飽和蒸気圧;
-  ComboBox cbo飽和蒸気圧単位;
+  UnitBox cbo飽和蒸気圧単位;
 };
 
 /// Critical pressure of a liquid.
@@ -51,7 +52,7 @@ struct CriticalPressureFields {
   explicit CriticalPressureFields(Form& form);
   Label lbl臨界圧力;
   TextBox txt臨界圧力;
-  ComboBox cbo臨界圧力単位;
+  UnitBox cbo臨界圧力単位;
 };
 
 /// Whether a humid gas flow counts its moisture.
@@ -73,23 +74,23 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   TextBox txt用途{*this, "txt用途"};
   Label lbl流体{*this, "lbl流体", "流体"};
   ComboBox cbo流体{*this, "cbo流体"};
-  ComboBox cbo流量単位L{*this, "cbo流量単位L"};
-  ComboBox cbo流量単位G{*this, "cbo流量単位G"};
-  ComboBox cbo流量単位S{*this, "cbo流量単位S"};
+  UnitBox cbo流量単位L{*this, "cbo流量単位L"};
+  UnitBox cbo流量単位G{*this, "cbo流量単位G"};
+  UnitBox cbo流量単位S{*this, "cbo流量単位S"};
   Label lbl圧力{*this, "lbl圧力", "圧力"};
   TextBox txt圧力{*this, "txt圧力", forms::NumberKeys};
-  ComboBox cbo圧力単位{*this, "cbo圧力単位"};
+  UnitBox cbo圧力単位{*this, "cbo圧力単位"};
   Label lbl温度{*this, "lbl温度", "温度"};
   TextBox txt温度{*this, "txt温度", forms::SignedNumberKeys};
-  ComboBox cbo温度単位{*this, "cbo温度単位"};
+  UnitBox cbo温度単位{*this, "cbo温度単位"};
   Label lbl密度{*this, "lbl密度", "密度"};
   TextBox txt密度{*this, "txt密度", forms::NumberKeys};
-  ComboBox cbo密度単位L{*this, "cbo密度単位L"};
-  ComboBox cbo密度単位G{*this, "cbo密度単位G"};
-  ComboBox cbo密度単位S{*this, "cbo密度単位S"};
+  UnitBox cbo密度単位L{*this, "cbo密度単位L"};
+  UnitBox cbo密度単位G{*this, "cbo密度単位G"};
+  UnitBox cbo密度単位S{*this, "cbo密度単位S"};
   Label lbl粘性係数{*this, "lbl粘性係数", "粘性係数"};
   TextBox txt粘性係数{*this, "txt粘性係数", forms::NumberKeys};
-  ComboBox cbo粘性係数単位{*this, "cbo粘性係数単位"};
+  UnitBox cbo粘性係数単位{*this, "cbo粘性係数単位"};
 
   ProcessSheet(shell::Workspace& workspace, const std::string& kind, std::string caption);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "shell/duct_file.h"
+#include "shell/file_questions.h"
 #include "shell/instrument_file.h"
 #include "shell/recovery_commands.h"
 #include "shell/tag_commands.h"
@@ -46,7 +47,7 @@ void NewDuctList(Workspace& workspace) {
 
 void OpenDuctList(Workspace& workspace) {
   const std::optional<std::string> path =
-      workspace.Shown().AskFile({false, "開く", kFilter, kDuctExtension});
+      AskForFile(workspace, {false, "開く", kFilter, kDuctExtension}, workspace.ducts.ductFileName);
   if (path) OpenDuctListNamed(workspace, *path);
 }
 
@@ -75,8 +76,8 @@ void SaveDuctList(Workspace& workspace) {
 
 void SaveDuctListAs(Workspace& workspace) {
   if (!HasDuctsToSave(workspace.ducts, workspace.Shown())) return;
-  const std::optional<std::string> path =
-      workspace.Shown().AskFile({true, "名前を付けて保存", kFilter, kDuctExtension});
+  const std::optional<std::string> path = AskForFile(
+      workspace, {true, "名前を付けて保存", kFilter, kDuctExtension}, workspace.ducts.ductFileName);
   if (path) SaveDuctListNamed(workspace, *path);
 }
 

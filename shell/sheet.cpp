@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "shell/unit_choices.h"
+
 namespace shell {
 
 namespace {
@@ -26,6 +28,7 @@ void Sheet::Activate() {
 }
 
 void Sheet::Unload() {
+  KeepUnits(workspace_, *this);
   workspace_.activeSheetKind.clear();
   EnableOpening(workspace_, entry_);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/unit_choices.h"
 #include "shell/workspace.h"
 
 namespace shell {
@@ -44,7 +45,9 @@ void OpenSheet(Workspace& workspace, const std::string& kind) {
   if (!workspace.forms.Knows(sheet->form)) return;
   forms::Form* const active = workspace.forms.ActiveSheet();
   if (!workspace.multiWindowMode && active != nullptr) workspace.forms.Unload(*active);
-  workspace.forms.Show(sheet->form);
+  const bool fresh = workspace.forms.Find(sheet->form) == nullptr;
+  forms::Form& form = workspace.forms.Show(sheet->form);
+  if (fresh) RestoreUnits(workspace, form);
 }
 
 void EnableCommandsFor(Workspace& workspace, const SheetEntry& sheet) {

@@ -7,6 +7,7 @@
 #include "common/text.h"
 #include "forms/control.h"
 #include "shell/duct_commands.h"
+#include "shell/file_questions.h"
 #include "shell/instrument_file.h"
 #include "shell/recovery_commands.h"
 #include "shell/sheet.h"
@@ -105,7 +106,7 @@ void OpenFile(Workspace& workspace) {
     return;
   }
   const std::optional<std::string> path =
-      workspace.Shown().AskFile({false, "開く", kFilter, kExtension});
+      AskForFile(workspace, {false, "開く", kFilter, kExtension}, workspace.tags.zephaFileName);
   if (path) OpenFileNamed(workspace, *path);
 }
 
@@ -163,8 +164,8 @@ void SaveFileAs(Workspace& workspace) {
     return;
   }
   if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
-  const std::optional<std::string> path =
-      workspace.Shown().AskFile({true, "名前を付けて保存", kFilter, kExtension});
+  const std::optional<std::string> path = AskForFile(
+      workspace, {true, "名前を付けて保存", kFilter, kExtension}, workspace.tags.zephaFileName);
   if (path) SaveFileNamed(workspace, *path);
 }
 

@@ -59,6 +59,9 @@ struct Workspace {
   std::string lastFormName;
   /// Sheets stay open side by side; otherwise opening one closes the other.
   bool multiWindowMode = false;
+  /// A sheet opens with the units that were chosen on it last. Not for scripts, which must find the
+  /// same sheet in every run.
+  bool keepsUnits = false;
   /// Element kind with which the differential-pressure sheet opens next.
   int elementKind = 0;
   /// Printed at the foot of every report.

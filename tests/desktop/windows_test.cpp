@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
 
@@ -112,7 +113,9 @@ TEST_F(Windows, WindowOutlivesTheDialogItWasOpenedFrom) {
   forms_.Show("frmTagList");
 }
 
-TEST_F(Windows, ToolKeepsItsPlaceWhileTheProgramRuns) {
+TEST_F(Windows, ToolKeepsItsPlaceOnTheScreen) {
+  shell::MemorySettings settings;
+  presenter_.KeepPlacesIn(settings);
   const auto open = [this]() -> QWidget& {
     auto& tool = forms_.Show("frmTagList");
     QApplication::processEvents();
@@ -128,6 +131,21 @@ TEST_F(Windows, ToolKeepsItsPlaceWhileTheProgramRuns) {
   QWidget& second = open();
   EXPECT_EQ(second.pos(), QPoint(11, 22));
   EXPECT_EQ(second.size(), QSize(500, 333));
+  const struct {
+    const char* kept;
+    bool stays;
+  } rows[] = {
+      {"30 40 300 200", true}, {"9000 9000 300 200", false}, {"-500 -500 9999 9999", false}};
+  QWidget* last = &second;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.kept);
+    last->close();
+    QTest::qWait(1);
+    settings.Set("Tools", "frmTagList", row.kept);
+    last = &open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(last->frameGeometry()); }));
+    EXPECT_EQ(last->pos() == QPoint(30, 40), row.stays);
+  }
 }
 
 TEST_F(Windows, FormStandsWhereItWishesOnTheScreen) {
@@ -267,6 +285,13 @@ TEST(Questions, ShowPlainTextsButtonsAndDefaults) {
   }
   EXPECT_EQ(NameFilters("ZEPHAデータ(*.zph)|*.zph"),
             QStringList{QStringLiteral("ZEPHAデータ (*.zph *.ZPH)")});
+  const QTemporaryDir folder;
+  forms::FileQuestion question{true, "", "ZEPHAデータ(*.zph)|*.zph", ".zph"};
+  question.folder = folder.path().toStdString();
+  question.name = "第1工場.zph";
+  EXPECT_EQ(FileBox(question, nullptr).Path(), question.folder + "/" + question.name);
+  question.folder += "/gone";
+  EXPECT_TRUE(FileBox(question, nullptr).directory().exists());
 }
 
 TEST(Icons, AreDrawnInTheTextColourAtEverySize) {

@@ -3,6 +3,7 @@
 #include "common/file.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
+#include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
 #include "tests/support/fake_platform.h"
@@ -155,6 +156,33 @@ TEST_F(TagListTest, SecondRunIsAsTheFirstWasLeft) {
   EXPECT_EQ(again.messages.Texts(),
             Texts({"ＺＥＰＨＡのデータファイル\n" + path + "\nが見つかりません。"}));
   EXPECT_EQ(third.Space().activeSheetKind, "⊿P Flow");
+}
+
+TEST(Start, SheetsOpenWithTheUnitsChosenLast) {
+  tests::RecordingPresenter presenter;
+  shell::MemorySettings settings;
+  for (const bool keeps : {false, true}) {
+    {
+      Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
+      bench.Load();
+      bench.Space().keepsUnits = keeps;
+      shell::OpenSheet(bench.Space(), "CV");
+      forms::Form& sheet = *bench.Forms().ActiveSheet();
+      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo圧力単位")).SetText("barG");
+      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo流量単位L")).SetText("t/h");
+      bench.Forms().Unload(sheet);
+      // A unit that is not in the list any more is passed over.
+      settings.Set("Units", "frmCV", settings.Get("Units", "frmCV") + "cbo温度単位\t度\n");
+    }
+    Workbench next(presenter, ZEPHA_BUILD_DIR, settings);
+    next.Load();
+    next.Space().keepsUnits = keeps;
+    shell::OpenSheet(next.Space(), "CV");
+    const forms::Form& sheet = *next.Forms().ActiveSheet();
+    EXPECT_EQ(sheet.Find("cbo圧力単位")->Text() == "barG", keeps);
+    EXPECT_EQ(sheet.Find("cbo流量単位L")->Text() == "t/h", keeps);
+    EXPECT_EQ(sheet.Find("cbo温度単位")->Text(), "℃");
+  }
 }
 
 // Whatever stands in the settings, the program starts.

@@ -284,12 +284,16 @@ TEST_F(DuctCommands, FileCommandsWorkOnTheDucts) {
   space.window.Run("mnuUpdate");
   EXPECT_EQ(space.ducts.ductFileName, folder / "plant.dct");
   EXPECT_EQ(space.ducts.ListCaption(), "Duct List：plant");
+  space.window.Run("mnuSave");
+  EXPECT_EQ(presenter.asked.back().name, "plant.dct");
+  EXPECT_EQ(presenter.asked.back().folder + "/", folder / "");
   presenter.asked.clear();
   space.window.Press(3);
   EXPECT_TRUE(presenter.asked.empty());
   space.ducts.StartNewFile();
   presenter.chosen = folder / "plant.dct";
   space.window.Press(2);
+  EXPECT_EQ(presenter.asked.back().folder + "/", folder / "");  // where it was last chosen
   EXPECT_EQ(space.ducts.Lines(), Texts({"D0", "D1", "D2"}));
   EXPECT_NE(space.forms.Find(kDuctListForm), nullptr);
   EXPECT_EQ(space.tags.zephaFileName, "");
