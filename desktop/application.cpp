@@ -68,6 +68,7 @@ void PrepareApplication(QApplication& application) {
   QApplication::setPalette(PaletteOf(theme));  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
   QApplication::setFont(UiFont(kBaseLetterPixels));
   QApplication::setApplicationName(QStringLiteral("ZEPHA"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("zepha"));
   QApplication::setWindowIcon(IconNamed("app"));
   auto* const words = new QTranslator(&application);
   if (words->load(QStringLiteral("qtbase_ja"),

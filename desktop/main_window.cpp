@@ -227,9 +227,11 @@ void MainWindow::ShowToolBar(bool visible) {
 }
 
 void MainWindow::Place(const shell::WindowPlacement& placement) {
-  normal_ = OnScreen(RectOf(placement));
+  normal_ = RectOf(placement);
   const shell::WindowPlacement first;
   const bool isFirst = placement.width == first.width && placement.height == first.height;
+  if (isFirst) normal_.setWidth(std::max(normal_.width(), toolBar_->sizeHint().width()));
+  normal_ = OnScreen(normal_);
   ownSize_ = isFirst ? normal_.size() : QSize();
   setWindowState(Qt::WindowNoState);
   move(normal_.topLeft());

@@ -100,10 +100,13 @@ void Workbench::Load() {
   loaded_ = true;
 }
 
-void Workbench::Start() {
+void Workbench::Start(const std::string& file) {
   if (!loaded_) Load();
+  if (!workspace_.dataNote.empty()) {
+    workspace_.Shown().Show(workspace_.dataNote, {}, common::Icon::kWarning);
+  }
   TellUnreadFiles();
-  shell::RestoreLastRun(workspace_);
+  shell::RestoreLastRun(workspace_, file);
 }
 
 void Workbench::TellUnreadFiles() {

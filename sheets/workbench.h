@@ -17,8 +17,9 @@ class Workbench {
   /// Reads the data files. Nothing is shown, so that it can be done while the splash stands.
   void Load();
   /// Names the files that could not be read in one message, and brings the run to where the last
-  /// one ended. Loads first, if that has not been done.
-  void Start();
+  /// one ended, with this file open instead of the last one. Loads first, if that has not been
+  /// done.
+  void Start(const std::string& file = {});
 
   shell::Workspace& Space() { return workspace_; }
   shell::FormManager& Forms() { return workspace_.forms; }

@@ -17,7 +17,7 @@ constexpr const char* kFilter = "Cable Duct Data(*.dct)|*.dct";
 
 }  // namespace
 
-bool DuctsOnTop(const Workspace& workspace) { return workspace.activeSheetKind == "CableDuct"; }
+bool DuctsOnTop(const Workspace& workspace) { return workspace.activeSheetKind == kDuctSheet; }
 
 void ShowDuctList(Workspace& workspace) {
   DuctStore& ducts = workspace.ducts;

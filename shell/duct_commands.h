@@ -9,6 +9,7 @@ namespace shell {
 
 struct Workspace;
 
+inline constexpr const char* kDuctSheet = "CableDuct";
 inline constexpr const char* kDuctListForm = "frmDuctList";
 inline constexpr const char* kDuctExtension = ".dct";
 

@@ -5,6 +5,7 @@
 
 #include "common/file.h"
 #include "common/number.h"
+#include "shell/duct_commands.h"
 #include "shell/duct_file.h"
 #include "shell/recovery_commands.h"
 #include "shell/sheet_registry.h"
@@ -54,14 +55,33 @@ void PassOver(Step step) {
   }
 }
 
-void RestoreDucts(Workspace& workspace) {
-  const std::string path = workspace.settings.Get(kScreen, "DuctFile");
+/// The wanted file from the root of the file system on, because the last file of a run is opened
+/// from another folder the next time; "" when there is no such file.
+std::string FileToOpen(const Workspace& workspace, const std::string& wanted) {
+  if (wanted.empty()) return {};
+  std::error_code error;
+  std::string path = std::filesystem::absolute(wanted, error).lexically_normal().string();
+  if (std::filesystem::is_regular_file(path, error)) return path;
+  workspace.Shown().Show("指定されたファイルは見つからないか、ファイルではありません。\n" + path,
+                         {}, common::Icon::kWarning);
+  return {};
+}
+
+/// wanted: opened instead of the last file, "" for none.
+void RestoreDucts(Workspace& workspace, const std::string& wanted) {
+  const std::string last = workspace.settings.Get(kScreen, "DuctFile");
+  const std::string& path = wanted.empty() ? last : wanted;
   if (!path.empty()) OpenDuctFile(workspace.ducts, path, workspace.Shown());
 }
 
-void RestoreFile(Workspace& workspace) {
-  const std::string path = workspace.settings.Get(kScreen, "zephaFile");
-  workspace.tags.lastTagIndex = RowNumberSetting(workspace.settings.Get(kScreen, "DataNo"));
+void RestoreFile(Workspace& workspace, const std::string& wanted) {
+  const std::string last = workspace.settings.Get(kScreen, "zephaFile");
+  const std::string& path = wanted.empty() ? last : wanted;
+  std::error_code error;
+  // The last tag is one of the last file.
+  if (path == last || std::filesystem::equivalent(path, last, error)) {
+    workspace.tags.lastTagIndex = RowNumberSetting(workspace.settings.Get(kScreen, "DataNo"));
+  }
   if (path.empty()) return;
   // The list is loaded while the store is empty; otherwise it would forget the last tag.
   workspace.forms.Show(kTagListForm);
@@ -73,6 +93,13 @@ void RestoreSheet(Workspace& workspace) {
   for (const SheetEntry& sheet : SheetRegistry()) {
     if (sheet.form == workspace.lastFormName) OpenSheet(workspace, sheet.kind);
   }
+}
+
+void ShowDucts(Workspace& workspace) {
+  OpenSheet(workspace, kDuctSheet);
+  ShowDuctList(workspace);
+  const std::string& path = workspace.ducts.ductFileName;
+  if (!path.empty()) RememberFile(workspace, path);
 }
 
 void RestoreTag(Workspace& workspace) {
@@ -103,7 +130,7 @@ std::string HelpPath(const Workspace& workspace) {
 
 }  // namespace
 
-void RestoreLastRun(Workspace& workspace) {
+void RestoreLastRun(Workspace& workspace, const std::string& file) {
   if (workspace.settings.Get(kUser, "InstDir").empty()) {
     std::error_code error;
     workspace.settings.Set(kUser, "InstDir", std::filesystem::current_path(error).string());
@@ -113,10 +140,12 @@ void RestoreLastRun(Workspace& workspace) {
   workspace.userPrograms = ReadUserPrograms(workspace.installDir);
   ShowUserPrograms(workspace);
   ShowRecentFiles(workspace);
-  PassOver([&] { RestoreDucts(workspace); });
-  PassOver([&] { RestoreFile(workspace); });
+  const std::string path = FileToOpen(workspace, file);
+  const bool isDucts = IsDuctFile(path);
+  PassOver([&] { RestoreDucts(workspace, isDucts ? path : ""); });
+  PassOver([&] { RestoreFile(workspace, isDucts ? "" : path); });
   PassOver([&] { OfferRecovery(workspace); });
-  PassOver([&] { RestoreSheet(workspace); });
+  PassOver([&] { isDucts ? ShowDucts(workspace) : RestoreSheet(workspace); });
   PassOver([&] { RestoreTag(workspace); });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace shell {
 
 struct Workspace;
@@ -7,7 +9,10 @@ struct Workspace;
 /// Brings a run to where the last one ended: issuer, window, user programs, duct file, instrument
 /// file, sheet and tag, with an offer of what an earlier run left unsaved. The tables have been
 /// read and the forms are known. Each failure is passed over singly.
-void RestoreLastRun(Workspace& workspace);
+/// file: an instrument or duct file that the user has started the program with, "" for none. It is
+/// opened instead of the last one of its kind; a duct file comes with its sheet. What is no file is
+/// told, and the run begins without it.
+void RestoreLastRun(Workspace& workspace, const std::string& file = {});
 
 /// Keeps for the next run where this one ends, and unloads all forms. There is deliberately no
 /// question about unsaved work; the recovery copy goes.

@@ -132,12 +132,16 @@ void TakeUnsavedTags(Workspace& workspace, std::vector<TagRow> rows, const std::
   ShowListNumber(workspace, tags.currentTag);
 }
 
-void OpenFileOfItsKind(Workspace& workspace, const std::string& path) {
+bool IsDuctFile(const std::string& path) {
   std::string end = path.substr(path.size() - std::min<std::size_t>(path.size(), 4));
   std::transform(end.begin(), end.end(), end.begin(), [](char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
   });
-  if (end == kDuctExtension) {
+  return end == kDuctExtension;
+}
+
+void OpenFileOfItsKind(Workspace& workspace, const std::string& path) {
+  if (IsDuctFile(path)) {
     OpenDuctListNamed(workspace, path);
   } else {
     OpenFileNamed(workspace, path);

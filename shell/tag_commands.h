@@ -32,6 +32,8 @@ void NewFile(Workspace& workspace);
 /// Asks for an instrument file and opens it.
 void OpenFile(Workspace& workspace);
 void OpenFileNamed(Workspace& workspace, const std::string& path);
+/// Whether a path has the extension of duct files, in capital or small letters.
+bool IsDuctFile(const std::string& path);
 /// Opens an instrument or a duct file, by its extension, whatever is on top.
 void OpenFileOfItsKind(Workspace& workspace, const std::string& path);
 /// Takes rows, header first, as unsaved changes of a file, "" for a new one.

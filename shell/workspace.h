@@ -38,6 +38,8 @@ struct Workspace {
 
   /// Folder with the data files.
   std::string installDir;
+  /// What the start has to tell about that folder, "" for nothing.
+  std::string dataNote;
   /// Folder with the pages of the user's guide, which need not be there.
   std::string guideDir;
   Tables tables;

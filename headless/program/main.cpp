@@ -1,5 +1,4 @@
 #include <csignal>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -7,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "common/file.h"
 #include "headless/driver.h"
 #include "headless/states.h"
+#include "shell/own_data.h"
 
 namespace {
 
@@ -42,9 +41,9 @@ std::optional<Arguments> Parse(int count, char** values) {
   return arguments;
 }
 
-std::string ProgramFolder() {
-  std::error_code error;
-  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+shell::DataFolder DataFolderFor(const std::string& installDir) {
+  if (installDir.empty()) return shell::FindDataFolder(shell::ProgramFolder());
+  return {installDir, {}, {}, {}};
 }
 
 /// Without a file nothing is read or kept.
@@ -92,9 +91,10 @@ int main(int count, char** values) {
     }
   }
   const std::unique_ptr<shell::SettingsStore> settings = Settings(arguments->settings);
-  headless::Driver driver(arguments->installDir.empty() ? ProgramFolder() : arguments->installDir,
-                          *settings, StateFolder(arguments->settings));
-  driver.Bench().Space().guideDir = common::JoinPath(ProgramFolder(), "guide");
+  const shell::DataFolder data = DataFolderFor(arguments->installDir);
+  headless::Driver driver(data.path, *settings, StateFolder(arguments->settings));
+  driver.Bench().Space().dataNote = data.note;
+  driver.Bench().Space().guideDir = shell::FindGuideFolder(shell::ProgramFolder());
   // The start may ask before the first command can be read.
   for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());
