@@ -59,6 +59,7 @@ int main(int count, char** arguments) {
   shell::FileSettings settings(shell::DefaultSettingsPath());
   const shell::DataFolder data = shell::FindDataFolder(shell::ProgramFolder());
   sheets::Workbench workbench(presenter, data.path, settings, &platform);
+  workbench.Space().guideDir = shell::FindGuideFolder(shell::ProgramFolder());
   desktop::MainWindow window(workbench.Window());
   presenter.Attach(window, workbench.Forms());
   presenter.KeepPlacesIn(settings);

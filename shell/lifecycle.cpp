@@ -118,6 +118,16 @@ std::vector<std::string> WordsOf(const std::string& command) {
   return words;
 }
 
+/// A house's own help file goes before the guide.
+std::string HelpPath(const Workspace& workspace) {
+  const std::string helpFile = common::JoinPath(workspace.installDir, "Zepha.chm");
+  std::error_code error;
+  if (std::filesystem::exists(helpFile, error)) return helpFile;
+  const SheetEntry* const sheet = FindSheet(workspace.activeSheetKind);
+  const std::string page = sheet == nullptr ? "index" : sheet->guidePage;
+  return common::JoinPath(workspace.guideDir, page + ".html");
+}
+
 }  // namespace
 
 void RestoreLastRun(Workspace& workspace, const std::string& file) {
@@ -188,7 +198,7 @@ void StartUserProgram(Workspace& workspace, int index) {
 }
 
 void ShowHelp(Workspace& workspace) {
-  const std::string path = common::JoinPath(workspace.installDir, "Zepha.chm");
+  const std::string path = HelpPath(workspace);
   if (workspace.platform != nullptr && workspace.platform->OpenWithDesktop(path)) return;
   workspace.Shown().Show("ヘルプを開けません。\n" + path, {}, common::Icon::kWarning);
 }

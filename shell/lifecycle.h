@@ -27,7 +27,8 @@ void StartUserProgram(Workspace& workspace, int index);
 /// Shows the captions of the user programs on their buttons.
 void ShowUserPrograms(Workspace& workspace);
 
-/// Opens the help file.
+/// Opens the help file of the house beside the program, otherwise the page of the user's guide on
+/// the sheet on top.
 void ShowHelp(Workspace& workspace);
 
 }  // namespace shell

@@ -25,6 +25,7 @@ using common::RuntimeFault;
 /// Below the own folder: each file as it was shipped when the user's copy was made.
 constexpr const char* kOriginals = "shipped";
 constexpr const char* kLock = "data.lock";
+constexpr const char* kGuide = "guide";
 
 /// What a start has to do with a file.
 enum class Step {
@@ -145,6 +146,13 @@ std::string ProgramFolder() {
 
 std::string InstalledFolder(const std::string& programFolder, const std::string& name) {
   return (fs::path(programFolder) / ZEPHA_SHARED_FOLDER / name).lexically_normal().string();
+}
+
+std::string FindGuideFolder(const std::string& programFolder) {
+  std::string beside = common::JoinPath(programFolder, kGuide);
+  std::string installed = InstalledFolder(programFolder, kGuide);
+  std::error_code error;
+  return fs::exists(beside, error) || !fs::exists(installed, error) ? beside : installed;
 }
 
 DataFolder FindDataFolder(const std::string& programFolder) {

@@ -23,6 +23,9 @@ std::string ProgramFolder();
 /// there or not.
 std::string InstalledFolder(const std::string& programFolder, const std::string& name);
 
+/// The folder of the user's guide for programs in that folder: beside them, or as installed.
+std::string FindGuideFolder(const std::string& programFolder);
+
 /// The folder of the data files for programs in that folder: itself where data files stand beside
 /// them, as after a build; the user's own folder where they were installed, because the editors
 /// rewrite the files.

@@ -9,19 +9,25 @@ namespace shell {
 
 const std::vector<SheetEntry>& SheetRegistry() {
   static const std::vector<SheetEntry> kSheets = {
-      {"⊿P Flow", "frmOrifice", {"mnuOrifice", "mnuFlownozzle", "mnuVenturi"}, 11, true, false},
-      {"Integral", "frmIntegral", {"mnuIntegral"}, 12, true, false},
-      {"Vortex", "frmVortex", {"mnuVortex"}, 13, true, false},
-      {"TW", "frmTW", {"mnuThermowell"}, 14, true, false},
-      {"測温体", "frmTE", {"mnuTC"}, 15, true, false},
-      {"CV", "frmCV", {"mnuControlValve"}, 16, true, false},
-      {"CableDuct", "frmCable", {"mnuCableDuct"}, 17, false, false},
-      {"圧力損失", "frmPressLoss", {"mnuPressLoss"}, 18, true, false},
-      {"制限ｵﾘﾌｨｽ", "frmRO", {"mnuRO"}, 19, true, false},
-      {"物性推算", "frm物性", {"mnuBussei"}, 20, false, false},
-      {"EditCV", "frmEditCVspec", {"mnuCVcatalog"}, 24, false, true},
-      {"EditProp", "frmEditPropData", {"mnuEditPropData"}, 25, false, true},
-      {"Material", "frmMaterial", {"mnuMaterial"}, 26, false, true},
+      {"⊿P Flow",
+       "frmOrifice",
+       {"mnuOrifice", "mnuFlownozzle", "mnuVenturi"},
+       11,
+       true,
+       false,
+       "differential-pressure"},
+      {"Integral", "frmIntegral", {"mnuIntegral"}, 12, true, false, "integral-orifice"},
+      {"Vortex", "frmVortex", {"mnuVortex"}, 13, true, false, "vortex-meter"},
+      {"TW", "frmTW", {"mnuThermowell"}, 14, true, false, "thermowell"},
+      {"測温体", "frmTE", {"mnuTC"}, 15, true, false, "temperature-sensor"},
+      {"CV", "frmCV", {"mnuControlValve"}, 16, true, false, "control-valve"},
+      {"CableDuct", "frmCable", {"mnuCableDuct"}, 17, false, false, "cable-duct"},
+      {"圧力損失", "frmPressLoss", {"mnuPressLoss"}, 18, true, false, "pressure-loss"},
+      {"制限ｵﾘﾌｨｽ", "frmRO", {"mnuRO"}, 19, true, false, "restriction-orifice"},
+      {"物性推算", "frm物性", {"mnuBussei"}, 20, false, false, "properties"},
+      {"EditCV", "frmEditCVspec", {"mnuCVcatalog"}, 24, false, true, "data-editors"},
+      {"EditProp", "frmEditPropData", {"mnuEditPropData"}, 25, false, true, "data-editors"},
+      {"Material", "frmMaterial", {"mnuMaterial"}, 26, false, true, "data-editors"},
   };
   return kSheets;
 }

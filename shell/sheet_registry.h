@@ -19,6 +19,7 @@ struct SheetEntry {
   int button = 0;                      // tool bar button
   bool holdsTags = false;
   bool isEditor = false;  // of reference data: not printed, but copied from the screen
+  std::string guidePage;  // name of its page in the user's guide, without folder and extension
 };
 
 /// All sheets in the order of their buttons.

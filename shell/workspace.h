@@ -40,6 +40,8 @@ struct Workspace {
   std::string installDir;
   /// What the start has to tell about that folder, "" for nothing.
   std::string dataNote;
+  /// Folder with the pages of the user's guide, which need not be there.
+  std::string guideDir;
   Tables tables;
   /// The valve catalogue has been edited since its file was read or written.
   bool valvesModified = false;

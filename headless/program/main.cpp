@@ -94,6 +94,7 @@ int main(int count, char** values) {
   const shell::DataFolder data = DataFolderFor(arguments->installDir);
   headless::Driver driver(data.path, *settings, StateFolder(arguments->settings));
   driver.Bench().Space().dataNote = data.note;
+  driver.Bench().Space().guideDir = shell::FindGuideFolder(shell::ProgramFolder());
   // The start may ask before the first command can be read.
   for (const std::string& word : arguments->answers) driver.Execute("answer " + word);
   Tell(driver.Start());

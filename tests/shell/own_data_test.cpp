@@ -141,5 +141,16 @@ TEST_F(OwnData, WhatCannotBeKeptIsToldAndTheShippedFilesAreRead) {
   ExpectAll(0);
 }
 
+TEST(FindGuideFolder, PrefersTheOneBesideThePrograms) {
+  const tests::TemporaryFolder folder;
+  const std::string programs = folder / "usr/bin";
+  const std::string beside = programs + "/guide";
+  EXPECT_EQ(FindGuideFolder(programs), beside) << "what is missing is named as a build has it";
+  fs::create_directories(InstalledFolder(programs, "guide"));
+  EXPECT_EQ(FindGuideFolder(programs), folder / "usr/share/zepha/guide");
+  fs::create_directories(beside);
+  EXPECT_EQ(FindGuideFolder(programs), beside);
+}
+
 }  // namespace
 }  // namespace shell
