@@ -184,6 +184,7 @@ TEST_F(Choices, TabsFollowBothWaysAndKeepAmpersands) {
 struct ManyTabs : forms::Form {
   ManyTabs() : Form("frmManyTabs", "流体", forms::FormRole::kTool) {
     std::vector<std::string> names;
+    names.reserve(50);
     for (int i = 0; i < 50; ++i) names.push_back("流体" + std::to_string(i));
     tab流体.SetItems(std::move(names));
     SetLayout(forms::Table({{tab流体}}));

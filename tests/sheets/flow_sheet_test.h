@@ -13,7 +13,7 @@ class FlowSheetTest : public SheetTest {
     shell::Workspace& space = bench.Space();
     shell::RegisterTag(space);
     const int row = space.tags.currentTag;
-    const shell::TagRow stored = space.tags.Row(row);
+    shell::TagRow stored = space.tags.Row(row);
     Click("cmdデータ消去");
     space.tags.SelectLine(row - 1);
     shell::RecallSelectedTag(space);

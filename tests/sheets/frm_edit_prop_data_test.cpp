@@ -43,7 +43,7 @@ class FluidEditor : public tests::DataFolder, public SheetTest {
   std::string EstimatedDensity() {
     bench.Window().Run("mnuBussei");
     Click("cmd計算");
-    const std::string text = Text("lbl物性値(0)");
+    std::string text = Text("lbl物性値(0)");
     TakeTexts();
     return text;
   }

@@ -109,7 +109,7 @@ TEST_F(OrificeTest, ChecksSpeakInTheirOrder) {
     for (const bool answer : row.answers) Answer(answer);
     Click("cmd計算");
     EXPECT_EQ(TakeTexts(), row.texts);
-    EXPECT_EQ(Text("lbl表示β") != "", row.calculated);
+    EXPECT_EQ(!Text("lbl表示β").empty(), row.calculated);
     EXPECT_EQ(Text("lbl外挿"), row.mark);
     EXPECT_EQ(bench.Space().calcNote, row.mark);
   }

@@ -117,7 +117,7 @@ TEST_F(RestrictionTest, ImpossibleResultsCarryACaution) {
     Click("cmd計算");
     EXPECT_EQ(TakeTexts(), Texts());
     EXPECT_NE(Text("lbl絞り径"), "");
-    EXPECT_EQ(Text("lbl注意") != "", row.noted);
+    EXPECT_EQ(!Text("lbl注意").empty(), row.noted);
     if (row.doubtful != nullptr) {
       EXPECT_EQ(Color(row.doubtful), forms::kMagenta);
       EXPECT_NE(Find(row.doubtful).ToolTip(), "");
