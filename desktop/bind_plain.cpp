@@ -127,12 +127,11 @@ class ViewportField : public Clickable<QWidget, forms::Viewport> {
     if (!Shown().onPaint) return;
     QPainter painter(this);
     painter.fillRect(rect(), Theme::Current().window);
-    QtDrawSurface surface(painter, 1 / kTwipsPerPixel);
+    QtDrawSurface surface(painter, 1.0 / kTwipsPerPixel);
     Shown().onPaint(surface);
   }
 
  private:
-  static constexpr double kTwipsPerPixel = 15;
   static int Pixels(double twips) { return static_cast<int>(std::ceil(twips / kTwipsPerPixel)); }
 
   QSize preferred_;

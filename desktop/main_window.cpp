@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "desktop/icons.h"
+#include "desktop/paper/draw_surface.h"
 #include "desktop/sheet_area.h"
 #include "desktop/theme.h"
 
@@ -23,7 +24,6 @@ namespace desktop {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
 constexpr int kSettledMs = 50;
 constexpr const char* kExitCommand = "mnuExit";
 constexpr const char* kWindowMenu = "mnuWindow";
@@ -214,15 +214,13 @@ void MainWindow::ShowState() {
 
 /// The window grows and shrinks by the height of the tool bar, so that the sheet keeps its size.
 void MainWindow::ShowToolBar(bool visible) {
-  constexpr int kHeightShown = 8600 / 15;
-  constexpr int kHeightHidden = 8180 / 15;
+  constexpr int kToolBarHeight = 420 / kTwipsPerPixel;
   if (toolBar_->isHidden() != visible) return;
   toolBar_->setVisible(visible);
   const bool normal = isVisible() && !isMaximized() && !isFullScreen();
-  const int change = kHeightShown - kHeightHidden;
   if (!normal) return;
   const bool own = size() == ownSize_;
-  resize(width(), height() + (visible ? change : -change));
+  resize(width(), height() + (visible ? kToolBarHeight : -kToolBarHeight));
   if (own) ownSize_ = size();
 }
 

@@ -20,8 +20,6 @@ namespace desktop {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-
 /// A printer that the user has chosen, which may be a file; null when he cancelled.
 std::unique_ptr<QPrinter> ChoosePrinter(QtPresenter& presenter) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);

@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <cmath>
 
+#include "desktop/paper/draw_surface.h"
 #include "desktop/theme.h"
 
 namespace desktop {
@@ -21,10 +22,8 @@ class Scale {
   int Digits(int count) const { return static_cast<int>(std::ceil(digit_ * count)); }
   /// Pixels of a length that was told for the base letter height.
   int Pixels(double base) const { return Em(base / kBaseLetterPixels); }
-  /// Pixels of a length in twips, 15 to the pixel at the base letter height.
+  /// Pixels of a length in twips at the base letter height.
   int Twips(double twips) const { return Pixels(twips / kTwipsPerPixel); }
-
-  static constexpr double kTwipsPerPixel = 15;
 
  private:
   static double DigitWidth(const QFont& font) {

@@ -8,7 +8,7 @@
 
 #include "desktop/icons.h"
 #include "desktop/main_window.h"
-#include "desktop/scale.h"
+#include "desktop/paper/draw_surface.h"
 #include "forms/controls.h"
 
 namespace desktop {
@@ -32,7 +32,7 @@ int LeftOfTool(int width, const QRect& owner) {
   return owner.right() - kInside - width;
 }
 
-int Pixels(int twips) { return qRound(twips / Scale::kTwipsPerPixel); }
+int Pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
 
 /// A form stands where it wishes to; without a wish tools stand beside their owner, dialogues in
 /// its middle.

@@ -14,7 +14,6 @@ namespace desktop {
 namespace {
 
 constexpr int kPdfResolution = 1200;
-constexpr double kTwipsPerInch = 1440;
 
 }  // namespace
 

@@ -14,7 +14,7 @@ namespace desktop {
 /// A document on any paged device of the toolkit.
 class PagedDocument : public shell::PrintJob {
  public:
-  /// unitsPerTwip: resolution / 1440.
+  /// unitsPerTwip: resolution / kTwipsPerInch.
   PagedDocument(std::unique_ptr<QPagedPaintDevice> device, double unitsPerTwip);
   ~PagedDocument() override;
 

@@ -13,7 +13,6 @@ namespace desktop {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr double kTwipsPerPoint = 20;
 
 QPolygonF PolygonOf(const std::vector<std::pair<double, double>>& points) {

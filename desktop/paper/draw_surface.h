@@ -8,14 +8,18 @@
 
 namespace desktop {
 
+/// Of a device-independent pixel.
+inline constexpr int kTwipsPerPixel = 15;
+inline constexpr double kTwipsPerInch = 1440;
+
 /// The drawing surface on a painter, on screen or on paper. The caller owns the painter; its state
 /// is restored when the surface goes.
 class QtDrawSurface : public forms::DrawSurface {
  public:
   using ColorRule = std::function<QColor(forms::Color)>;
 
-  /// unitsPerTwip: painter units of one twip, 1/15 for device-independent pixels, resolution/1440
-  /// for a printer. rule: how a colour number looks; PaperColor unless told.
+  /// unitsPerTwip: painter units of one twip, 1.0 / kTwipsPerPixel for device-independent pixels,
+  /// resolution / kTwipsPerInch for a printer. rule: how a colour number looks; PaperColor unless told.
   QtDrawSurface(QPainter& painter, double unitsPerTwip, ColorRule rule = {});
   ~QtDrawSurface() override;
 
@@ -43,7 +47,7 @@ class QtDrawSurface : public forms::DrawSurface {
   QPainter& painter_;
   ColorRule rule_;
   QColor color_ = Qt::black;
-  double lineWidthTwips_ = 15;
+  double lineWidthTwips_ = kTwipsPerPixel;
   /// Width of a half-width letter where texts are set in columns, else 0.
   double columnWidth_ = 0;
 };
