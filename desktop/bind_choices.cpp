@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "common/real.h"
 #include "common/text.h"
 #include "desktop/binding.h"
 #include "desktop/reporting.h"
@@ -23,22 +24,13 @@ namespace {
 /// Above and below a line of a list, as in the style sheet.
 constexpr double kListPaddingEm = 0.12;
 
-class ComboField : public Reporting<QComboBox, forms::ComboBox> {
+/// A field over which the wheel scrolls the sheet: it must not change a unit or a tab in passing.
+template <class Widget, class Kind>
+class WithoutWheel : public Reporting<Widget, Kind> {
  public:
-  using Reporting::Reporting;
+  using Reporting<Widget, Kind>::Reporting;
 
  protected:
-  void PressEnter() override { Shown().PressEnter(); }
-  /// The wheel scrolls the sheet; it must not change a unit in passing.
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-};
-
-class TabField : public Reporting<QTabBar, forms::TabStrip> {
- public:
-  using Reporting::Reporting;
-
- protected:
-  void PressEnter() override { Shown().PressEnter(); }
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
@@ -50,8 +42,6 @@ class ListField : public Reporting<QListWidget, Kind> {
   using Base::Base;
 
  protected:
-  void PressEnter() override { this->Shown().PressEnter(); }
-
   void keyPressEvent(QKeyEvent* event) override {
     const int before = this->currentRow();
     Base::keyPressEvent(event);
@@ -89,25 +79,6 @@ class ListField : public Reporting<QListWidget, Kind> {
   }
 
   bool doubleClicked_ = false;
-};
-
-/// Its marks are set with a click on the box or with the space key.
-class CheckListField : public Reporting<QListWidget, forms::CheckList> {
- public:
-  using Reporting::Reporting;
-
- protected:
-  void PressEnter() override { Shown().PressEnter(); }
-};
-
-class OptionField : public Reporting<QRadioButton, forms::OptionButton> {
- public:
-  using Reporting::Reporting;
-};
-
-class CheckField : public Reporting<QCheckBox, forms::CheckBox> {
- public:
-  using Reporting::Reporting;
 };
 
 bool SameItems(const QComboBox& combo, const std::vector<std::string>& items) {
@@ -166,7 +137,7 @@ void ShowList(const forms::ListControl& box, QListWidget& list) {
   const int count = box.Count();
   while (list.count() > count) delete list.takeItem(list.count() - 1);
   for (int row = 0; row < count; ++row) {
-    const QString text = QString::fromStdString(box.Items()[static_cast<std::size_t>(row)]);
+    const QString text = QString::fromStdString(common::At(box.Items(), row));
     if (row == list.count()) {
       list.addItem(text);
     } else if (list.item(row)->text() != text) {
@@ -184,7 +155,7 @@ void ShowCheckList(const forms::CheckList& list, QListWidget& field) {
   while (field.count() < count) field.addItem(new QListWidgetItem);
   for (int row = 0; row < count; ++row) {
     QListWidgetItem& item = *field.item(row);
-    item.setText(QString::fromStdString(list.Items()[static_cast<std::size_t>(row)]));
+    item.setText(QString::fromStdString(common::At(list.Items(), row)));
     item.setCheckState(list.Marked(row) ? Qt::Checked : Qt::Unchecked);
   }
   field.setCurrentRow(list.Index());
@@ -199,6 +170,12 @@ int OwnColumns(const forms::ListBox& box) {
   return box.FixedPitch() ? kFixedPitchWidth : kOwnWidth;
 }
 
+/// Height of a list that shows so many lines.
+int HeightOf(int lines, const QFont& font, const Scale& scale) {
+  const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
+  return line * lines + scale.Em(0.6);
+}
+
 void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
   const int columns = characters > 0 ? characters : OwnColumns(box);
   int width = scale.Digits(columns);
@@ -208,18 +185,16 @@ void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale
     list.setFont(font);
     width = FixedWidth(font, columns);
   }
-  const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
   list.setMinimumWidth(width + scale.Em(2));
-  list.setMinimumHeight(line * box.VisibleLines() + scale.Em(0.6));
+  list.setMinimumHeight(HeightOf(box.VisibleLines(), font, scale));
 }
 
 void ShowTabs(const forms::TabStrip& strip, QTabBar& tabs) {
   const QSignalBlocker quiet(tabs);
   while (tabs.count() > strip.Count()) tabs.removeTab(tabs.count() - 1);
   int tab = 0;
-  for (const QString& text : Texts(strip.Items())) {
-    QString caption = text;
-    caption.replace(QLatin1Char('&'), QLatin1String("&&"));
+  for (const std::string& text : strip.Items()) {
+    const QString caption = CaptionOf(text);
     if (tab == tabs.count()) tabs.addTab(caption);
     tabs.setTabText(tab++, caption);
   }
@@ -265,13 +240,25 @@ void ShowCheck(const forms::CheckBox& check, QCheckBox& button) {
   ShowCommon(check, button, Theme::Current().card, forms::kWhite);
 }
 
-const auto kOwnSize = [](const Scale&, int) {};
+Bound BindTabsAtLeft(forms::TabStrip& strip, QWidget& parent) {
+  constexpr int kWidth = 20;
+  constexpr double kLeastHeightEm = 16;
+  auto* const field = new ListField<forms::TabStrip>(strip, parent);
+  field->setUniformItemSizes(true);
+  return {field, [&strip, field] { ShowList(strip, *field); },
+          [field](const Scale& scale, int characters) {
+            const int width = scale.Digits(characters > 0 ? characters : kWidth) + scale.Em(2);
+            field->setMinimumWidth(width);
+            field->setMaximumWidth(width);
+            field->setMinimumHeight(scale.Em(kLeastHeightEm));
+          }};
+}
 
 }  // namespace
 
 Bound Bind(forms::ComboBox& box, QWidget& parent) {
   constexpr int kMostVisible = 18;
-  auto* const combo = new ComboField(box, parent);
+  auto* const combo = new WithoutWheel<QComboBox, forms::ComboBox>(box, parent);
   combo->setMaxVisibleItems(kMostVisible);
   // The combo box's own delegate does not know the style sheet's line height.
   combo->setItemDelegate(new QStyledItemDelegate(combo));
@@ -300,7 +287,7 @@ Bound Bind(forms::ListBox& list, QWidget& parent) {
 
 Bound Bind(forms::CheckList& list, QWidget& parent) {
   constexpr int kOwnWidth = 42;
-  auto* const field = new CheckListField(list, parent);
+  auto* const field = new Reporting<QListWidget, forms::CheckList>(list, parent);
   field->setUniformItemSizes(true);
   QObject::connect(field, &QListWidget::itemChanged, field,
                    [&list, field](const QListWidgetItem* item) {
@@ -315,56 +302,40 @@ Bound Bind(forms::CheckList& list, QWidget& parent) {
             field->setFont(font);
             field->setMinimumWidth(FixedWidth(font, characters > 0 ? characters : kOwnWidth) +
                                    scale.Em(4));
-            const int line =
-                QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
-            field->setMinimumHeight(line * list.VisibleLines() + scale.Em(0.6));
-          }};
-}
-
-Bound BindTabsAtLeft(forms::TabStrip& strip, QWidget& parent) {
-  constexpr int kWidth = 20;
-  constexpr double kLeastHeightEm = 16;
-  auto* const field = new ListField<forms::TabStrip>(strip, parent);
-  field->setUniformItemSizes(true);
-  return {field, [&strip, field] { ShowList(strip, *field); },
-          [field](const Scale& scale, int characters) {
-            const int width = scale.Digits(characters > 0 ? characters : kWidth) + scale.Em(2);
-            field->setMinimumWidth(width);
-            field->setMaximumWidth(width);
-            field->setMinimumHeight(scale.Em(kLeastHeightEm));
+            field->setMinimumHeight(HeightOf(list.VisibleLines(), font, scale));
           }};
 }
 
 Bound Bind(forms::TabStrip& strip, QWidget& parent) {
   if (strip.Where() == forms::TabStrip::Side::kLeft) return BindTabsAtLeft(strip, parent);
-  auto* const tabs = new TabField(strip, parent);
+  auto* const tabs = new WithoutWheel<QTabBar, forms::TabStrip>(strip, parent);
   tabs->setDrawBase(false);
   tabs->setExpanding(false);
   QObject::connect(tabs, &QTabBar::currentChanged, tabs, [&strip](int index) {
     if (index >= 0) strip.Pick(index);
   });
-  return {tabs, [&strip, tabs] { ShowTabs(strip, *tabs); }, kOwnSize};
+  return {tabs, [&strip, tabs] { ShowTabs(strip, *tabs); }};
 }
 
 Bound Bind(forms::OptionButton& option, QWidget& parent) {
-  auto* const button = new OptionField(option, parent);
+  auto* const button = new Reporting<QRadioButton, forms::OptionButton>(option, parent);
   JoinGroup(option, *button, parent);
   const auto show = [&option, button] { ShowOption(option, *button); };
   QObject::connect(button, &QRadioButton::clicked, button, [&option, show] {
     option.Choose();
     show();
   });
-  return {button, show, kOwnSize};
+  return {button, show};
 }
 
 Bound Bind(forms::CheckBox& check, QWidget& parent) {
-  auto* const button = new CheckField(check, parent);
+  auto* const button = new Reporting<QCheckBox, forms::CheckBox>(check, parent);
   const auto show = [&check, button] { ShowCheck(check, *button); };
   QObject::connect(button, &QCheckBox::clicked, button, [&check, show] {
     check.Choose();
     show();
   });
-  return {button, show, kOwnSize};
+  return {button, show};
 }
 
 }  // namespace desktop

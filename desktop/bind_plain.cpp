@@ -300,8 +300,6 @@ void PrepareGrid(const forms::Grid& grid, QTableWidget& table) {
   table.setTabKeyNavigation(false);
 }
 
-const auto kOwnSize = [](const Scale&, int) {};
-
 }  // namespace
 
 Bound Bind(forms::Label& label, QWidget& parent) {
@@ -325,12 +323,12 @@ Bound Bind(forms::Button& button, QWidget& parent) {
   if (button.Role() == forms::ButtonRole::kDefault) SetLook(*widget, "default");
   widget->setAutoDefault(false);
   QObject::connect(widget, &QPushButton::clicked, widget, [&button] { button.Click(); });
-  return {widget, [&button, widget] { ShowButton(button, *widget); }, [](const Scale&, int) {}};
+  return {widget, [&button, widget] { ShowButton(button, *widget); }};
 }
 
 Bound Bind(forms::Frame& frame, QWidget& parent) {
   auto* const widget = new Reporting<QFrame, forms::Frame>(frame, parent);
-  return {widget, [&frame, widget] { ShowFrame(frame, *widget); }, kOwnSize};
+  return {widget, [&frame, widget] { ShowFrame(frame, *widget); }};
 }
 
 Bound Bind(forms::Picture& picture, QWidget& parent) {
@@ -348,7 +346,7 @@ Bound Bind(forms::Picture& picture, QWidget& parent) {
 Bound Bind(forms::Viewport& viewport, QWidget& parent) {
   auto* const widget = new ViewportField(viewport, parent);
   widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-  return {widget, [widget] { widget->update(); }, kOwnSize};
+  return {widget, [widget] { widget->update(); }};
 }
 
 Bound Bind(forms::ScrollBar& bar, QWidget& parent) {
@@ -366,7 +364,7 @@ Bound Bind(forms::ScrollBar& bar, QWidget& parent) {
     widget->setValue(bar.Value());
     ShowCommon(bar, *widget, Theme::Current().card, forms::kWhite);
   };
-  return {widget, show, kOwnSize};
+  return {widget, show};
 }
 
 Bound Bind(forms::Grid& grid, QWidget& parent) {
@@ -385,7 +383,7 @@ Bound Bind(forms::ProgressBar& bar, QWidget& parent) {
     widget->setValue(bar.Value());
     widget->setHidden(!bar.Visible());
   };
-  return {widget, show, kOwnSize};
+  return {widget, show};
 }
 
 }  // namespace desktop

@@ -69,8 +69,9 @@ class FieldEdit : public Reporting<QLineEdit, forms::TextBox> {
       return true;
     }
     if (const auto arrow = ArrowOf(event.key())) return Shown().PressArrow(*arrow);
-    if (event.text().isEmpty() || !event.text().front().isPrint() || IsShortcut(event))
+    if (event.text().isEmpty() || !event.text().front().isPrint() || IsShortcut(event)) {
       return false;
+    }
     bool taken = true;
     for (const char32_t key : event.text().toStdU32String()) {
       taken = taken && Shown().PressKey(key);

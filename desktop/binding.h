@@ -17,9 +17,9 @@ struct Bound {
   QWidget* widget = nullptr;
   /// Brings the widget to the control's state.
   std::function<void()> show;
-  /// Brings the widget to a letter height; characters: the width that the layout asks for, 0 for
-  /// the kind's own.
-  std::function<void(const Scale& scale, int characters)> resize;
+  /// Brings the widget to a letter height, where its contents do not give its size alone.
+  /// characters: the width that the layout asks for, 0 for the kind's own.
+  std::function<void(const Scale& scale, int characters)> resize = [](const Scale&, int) {};
 };
 
 /// The widget for one control of each kind, in both directions: it shows the control's state, and
@@ -51,7 +51,8 @@ QString PlainToolTip(const std::string& text);
 void ShowCommon(const forms::Control& control, QWidget& widget, const QColor& ground,
                 forms::Color plain);
 
-/// The text of a label; one with a buddy would take an ampersand for the mark of a key.
+/// A text for where Qt would take an ampersand for the mark of a key: tabs, menus, labels with a
+/// buddy.
 QString CaptionOf(const std::string& text);
 /// Gives the focus to the field that a caption belongs to.
 void FocusBuddy(const QLabel& caption);

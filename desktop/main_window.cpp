@@ -15,6 +15,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "desktop/binding.h"
 #include "desktop/icons.h"
 #include "desktop/paper/draw_surface.h"
 #include "desktop/sheet_area.h"
@@ -52,8 +53,6 @@ QString InstrumentFileIn(const QMimeData& data) {
   }
   return {};
 }
-
-QString Escaped(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
 
 }  // namespace
 
@@ -172,7 +171,7 @@ void MainWindow::FillWindowList(QMenu& menu) {
   const auto windows = area_->subWindowList();
   for (QMdiSubWindow* window : windows) {
     if (window->isHidden()) continue;
-    QAction* const action = menu.addAction(Escaped(window->windowTitle()));
+    QAction* const action = menu.addAction(CaptionOf(window->windowTitle().toStdString()));
     action->setCheckable(true);
     action->setChecked(window == area_->activeSubWindow());
     connect(action, &QAction::triggered, window,
@@ -205,7 +204,7 @@ void MainWindow::ShowState() {
     const shell::ToolButton& button = *commands_.Button(number);
     const QString tip = QString::fromStdString(button.toolTip);
     action->setEnabled(button.enabled && button.run);
-    action->setText(Escaped(tip));
+    action->setText(CaptionOf(button.toolTip));
     action->setToolTip(tip.toHtmlEscaped());
     action->setStatusTip(tip);
   }

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <concepts>
 
 #include "forms/controls.h"
 #include "forms/form.h"
@@ -25,7 +26,13 @@ class Reporting : public Widget {
   ControlKind& Shown() const { return control_; }
 
   /// Enter walks to the next field, unless the kind has a use for it.
-  virtual void PressEnter() { control_.Owner().FocusNext(control_); }
+  virtual void PressEnter() {
+    if constexpr (std::derived_from<ControlKind, forms::ListControl>) {
+      control_.PressEnter();
+    } else {
+      control_.Owner().FocusNext(control_);
+    }
+  }
 
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
