@@ -11,6 +11,8 @@ namespace desktop {
 namespace {
 
 constexpr double kReadableContrast = 4.5;
+/// Of a ground on which white letters are read as well as black ones.
+constexpr double kMiddleLuminance = 0.18;
 
 double Luminance(const QColor& color) {
   const auto linear = [](double part) {
@@ -48,16 +50,48 @@ QString ReadSheet(const char* path) {
 }  // namespace
 
 const Theme& Theme::Light() {
-  static const Theme theme{false,     "#eef1f4", "#ffffff", "#d5dce3", "#ffffff", "#a9b5c1",
-                           "#edf0f3", "#18212b", "#41505e", "#5f6d7a", "#e9f2f4", "#bfd5da",
-                           "#0b6478", "#ffffff", "#e2edf0", "#a86200", "#b8262c"};
+  static const Theme theme{
+      .dark = false,
+      .window = "#eef1f4",
+      .card = "#ffffff",
+      .border = "#d5dce3",
+      .field = "#ffffff",
+      .fieldBorder = "#a9b5c1",
+      .fieldOff = "#edf0f3",
+      .text = "#18212b",
+      .caption = "#41505e",
+      .faint = "#5f6d7a",
+      .result = "#e9f2f4",
+      .resultBorder = "#bfd5da",
+      .accent = "#0b6478",
+      .onAccent = "#ffffff",
+      .hover = "#e2edf0",
+      .warning = "#a86200",
+      .critical = "#b8262c",
+  };
   return theme;
 }
 
 const Theme& Theme::Dark() {
-  static const Theme theme{true,      "#1a1f24", "#232a31", "#39434d", "#161b20", "#566472",
-                           "#29313a", "#e8edf1", "#b7c3cd", "#93a1ad", "#1d333a", "#33545d",
-                           "#5cc0d6", "#0d1b20", "#2c3a43", "#f0b24a", "#ff8178"};
+  static const Theme theme{
+      .dark = true,
+      .window = "#1a1f24",
+      .card = "#232a31",
+      .border = "#39434d",
+      .field = "#161b20",
+      .fieldBorder = "#566472",
+      .fieldOff = "#29313a",
+      .text = "#e8edf1",
+      .caption = "#b7c3cd",
+      .faint = "#93a1ad",
+      .result = "#1d333a",
+      .resultBorder = "#33545d",
+      .accent = "#5cc0d6",
+      .onAccent = "#0d1b20",
+      .hover = "#2c3a43",
+      .warning = "#f0b24a",
+      .critical = "#ff8178",
+  };
   return theme;
 }
 
@@ -101,7 +135,7 @@ QColor Ink(forms::Color color, const Theme& theme, const QColor& ground) {
     return (theme.dark ? Theme::Light() : Theme::Dark()).text;
   }
   QColor ink = PaperColor(color);
-  const float step = Luminance(ground) < 0.18 ? 0.02F : -0.02F;
+  const float step = Luminance(ground) < kMiddleLuminance ? 0.02F : -0.02F;
   while (Contrast(ink, ground) < kReadableContrast) {
     const QColor hsl = ink.toHsl();
     const float lightness = hsl.lightnessF() + step;
