@@ -20,21 +20,23 @@ namespace desktop {
 
 namespace {
 
+void UseWholeA4(QPrinter& printer) {
+  printer.setPageSize(QPageSize(QPageSize::A4));
+  printer.setPageOrientation(QPageLayout::Portrait);
+  printer.setFullPage(true);
+}
+
 /// A printer that the user has chosen, which may be a file; null when he cancelled.
 std::unique_ptr<QPrinter> ChoosePrinter(QtPresenter& presenter) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer->setCreator(QStringLiteral("ZEPHA"));
-  printer->setFullPage(true);
-  printer->setPageSize(QPageSize(QPageSize::A4));
-  printer->setPageOrientation(QPageLayout::Portrait);
+  UseWholeA4(*printer);
   QPrintDialog dialog(printer.get(), QApplication::activeWindow());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (presenter.Wait(dialog) != QDialog::Accepted) return nullptr;
   // The pages are made for A4, whatever the dialogue says.
-  printer->setPageSize(QPageSize(QPageSize::A4));
-  printer->setPageOrientation(QPageLayout::Portrait);
-  printer->setFullPage(true);
+  UseWholeA4(*printer);
   return printer;
 }
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* kToolPlaces = "Tools";
 
+/// Counts one more while it lives.
 class Counting {
  public:
   explicit Counting(int& count) : count_(count) { ++count_; }
@@ -193,11 +194,9 @@ void QtPresenter::RunSteps(forms::Form& form, std::function<bool()> step) {
 }
 
 void QtPresenter::Activated(QMdiSubWindow* window) {
+  if (window == nullptr) return;
   for (const auto& [form, shown] : shown_) {
-    if (shown.window == window && window != nullptr) {
-      Activated(shown.view->Shown());
-      return;
-    }
+    if (shown.window == window) return Activated(shown.view->Shown());
   }
 }
 
@@ -228,8 +227,8 @@ int QtPresenter::Wait(QDialog& dialog) {
 }
 
 common::Answer QtPresenter::Present(const common::Message& message) {
-  MessageBox box(message, QApplication::activeWindow() != nullptr ? QApplication::activeWindow()
-                                                                  : mainWindow_);
+  QWidget* const active = QApplication::activeWindow();
+  MessageBox box(message, active != nullptr ? active : mainWindow_);
   Wait(box);
   return box.Answer();
 }
