@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/binding.h"
 #include "desktop/paper/draw_surface.h"

@@ -3,9 +3,9 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace desktop {

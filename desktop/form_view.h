@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QScrollArea>
-#include <functional>
 #include <map>
-#include <string>
 #include <vector>
 
 #include "desktop/binding.h"

@@ -1,6 +1,7 @@
 #include "desktop/presenter.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <locale>
 #include <sstream>
 

@@ -1,10 +1,11 @@
 #include "desktop/questions.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
-#include <QPushButton>
+#include <QFileInfo>
 #include <QStandardPaths>
-#include <array>
+#include <utility>
 
 namespace desktop {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QFont>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <cmath>
 
 #include "desktop/paper/draw_surface.h"

@@ -1,5 +1,8 @@
 #include "sheets/frm_press_loss.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "common/number.h"
 #include "data/units.h"
 #include "forms/placed_surface.h"

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <functional>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "data/property_estimator.h"
 #include "forms/controls.h"

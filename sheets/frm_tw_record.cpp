@@ -1,7 +1,5 @@
 // The tag record of the thermowell sheet.
 
-#include <algorithm>
-
 #include "common/number.h"
 #include "sheets/frm_tw.h"
 #include "sheets/record_fields.h"

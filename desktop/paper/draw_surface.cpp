@@ -3,7 +3,9 @@
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPolygonF>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "common/text.h"
 #include "desktop/paper/fonts.h"

@@ -1,7 +1,6 @@
 // What keyboard and screen reader need, on every form in its real window.
 
 #include <QAbstractButton>
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>

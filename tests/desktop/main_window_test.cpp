@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QDir>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>

@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <iostream>
 #include <memory>
 #include <vector>
 

@@ -1,5 +1,7 @@
+#include <map>
+
 #include "common/text.h"
-#include "sheet_test.h"
+#include "tests/sheets/sheet_test.h"
 
 namespace sheets {
 namespace {

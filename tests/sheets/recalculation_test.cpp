@@ -1,6 +1,7 @@
 #include "shell/recalculation.h"
 
 #include <functional>
+#include <map>
 #include <set>
 
 #include "shell/field_names.h"

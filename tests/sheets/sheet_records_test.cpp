@@ -1,3 +1,5 @@
+#include <map>
+
 #include "shell/sheet.h"
 #include "tests/sheets/sheet_test.h"
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>

@@ -5,7 +5,6 @@
 #include <map>
 #include <random>
 #include <string>
-#include <vector>
 
 #include "data/steam.h"
 #include "data/units.h"
