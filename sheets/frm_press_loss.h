@@ -130,9 +130,7 @@ class frmPressLoss : public ProcessSheet, public PipeTarget {
   /// Calculates a recalled line once more for its diagram alone.
   void RestoreDiagram();
 
-  std::vector<std::pair<int, ComboBox*>> SelectionColumns();
-  std::vector<std::pair<int, TextBox*>> EntryColumns();
-  std::vector<std::pair<int, Label*>> ResultColumns();
+  TagColumns RecordColumns();
 
   void PrintConditions(CalculationPage& page);
   void PrintPipe(CalculationPage& page);

@@ -19,64 +19,55 @@ enum Column {
 
 }  // namespace
 
-std::vector<std::pair<int, ComboBox*>> frmPressLoss::SelectionColumns() {
-  return {{kFluid, &cbo流体},
-          {4, &FlowUnitBox()},
-          {6, &cbo圧力単位},
-          {8, &cbo温度単位},
-          {10, &DensityUnitBox()},
-          {12, &cbo粘性係数単位},
-          {15, &humidity.cbo飽和水蒸気圧単位},
-          {17, &cbo配管呼称径},
-          {18, &cboSchedule}};
-}
-
-std::vector<std::pair<int, TextBox*>> frmPressLoss::EntryColumns() {
-  std::vector<std::pair<int, TextBox*>> columns = {{0, &txtTagNo},
-                                                   {1, &txt用途},
-                                                   {3, &txt流量},
-                                                   {5, &txt圧力},
-                                                   {7, &txt温度},
-                                                   {9, &txt密度},
-                                                   {11, &txt粘性係数},
-                                                   {13, &humidity.txt相対湿度},
-                                                   {14, &humidity.txt飽和水蒸気圧},
-                                                   {16, &txt偏差係数},
-                                                   {kPipeBore, &txt配管内径},
-                                                   {20, &txtPipeRoughness},
-                                                   {21, &txtPipeLength},
-                                                   {32, &txtInletType},
-                                                   {33, &txt管径比率[kIn]},
-                                                   {34, &txt円錐角度[kIn]},
-                                                   {35, &txt管径比率[kOut]},
-                                                   {36, &txt円錐角度[kOut]}};
-  for (int i = 0; i < kFittings; ++i) columns.emplace_back(kFirstFitting + i, &txt付属品数[i]);
+TagColumns frmPressLoss::RecordColumns() {
+  TagColumns columns = {{{4, &FlowUnitBox()},
+                         {6, &cbo圧力単位},
+                         {8, &cbo温度単位},
+                         {10, &DensityUnitBox()},
+                         {12, &cbo粘性係数単位},
+                         {15, &humidity.cbo飽和水蒸気圧単位},
+                         {17, &cbo配管呼称径},
+                         {18, &cboSchedule}},
+                        {{0, &txtTagNo},
+                         {1, &txt用途},
+                         {3, &txt流量},
+                         {5, &txt圧力},
+                         {7, &txt温度},
+                         {9, &txt密度},
+                         {11, &txt粘性係数},
+                         {13, &humidity.txt相対湿度},
+                         {14, &humidity.txt飽和水蒸気圧},
+                         {16, &txt偏差係数},
+                         {kPipeBore, &txt配管内径},
+                         {20, &txtPipeRoughness},
+                         {21, &txtPipeLength},
+                         {32, &txtInletType},
+                         {33, &txt管径比率[kIn]},
+                         {34, &txt円錐角度[kIn]},
+                         {35, &txt管径比率[kOut]},
+                         {36, &txt円錐角度[kOut]}},
+                        {{37, &lbl関係粗度},
+                         {39, &lblλ},
+                         {40, &lblReynolds},
+                         {41, &lblVelosityIn},
+                         {42, &lblVelosityOut},
+                         {43, &lblζin},
+                         {44, &lblζout},
+                         {45, &lblTerminalLoss[kIn]},
+                         {46, &lblTerminalLoss[kOut]},
+                         {kTotalLoss, &lblTotalLoss},
+                         {48, &lbl付属品ζ}}};
+  for (int i = 0; i < kFittings; ++i) {
+    columns.entries.emplace_back(kFirstFitting + i, &txt付属品数[i]);
+  }
   return columns;
 }
 
-std::vector<std::pair<int, Label*>> frmPressLoss::ResultColumns() {
-  return {{37, &lbl関係粗度},
-          {39, &lblλ},
-          {40, &lblReynolds},
-          {41, &lblVelosityIn},
-          {42, &lblVelosityOut},
-          {43, &lblζin},
-          {44, &lblζout},
-          {45, &lblTerminalLoss[kIn]},
-          {46, &lblTerminalLoss[kOut]},
-          {kTotalLoss, &lblTotalLoss},
-          {48, &lbl付属品ζ}};
-}
-
 void frmPressLoss::AddPressLoss(int row) {
+  PutRecord(row, kFluid, RecordColumns());
   RecordWriter record(Space().tags, row);
-  for (const auto& [column, box] : SelectionColumns()) record.PutIndex(column, *box);
-  record.PutTexts(EntryColumns());
-  record.PutTexts(ResultColumns());
   record.Put(kUnused, "");
   record.Put(kLossUnit, lbl圧損単位[0].Text());
-  record.Put(shell::kKindColumn, Space().activeSheetKind);
-  Space().tags.tagModified = true;
 }
 
 /// What was stored holds: no pipe is looked up, no unit of viscosity changed. The phase alone fires
@@ -86,13 +77,14 @@ void frmPressLoss::GetPressLoss(int row) {
   if (At(record, shell::kKindColumn) != kKind) return;
   ClearResults();  // a record that cannot be read must not leave those of the last tag
   Select(cbo流体, At(record, kFluid));
+  const TagColumns columns = RecordColumns();
   {
     const Quiet quiet(*this);
-    for (const auto& [column, box] : SelectionColumns()) Select(*box, At(record, column));
+    columns.GetSelections(record);
     ShowLossUnit();
   }
-  for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
-  for (const auto& [column, label] : ResultColumns()) label->SetText(At(record, column));
+  columns.GetEntries(record);
+  columns.GetResults(record);
   StoreEntries();
   Space().calcDone = !lblTotalLoss.Text().empty();
   if (Space().calcDone) RestoreDiagram();

@@ -351,12 +351,8 @@ void frmTW::ShowFrequencies() {
   if (found.dampingParameter) lblCn.SetText(Format(*found.dampingParameter, "##,##0.00"));
 }
 
-Real frmTW::StressInUnit(Real stress) const {
-  return stress / kMm2PerM2 * (cbo許容応力単位.Index() > 0 ? kNewtonPerKgf : 1);
-}
-
 std::string frmTW::StressText(Real stress, const char* smallFormat) const {
-  const Real value = StressInUnit(stress);
+  const Real value = stress / kMm2PerM2 * (cbo許容応力単位.Index() > 0 ? kNewtonPerKgf : 1);
   return Format(value, value < 10 ? smallFormat : value < 100 ? "##0.00" : "###0.0");
 }
 

@@ -151,9 +151,8 @@ class frmTW : public ProcessSheet, public PipeTarget {
   void ShowNotes();
   void ShowVibrationMode();
   std::string DragNote() const;
-  /// A stress in kgf/m2 in the unit of the allowable stress, per mm2.
-  Real StressInUnit(Real stress) const;
-  /// Three, two or one decimals by the size of what is shown.
+  /// A stress in kgf/m2 in the unit of the allowable stress, per mm2: three, two or one decimals by
+  /// the size of what is shown.
   std::string StressText(Real stress, const char* smallFormat) const;
 
   /// What the chart shows: nothing before there is a flow.
@@ -161,8 +160,8 @@ class frmTW : public ProcessSheet, public PipeTarget {
   void DrawChart(forms::DrawSurface& surface) const;
   void DrawVrLimits(Chart& chart) const;
 
-  std::vector<std::pair<int, forms::Control*>> EntryColumns();
-  std::vector<std::pair<int, ComboBox*>> SelectionColumns();
+  /// Without the material, which stands as position and name.
+  TagColumns RecordColumns();
   std::vector<std::pair<int, Label*>> ResultColumns();
   /// Judged labels by the column of their colour.
   std::vector<std::pair<int, Label*>> ColourColumns();

@@ -1,6 +1,7 @@
 // The tag record of the thermowell sheet.
 
 #include "common/number.h"
+#include "common/text.h"
 #include "sheets/frm_tw.h"
 #include "sheets/record_fields.h"
 
@@ -12,8 +13,8 @@ using common::Val;
 
 /// Columns of the record that are read or written by themselves.
 enum Column {
-  kDensityUnit = 8,
-  kFlowUnit = 14,
+  kFluid = 2,
+  kInstallation = 11,
   kMaterial = 16,
   kMaterialText = 17,
   kDensity = 18,
@@ -26,43 +27,38 @@ enum Column {
 /// Records marked older have other columns from 28 on, which reading a file empties.
 constexpr const char* kVersion = "Ver 2.2";
 
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
-
 }  // namespace
 
-std::vector<std::pair<int, forms::Control*>> frmTW::EntryColumns() {
-  return {{0, &txtTagNo},
-          {1, &txt用途},
-          {3, &txt圧力},
-          {5, &txt温度},
-          {7, &txt密度},
-          {9, &txt粘性係数},
-          {12, &txt配管内径},
-          {13, &txt流量},
-          {15, &txt攪拌槽内径},
-          {kDensity, &txt保護管密度},
-          {kModulus, &txtヤング率},
-          {kStress, &txt許容応力},
-          {23, &txt先端外径},
-          {24, &txt根元外径},
-          {25, &txt保護管内径},
-          {26, &txt保護管長},
-          {27, &txt挿入長},
-          {28, &txtWellT},
-          {29, &txt臨界減衰率},
-          {30, &txt応力集中係数}};
-}
-
-std::vector<std::pair<int, ComboBox*>> frmTW::SelectionColumns() {
-  return {{2, &cbo流体},
-          {11, &cbo設置形式},
-          {4, &cbo圧力単位},
-          {6, &cbo温度単位},
-          {kDensityUnit, &DensityUnitBox()},
-          {10, &cbo粘性係数単位},
-          {kFlowUnit, &FlowUnitBox()},
-          {20, &cboヤング率単位},
-          {22, &cbo許容応力単位}};
+TagColumns frmTW::RecordColumns() {
+  return {{{kInstallation, &cbo設置形式},
+           {4, &cbo圧力単位},
+           {6, &cbo温度単位},
+           {8, &DensityUnitBox()},
+           {10, &cbo粘性係数単位},
+           {14, &FlowUnitBox()},
+           {20, &cboヤング率単位},
+           {22, &cbo許容応力単位}},
+          {{0, &txtTagNo},
+           {1, &txt用途},
+           {3, &txt圧力},
+           {5, &txt温度},
+           {7, &txt密度},
+           {9, &txt粘性係数},
+           {12, &txt配管内径},
+           {13, &txt流量},
+           {15, &txt攪拌槽内径},
+           {kDensity, &txt保護管密度},
+           {kModulus, &txtヤング率},
+           {kStress, &txt許容応力},
+           {23, &txt先端外径},
+           {24, &txt根元外径},
+           {25, &txt保護管内径},
+           {26, &txt保護管長},
+           {27, &txt挿入長},
+           {28, &txtWellT},
+           {29, &txt臨界減衰率},
+           {30, &txt応力集中係数}},
+          ResultColumns()};
 }
 
 std::vector<std::pair<int, Label*>> frmTW::ResultColumns() {
@@ -86,20 +82,14 @@ std::vector<std::pair<int, Label*>> frmTW::ColourColumns() {
 }
 
 void frmTW::addTW(int row) {
-  shell::TagStore& tags = Space().tags;
-  for (const auto& [column, box] : EntryColumns()) tags.SetText(row, column, box->Text());
-  for (const auto& [column, box] : SelectionColumns()) {
-    tags.SetText(row, column, std::to_string(box->Index()));
-  }
-  tags.SetText(row, kMaterial, std::to_string(cbo保護管材質.Index()));
-  tags.SetText(row, kMaterialText, cbo保護管材質.Text());
-  for (const auto& [column, label] : ResultColumns()) tags.SetText(row, column, label->Text());
+  PutRecord(row, kFluid, RecordColumns());
+  RecordWriter record(Space().tags, row);
+  record.PutIndex(kMaterial, cbo保護管材質);
+  record.Put(kMaterialText, cbo保護管材質.Text());
   for (const auto& [column, label] : ColourColumns()) {
-    tags.SetText(row, column, std::to_string(label->ForeColor()));
+    record.Put(column, std::to_string(label->ForeColor()));
   }
-  tags.SetText(row, kMark, kVersion);
-  tags.SetText(row, shell::kKindColumn, Space().activeSheetKind);
-  tags.tagModified = true;
+  record.Put(kMark, kVersion);
 }
 
 /// What was stored holds: nothing is looked up and no row emptied while it is written. Phase and
@@ -111,13 +101,14 @@ void frmTW::GetTW(int row) {
   if (At(record, shell::kKindColumn) != kKind) return;
   ClearResults();
   filledTemperature_ = TemperatureEntry();
-  Select(cbo流体, At(record, 2));
-  Select(cbo設置形式, At(record, 11));
+  Select(cbo流体, At(record, kFluid));
+  Select(cbo設置形式, At(record, kInstallation));
+  const TagColumns columns = RecordColumns();
   {
     const Quiet quiet(*this);
-    for (const auto& [column, box] : SelectionColumns()) Select(*box, At(record, column));
+    columns.GetSelections(record);
     GetMaterial(record);
-    for (const auto& [column, box] : EntryColumns()) box->SetText(At(record, column));
+    columns.GetEntries(record);
     filledTemperature_ = TemperatureEntry();
     ClearResults();  // shows the unit of the stresses
     GetResults(record);
@@ -130,7 +121,7 @@ void frmTW::GetMaterial(const shell::TagRow& record) {
   const int index = common::IntIndex(Val(At(record, kMaterial)));
   const std::string& name = At(record, kMaterialText);
   if (index >= 0 && index < cbo保護管材質.Count() &&
-      cbo保護管材質.Items()[static_cast<std::size_t>(index)] == name) {
+      common::At(cbo保護管材質.Items(), index) == name) {
     cbo保護管材質.SetIndex(index);
   } else {
     cbo保護管材質.SetText(name);
@@ -142,7 +133,7 @@ void frmTW::GetResults(const shell::TagRow& record) {
   for (const auto& [column, label] : ColourColumns()) {
     label->SetForeColor(common::IntIndex(Val(At(record, column))));
   }
-  Space().calcDone = !IsBlank(lbl流速R.Text());
+  Space().calcDone = !common::IsBlank(lbl流速R.Text());
   if (!Space().calcDone) return;
   try {
     ReadConditions();
