@@ -326,18 +326,16 @@ void frmPressLoss::DrawPressures(forms::DrawSurface& surface) const {
 }
 
 void frmPressLoss::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
+  SetLayout(SheetBlock(
+      lblタイトル,
+      forms::Row({
           forms::Stretched(forms::Column({ProcessBlock(), PipeBlock(), forms::Space()}), 6),
           forms::Stretched(forms::Column({ShapeBlock(), FittingBlock(), forms::Space()}), 6),
           forms::Stretched(
               forms::Column({ResultBlock(), forms::Stretched(forms::Table({{pic圧力}})),
                              forms::Buttons({{}, cmdInitialize, cmd計算})}),
               7),
-      })),
-  }));
+      })));
 }
 
 forms::Block frmPressLoss::ProcessBlock() {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "common/number.h"
+#include "common/text.h"
 #include "data/steam.h"
 #include "data/units.h"
 #include "sheets/calculation_page.h"
@@ -58,7 +59,7 @@ const PhaseTexts& TextsOf(data::FluidPhase phase) {
 }
 
 void FillEmpty(forms::TextBox& box) {
-  if (box.Text().find_first_not_of(' ') == std::string::npos) box.SetText("0");
+  if (common::IsBlank(box.Text())) box.SetText("0");
 }
 
 }  // namespace
@@ -78,7 +79,7 @@ frm物性::frm物性(shell::Workspace& workspace) : Sheet(workspace, kKind, "簡
   cmd計算.onClick = [this] { cmd計算_Click(); };
   lst流体名称.onDblClick = cmd計算.onClick;
   lst流体名称.onEnter = cmd計算.onClick;
-  LayOut();
+  DeclareLayout();
 }
 
 void frm物性::Load() {
@@ -298,7 +299,7 @@ bool frm物性::PrintBody(shell::PrintSurface& target) {
   return true;
 }
 
-void frm物性::LayOut() {
+void frm物性::DeclareLayout() {
   std::vector<forms::Line> results;
   results.reserve(kRows);
   for (int row = 0; row < kRows; ++row) {

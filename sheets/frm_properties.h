@@ -6,6 +6,7 @@
 #include "data/property_estimator.h"
 #include "forms/controls.h"
 #include "sheets/property_target.h"
+#include "sheets/tag_record.h"
 #include "shell/sheet.h"
 
 namespace sheets {
@@ -48,9 +49,7 @@ class frm物性 : public shell::Sheet, public FluidUser {
   void FluidsChanged() override;
 
  private:
-  static constexpr int kTagNumberBytes = 26;
-
-  void LayOut();
+  void DeclareLayout();
 
   data::ProcessState& Process() const { return Space().process; }
   const shell::Tables& Tables() const { return Space().tables; }

@@ -1,7 +1,6 @@
 #include "sheets/frm_ro.h"
 
 #include "common/number.h"
-#include "data/material_table.h"
 #include "data/units.h"
 #include "sheets/list_texts.h"
 

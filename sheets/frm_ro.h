@@ -95,9 +95,6 @@ class frmRO : public ProcessSheet, public PipeTarget {
   static constexpr const char* kTangential = "(円周方向)";
   static constexpr const char* kRadial = "(半径方向)";
 
-  using MaterialProperty = Real (*)(const data::MaterialTable& table, int material,
-                                    const data::ProcessState& state, common::Messages& messages);
-
   void BindHandlers();
   void DeclareLayout();
   forms::Block ProcessBlock();

@@ -6,6 +6,7 @@
 
 #include "forms/controls.h"
 #include "sheets/chart.h"
+#include "sheets/tag_record.h"
 #include "shell/sheet.h"
 #include "temperature/sensor.h"
 
@@ -20,7 +21,7 @@ class frmTE : public shell::Sheet {
 
   forms::Label lblタイトル{*this, "lblタイトル", "熱電対・測温抵抗体", forms::LabelStyle::kHeading};
   forms::Label lblTagNo{*this, "lblTagNo", "Tag No."};
-  forms::TextBox txtTagNo{*this, "txtTagNo", forms::AnyKey, 26};
+  forms::TextBox txtTagNo{*this, "txtTagNo", forms::AnyKey, kTagNumberBytes};
   forms::Label lbl用途{*this, "lbl用途", "用途"};
   forms::TextBox txt用途{*this, "txt用途"};
   forms::Label lblMaker{*this, "lblMaker", "計器メーカー"};

@@ -92,7 +92,6 @@ void frmTW::BindHandlers() {
   }
   cbo設置形式.onClick = [this] { cbo設置形式_Click(); };
   txt配管内径.onDblClick = [this] { txt配管内径_DblClick(); };
-  txt配管内径.SetToolTip("規格配管ならﾀﾞﾌﾞﾙｸﾘｯｸで入力可");
   cbo保護管材質.onClick = [this] {
     ClearResults();
     if (cbo保護管材質.Index() >= 0) FillMaterial();
@@ -214,10 +213,10 @@ void frmTW::FillAllowableStress() {
   FillPerMm2(data::MaterialAllowableStress, txt許容応力, cbo許容応力単位, 1);
 }
 
-void frmTW::FillPerMm2(Estimator estimate, TextBox& box, const ComboBox& unit, int digits) {
+void frmTW::FillPerMm2(MaterialProperty property, TextBox& box, const ComboBox& unit, int digits) {
   if (!HasMaterial()) return;
   StoreEntries();
-  const Real value = estimate(Tables().materials, cbo保護管材質.Index(), Process(), User());
+  const Real value = property(Tables().materials, cbo保護管材質.Index(), Process(), User());
   const bool inNewton = unit.Index() > 0;
   box.SetText(NumberText(RoundDigits(inNewton ? value * kNewtonPerKgf : value, digits)));
 }
@@ -230,16 +229,10 @@ void frmTW::RefillMaterial() {
 void frmTW::cmdデータ消去_Click() {
   {
     const Quiet quiet(*this);
-    for (forms::Control* control : Controls()) {
-      if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
-    }
     if (cbo保護管材質.Count() > 0) cbo保護管材質.SetIndex(0);
-    filledTemperature_ = TemperatureEntry();
   }
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
-  StoreEntries();
-  ClearResults();
-  SetFocus(txtTagNo);
+  ClearData();
+  filledTemperature_ = TemperatureEntry();
 }
 
 void frmTW::ClearResults() {
@@ -428,10 +421,9 @@ std::vector<std::vector<std::string>> frmTW::ModeRows() const {
 }
 
 void frmTW::DeclareLayout() {
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
+  SetLayout(SheetBlock(
+      lblタイトル,
+      forms::Row({
           forms::Stretched(
               forms::Column({ProcessBlock(), FlowBlock(), MaterialBlock(), forms::Space()}), 6),
           forms::Stretched(forms::Column({WellBlock(), forms::Stretched(forms::Group(
@@ -442,17 +434,15 @@ void frmTW::DeclareLayout() {
                                           forms::Buttons({cmd判定条件, cmd振動数}),
                                           forms::Buttons({{}, cmdデータ消去, cmd計算})}),
                            6),
-      })),
-  }));
+      })));
 }
 
 forms::Block frmTW::ProcessBlock() {
-  const Cell densityUnits = Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S});
   return forms::Group("プロセス条件", forms::Table({
                                           {lbl流体, Cell(cbo流体).Over(2)},
                                           {lbl圧力, txt圧力, cbo圧力単位},
                                           {lbl温度, txt温度, cbo温度単位},
-                                          {lbl密度, txt密度, densityUnits},
+                                          {lbl密度, txt密度, DensityUnits()},
                                           {lbl粘性係数, txt粘性係数, cbo粘性係数単位},
                                       }));
 }

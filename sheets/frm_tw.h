@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "data/material_table.h"
 #include "sheets/calculation_page.h"
 #include "sheets/chart.h"
 #include "sheets/process_sheet.h"
@@ -128,10 +127,8 @@ class frmTW : public ProcessSheet, public PipeTarget {
   void FillDensity();
   void FillYoungsModulus();
   void FillAllowableStress();
-  using Estimator = Real (*)(const data::MaterialTable&, int, const data::ProcessState&,
-                             common::Messages&);
   /// Fills a modulus or stress, kgf/mm2 or N/mm2 by the unit selected.
-  void FillPerMm2(Estimator estimate, TextBox& box, const ComboBox& unit, int digits);
+  void FillPerMm2(MaterialProperty property, TextBox& box, const ComboBox& unit, int digits);
   bool HasMaterial();
   /// Material values belong to a temperature: filled anew once it has changed.
   void RefillMaterial();

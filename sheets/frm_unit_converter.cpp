@@ -61,7 +61,7 @@ frm単位換算::frm単位換算(shell::Workspace& workspace)
   WishPlace({0, 0, 5472, 4056});
   BindHandlers();
   NameButtons();
-  LayOut();
+  DeclareLayout();
 }
 
 void frm単位換算::BindHandlers() {
@@ -264,7 +264,7 @@ void frm単位換算::Unload() {
 }
 
 /// Made to be seen whole in the place that it wishes for, with the smallest letters.
-void frm単位換算::LayOut() {
+void frm単位換算::DeclareLayout() {
   constexpr int kListColumns = 12;
   SetLayout(forms::Column({
       forms::Table({{TabStrip1}}),

@@ -63,7 +63,7 @@ class frm単位換算 : public forms::Form {
 
   void BindHandlers();
   void NameButtons();
-  void LayOut();
+  void DeclareLayout();
 
   void Show(int category, int unit);
   void Convert();

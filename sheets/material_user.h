@@ -5,6 +5,11 @@
 
 namespace sheets {
 
+/// Modulus or stress of a material at the temperature of a state, kgf/mm2.
+using MaterialProperty = common::Real (*)(const data::MaterialTable& table, int material,
+                                          const data::ProcessState& state,
+                                          common::Messages& messages);
+
 /// A form that lists the materials.
 class MaterialUser {
  public:

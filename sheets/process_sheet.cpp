@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "common/number.h"
+#include "common/text.h"
 #include "data/steam.h"
 #include "data/units.h"
 #include "sheets/cautions.h"
@@ -61,13 +62,13 @@ ProcessSheet::ProcessSheet(shell::Workspace& workspace, const std::string& kind,
   for (ComboBox* box : {&cbo流量単位L, &cbo流量単位G, &cbo流量単位S}) {
     box->onClick = [this] { cbo流量単位_Click(); };
   }
-  for (TextBox* box : {&txt圧力, &txt温度, &txt密度, &txt粘性係数}) Watch(*box);
+  for (TextBox* box : {&txt圧力, &txt温度}) Watch(*box);
   for (ComboBox* box : {&cbo圧力単位, &cbo温度単位, &cbo密度単位L, &cbo密度単位G, &cbo密度単位S,
                         &cbo粘性係数単位}) {
     Watch(*box);
   }
-  OfferEntry(lbl密度, txt密度, [this] { FillFromFluidOrSteam("密度"); });
-  OfferEntry(lbl粘性係数, txt粘性係数, [this] { FillFromFluidOrSteam("粘性係数"); });
+  OfferProperty(lbl密度, txt密度, "密度");
+  OfferProperty(lbl粘性係数, txt粘性係数, "粘性係数");
   txt温度.onDblClick = [this] { FillTemperature(); };
   txt温度.SetToolTip("蒸気ではダブルクリックで飽和温度を入力します。");
 }
@@ -95,32 +96,25 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
     }
   }
   if (fields_.deviation != nullptr) {
-    Watch(*fields_.deviation);
-    OfferEntry(*fields_.deviationLabel, *fields_.deviation,
-               [this] { FillFromFluidOrSteam("偏差係数"); });
+    OfferProperty(*fields_.deviationLabel, *fields_.deviation, "偏差係数");
   }
   if (fields_.kappa != nullptr) {
     TextBox& kappa = *fields_.kappa;
-    Watch(kappa);
+    OfferProperty(*fields_.kappaLabel, kappa, "比熱比");
     kappa.onChange = [changed = kappa.onChange, &kappa] {
       kappa.SetToolTip(kEstimateHint);  // a caution belongs to the value that has gone
       changed();
     };
-    OfferEntry(*fields_.kappaLabel, kappa, [this] { FillFromFluidOrSteam("比熱比"); });
   }
   if (fields_.vapour != nullptr) {
     VapourPressureFields& vapour = *fields_.vapour;
-    Watch(vapour.txt飽和蒸気圧);
     Watch(vapour.cbo飽和蒸気圧単位);
-    OfferEntry(vapour.lbl飽和蒸気圧, vapour.txt飽和蒸気圧,
-               [this] { FillFromFluidOrSteam("飽和蒸気圧"); });
+    OfferProperty(vapour.lbl飽和蒸気圧, vapour.txt飽和蒸気圧, "飽和蒸気圧");
   }
   if (fields_.critical != nullptr) {
     CriticalPressureFields& critical = *fields_.critical;
-    Watch(critical.txt臨界圧力);
     Watch(critical.cbo臨界圧力単位);
-    OfferEntry(critical.lbl臨界圧力, critical.txt臨界圧力,
-               [this] { FillFromFluidOrSteam("臨界圧力"); });
+    OfferProperty(critical.lbl臨界圧力, critical.txt臨界圧力, "臨界圧力");
   }
 }
 
@@ -147,6 +141,11 @@ void ProcessSheet::OfferEntry(Label& label, TextBox& box, const std::function<vo
   label.onClick = box.onDblClick;
   box.SetToolTip(kEstimateHint);
   label.SetToolTip("クリックで推算値を入力します。");
+}
+
+void ProcessSheet::OfferProperty(Label& label, TextBox& box, const char* word) {
+  Watch(box);
+  OfferEntry(label, box, [this, word] { FillFromFluidOrSteam(word); });
 }
 
 void ProcessSheet::FillList(ComboBox& box, const std::vector<std::string>& items) {
@@ -269,7 +268,7 @@ bool ProcessSheet::Calculate(Button& button) {
 
 std::vector<shell::Sheet::Calculation> ProcessSheet::OneWay(const std::string& result,
                                                             Button& button) {
-  if (result.find_first_not_of(' ') == std::string::npos) return {};
+  if (common::IsBlank(result)) return {};
   return {{"", [this, &button] { return Calculate(button); }}};
 }
 
@@ -367,17 +366,22 @@ void ProcessSheet::UpdateFluidList() {
   }
 }
 
-void ProcessSheet::ReadConditions() {
+void ProcessSheet::StoreUnits() {
   data::ProcessState& process = Process();
   process.fluidPhase = Phase();
   process.flowUnit = FlowUnitBox().Index();
   process.pressureUnit = cbo圧力単位.Index();
-  process.pressureAbs = data::PressureToAbsolute(Val(txt圧力.Text()), process.pressureUnit);
   process.temperatureUnit = cbo温度単位.Index();
-  process.temperatureC = data::TemperatureToCelsius(process, Val(txt温度.Text()));
-  process.temperatureK = process.temperatureC + 273.15;
   process.densityUnit = DensityUnitBox().Index();
   process.viscosityUnit = cbo粘性係数単位.Index();
+}
+
+void ProcessSheet::ReadConditions() {
+  data::ProcessState& process = Process();
+  StoreUnits();
+  process.pressureAbs = data::PressureToAbsolute(Val(txt圧力.Text()), process.pressureUnit);
+  process.temperatureC = data::TemperatureToCelsius(process, Val(txt温度.Text()));
+  process.temperatureK = process.temperatureC + 273.15;
   process.flowBasis = data::kWetBase;
   process.relativeHumidity = 0;
   process.saturationPressure = 0;
@@ -435,12 +439,7 @@ void ProcessSheet::StoreEntries() {
   const auto value = [](const TextBox* box) {
     return box == nullptr ? Real(0) : Quietly([&] { return Val(box->Text()); });
   };
-  process.fluidPhase = Phase();
-  process.flowUnit = FlowUnitBox().Index();
-  process.pressureUnit = cbo圧力単位.Index();
-  process.temperatureUnit = cbo温度単位.Index();
-  process.densityUnit = DensityUnitBox().Index();
-  process.viscosityUnit = cbo粘性係数単位.Index();
+  StoreUnits();
   process.pressureAbs =
       Quietly([&] { return data::PressureToAbsolute(value(&txt圧力), process.pressureUnit); });
   process.temperatureC =

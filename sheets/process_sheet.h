@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -105,8 +106,6 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   void MaterialsChanged() override;
 
  protected:
-  static constexpr int kTagNumberBytes = 26;
-
   /// The panel's fields that not every sheet has; null where it lacks them.
   struct OptionalFields {
     HumidityFields* humidity = nullptr;
@@ -172,6 +171,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   void Watch(ComboBox& box);
   /// Makes a double click on the field and a click on its label run the same automatic entry.
   void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
+  /// An entry that the steam equations or the fluid list can fill by the word of its property.
+  void OfferProperty(Label& label, TextBox& box, const char* word);
 
   /// Prints the density, for a gas that at normal conditions and that in the pipe, as they were
   /// worked out last; 0 leaves a blank.
@@ -222,6 +223,8 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   void cbo流体_Click();
   void cbo流量単位_Click();
   void SwitchHumidity();
+  /// Phase and units of the selectors, into the process values.
+  void StoreUnits();
   void UpdateFluidList();
   void FillPipeBore(const ComboBox& size, const ComboBox& schedule, TextBox& bore);
   void StoreHumidity();

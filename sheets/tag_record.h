@@ -9,6 +9,9 @@
 
 namespace sheets {
 
+/// Longest tag number in CP932 bytes.
+inline constexpr int kTagNumberBytes = 26;
+
 /// Which controls of a sheet stand in which columns of its tag record.
 struct TagColumns {
   std::vector<std::pair<int, forms::ComboBox*>> selections;  // stored as list positions
