@@ -39,6 +39,26 @@
 
 namespace sheets {
 
+namespace {
+
+/// Makes a form known; whenever it is created it is given its hints.
+template <class FormType>
+void Provide(shell::Workspace& space, const char* name) {
+  space.forms.Provide(name, [&space] {
+    auto form = std::make_unique<FormType>(space);
+    GiveHints(*form);
+    return form;
+  });
+}
+
+/// Makes forms known that tell their names; those of most sheets stand in the sheet registry alone.
+template <class... FormTypes>
+void ProvideNamed(shell::Workspace& space) {
+  (Provide<FormTypes>(space, FormTypes::kName), ...);
+}
+
+}  // namespace
+
 Workbench::Workbench(forms::Presenter& presenter, std::string installDir,
                      shell::SettingsStore& settings, shell::Platform* platform)
     : workspace_(presenter, settings, platform) {
@@ -48,56 +68,24 @@ Workbench::Workbench(forms::Presenter& presenter, std::string installDir,
 }
 
 void Workbench::ProvideForms() {
-  shell::Workspace& space = workspace_;
-  const auto provide = [&space]<class FormType>(const char* name, std::type_identity<FormType>) {
-    space.forms.Provide(name, [&space] {
-      auto form = std::make_unique<FormType>(space);
-      GiveHints(*form);
-      return form;
-    });
-  };
-  provide("frmOrifice", std::type_identity<frmOrifice>());
-  provide(frmCable::kName, std::type_identity<frmCable>());
-  provide(frmDataInput::kName, std::type_identity<frmDataInput>());
-  provide(frmSetDuctSize::kName, std::type_identity<frmSetDuctSize>());
-  provide(frmDuctDraw::kName, std::type_identity<frmDuctDraw>());
-  provide(frmDuctList::kName, std::type_identity<frmDuctList>());
-  provide("frmPressLoss", std::type_identity<frmPressLoss>());
-  provide(frmRoughness::kName, std::type_identity<frmRoughness>());
-  provide(frmInletType::kName, std::type_identity<frmInletType>());
-  provide("frmIntegral", std::type_identity<frmIntegral>());
-  provide("frmRO", std::type_identity<frmRO>());
-  provide("frmVortex", std::type_identity<frmVortex>());
-  provide("frmCV", std::type_identity<frmCV>());
-  provide(frmCvSet::kName, std::type_identity<frmCvSet>());
-  provide("frmTW", std::type_identity<frmTW>());
-  provide(frm形状係数::kName, std::type_identity<frm形状係数>());
-  provide(frmTW判定条件::kName, std::type_identity<frmTW判定条件>());
-  provide(frm振動数判定::kName, std::type_identity<frm振動数判定>());
-  provide("frmTE", std::type_identity<frmTE>());
-  provide(frm流体名表示::kName, std::type_identity<frm流体名表示>());
-  provide(frmPipeDia::kName, std::type_identity<frmPipeDia>());
-  provide(frmRating::kName, std::type_identity<frmRating>());
-  provide(frm本山微少弁::kName, std::type_identity<frm本山微少弁>());
-  provide(frm山武微少弁::kName, std::type_identity<frm山武微少弁>());
-  provide(frmCv計算補正::kName, std::type_identity<frmCv計算補正>());
-  provide(frmCv補正データ::kName, std::type_identity<frmCv補正データ>());
-  provide("frmEditCVspec", std::type_identity<frmEditCVspec>());
-  provide("frmMaterial", std::type_identity<frmMaterial>());
-  provide(frm単位換算::kName, std::type_identity<frm単位換算>());
-  provide(frmUnitEdit::kName, std::type_identity<frmUnitEdit>());
-  provide(frmMove::kName, std::type_identity<frmMove>());
-  provide("frmEditPropData", std::type_identity<frmEditPropData>());
-  provide("frm物性", std::type_identity<frm物性>());
-  provide(frmPipeWeight::kName, std::type_identity<frmPipeWeight>());
-  provide(frmPreview::kName, std::type_identity<frmPreview>());
-  provide(frm一括印刷::kName, std::type_identity<frm一括印刷>());
-  provide(frm全タグ再計算::kName, std::type_identity<frm全タグ再計算>());
-  provide(frmZepha2Excel::kName, std::type_identity<frmZepha2Excel>());
-  provide(frmTagList::kName, std::type_identity<frmTagList>());
-  provide(frmRegCompany::kName, std::type_identity<frmRegCompany>());
-  provide(frmUserProgram::kName, std::type_identity<frmUserProgram>());
-  provide(frmAbout::kName, std::type_identity<frmAbout>());
+  Provide<frmOrifice>(workspace_, "frmOrifice");
+  Provide<frmPressLoss>(workspace_, "frmPressLoss");
+  Provide<frmIntegral>(workspace_, "frmIntegral");
+  Provide<frmRO>(workspace_, "frmRO");
+  Provide<frmVortex>(workspace_, "frmVortex");
+  Provide<frmCV>(workspace_, "frmCV");
+  Provide<frmTW>(workspace_, "frmTW");
+  Provide<frmTE>(workspace_, "frmTE");
+  Provide<frmEditCVspec>(workspace_, "frmEditCVspec");
+  Provide<frmMaterial>(workspace_, "frmMaterial");
+  Provide<frmEditPropData>(workspace_, "frmEditPropData");
+  Provide<frm物性>(workspace_, "frm物性");
+  ProvideNamed<frmCable, frmDataInput, frmSetDuctSize, frmDuctDraw, frmDuctList, frmRoughness,
+               frmInletType, frmCvSet, frm形状係数, frmTW判定条件, frm振動数判定, frm流体名表示,
+               frmPipeDia, frmRating, frm本山微少弁, frm山武微少弁, frmCv計算補正, frmCv補正データ,
+               frm単位換算, frmUnitEdit, frmMove, frmPipeWeight, frmPreview, frm一括印刷,
+               frm全タグ再計算, frmZepha2Excel, frmTagList, frmRegCompany, frmUserProgram,
+               frmAbout>(workspace_);
 }
 
 void Workbench::Load() {
