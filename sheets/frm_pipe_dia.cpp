@@ -7,8 +7,6 @@ namespace sheets {
 
 namespace {
 
-constexpr int kStartSchedule = 7;  // Sch40
-
 PipeTarget* TargetOf(shell::Workspace& workspace) {
   return dynamic_cast<PipeTarget*>(workspace.forms.ActiveSheet());
 }

@@ -12,7 +12,6 @@ using common::Format;
 using common::Real;
 using common::Val;
 
-constexpr int kStartSchedule = 7;           // Sch40
 constexpr double kDensityTemperature = 20;  // degC
 
 /// A length of the pipe table, which is in single precision, in mm.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kTitle = "全タグ再計算";
 
-std::string Lines(std::string text) {
+std::string OneLine(std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
   return text;
 }
@@ -18,16 +18,7 @@ std::string Lines(std::string text) {
 }  // namespace
 
 frm全タグ再計算::frm全タグ再計算(shell::Workspace& workspace)
-    : Form(kName, kTitle, forms::FormRole::kDialog),
-      grd変更(*this, "grd変更",
-              {{"タグ番号", 1700, false},
-               {"項目", 3000, false},
-               {"旧", 2250, true},
-               {"新", 2250, true}},
-              9),
-      grdメッセージ(*this, "grdメッセージ",
-                    {{"タグ番号", 1700, false}, {"メッセージ", 10000, false}}, 5),
-      workspace_(workspace) {
+    : Form(kName, kTitle, forms::FormRole::kDialog), workspace_(workspace) {
   lbl説明.SetText(
       "各タグを登録されている入力値からそのシートで計算し直し、登録されている結果と比べます。"
       "書き込むまで何も変わりません。");
@@ -110,7 +101,7 @@ void frm全タグ再計算::ShowResults() {
   grd変更.SetRows(std::move(lines));
   lines.clear();
   for (const shell::TagNote& note : recalculator_->Notes()) {
-    lines.push_back({note.tag, Lines(note.text)});
+    lines.push_back({note.tag, OneLine(note.text)});
   }
   grdメッセージ.SetRows(std::move(lines));
   {

@@ -22,8 +22,13 @@ class frm全タグ再計算 : public forms::Form {
   forms::CheckList lstTag{*this, "lstTag", 8};
   forms::Button cmd全選択{*this, "cmd全選択", "すべて選択"};
   forms::Button cmd全解除{*this, "cmd全解除", "すべて解除"};
-  forms::Grid grd変更;
-  forms::Grid grdメッセージ;
+  forms::Grid grd変更{
+      *this,
+      "grd変更",
+      {{"タグ番号", 1700, false}, {"項目", 3000, false}, {"旧", 2250}, {"新", 2250}},
+      9};
+  forms::Grid grdメッセージ{
+      *this, "grdメッセージ", {{"タグ番号", 1700, false}, {"メッセージ", 10000, false}}};
   forms::Button cmd再計算{*this, "cmd再計算", "再計算"};
   forms::Button cmd書込{*this, "cmd書込", "結果を書き込む"};
   forms::Button cmdCancel{*this, "cmdCancel", "閉じる", forms::ButtonRole::kCancel};

@@ -19,6 +19,9 @@ std::vector<std::string> FluidTexts(const data::FluidTable& fluids);
 /// Number of a result that is grouped by thousands ("1,234.50").
 common::Real GroupedNumber(std::string text);
 
+/// Place of Sch40 in the schedules, on which lists of pipes open.
+inline constexpr int kStartSchedule = 7;
+
 /// Schedules that the pipe table has walls for.
 std::vector<std::string> ScheduleTexts(const data::ConvertLists& lists);
 

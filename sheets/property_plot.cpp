@@ -1,6 +1,7 @@
 #include "sheets/property_plot.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "common/real.h"
 #include "sheets/chart.h"
@@ -27,8 +28,7 @@ Chart::Axis ValueAxis(const std::string& title, const Chart::Points& points) {
 bool IsDrawable(const Chart::Points& points) {
   return points.size() > 1 && points.front().first < points.back().first &&
          std::all_of(points.begin(), points.end(), [](const auto& point) {
-           return std::max(point.first, -point.first) < kLargest &&
-                  std::max(point.second, -point.second) < kLargest;
+           return std::abs(point.first) < kLargest && std::abs(point.second) < kLargest;
          });
 }
 

@@ -61,7 +61,7 @@ frmUserProgram::frmUserProgram(shell::Workspace& workspace)
 
 void frmUserProgram::Load() {
   for (int i = 0; i < kPrograms; ++i) {
-    const shell::UserProgram& program = workspace_.userPrograms[static_cast<std::size_t>(i)];
+    const shell::UserProgram& program = common::At(workspace_.userPrograms, i);
     txtUserProTitle[i].SetText(program.caption);
     txtUser[i].SetText(program.command);
   }
@@ -70,7 +70,7 @@ void frmUserProgram::Load() {
 void frmUserProgram::cmd登録_Click() {
   shell::UserPrograms programs;
   for (int i = 0; i < kPrograms; ++i) {
-    programs[static_cast<std::size_t>(i)] = {txtUserProTitle[i].Text(), txtUser[i].Text()};
+    common::At(programs, i) = {txtUserProTitle[i].Text(), txtUser[i].Text()};
   }
   shell::WriteUserPrograms(workspace_.installDir, programs);
   workspace_.userPrograms = programs;

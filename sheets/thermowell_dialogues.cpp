@@ -37,8 +37,9 @@ frm形状係数::frm形状係数(shell::Workspace& workspace)
 void frm形状係数::Load() {
   const Quiet quiet(*this);
   VScroll1.SetValue(kSteps);
-  if (const frmTW* const sheet = Thermowell(workspace_))
+  if (const frmTW* const sheet = Thermowell(workspace_)) {
     lblRootDia.SetText(sheet->txt根元外径.Text());
+  }
   SetFocus(txt切欠き);
 }
 
