@@ -21,8 +21,12 @@ namespace desktop {
 
 namespace {
 
-/// Above and below a line of a list, as in the style sheet.
-constexpr double kListPaddingEm = 0.12;
+// Room round the letters, in letter heights.
+constexpr double kListPaddingEm = 0.12;  // above and below a line of a list, as in the style sheet
+constexpr double kListFrameEm = 0.6;
+constexpr double kScrollBarEm = 2;
+constexpr double kMarkEm = 2;
+constexpr double kArrowEm = 2.2;  // of a combo box, and of a scroll bar in its list
 
 /// A field over which the wheel scrolls the sheet: it must not change a unit or a tab in passing.
 template <class Widget, class Kind>
@@ -173,7 +177,7 @@ int OwnColumns(const forms::ListBox& box) {
 /// Height of a list that shows so many lines.
 int HeightOf(int lines, const QFont& font, const Scale& scale) {
   const int line = QFontMetrics(font).height() + 2 * std::max(1, scale.Em(kListPaddingEm));
-  return line * lines + scale.Em(0.6);
+  return line * lines + scale.Em(kListFrameEm);
 }
 
 void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale, int characters) {
@@ -185,7 +189,7 @@ void ResizeList(const forms::ListBox& box, QListWidget& list, const Scale& scale
     list.setFont(font);
     width = FixedWidth(font, columns);
   }
-  list.setMinimumWidth(width + scale.Em(2));
+  list.setMinimumWidth(width + scale.Em(kScrollBarEm));
   list.setMinimumHeight(HeightOf(box.VisibleLines(), font, scale));
 }
 
@@ -247,7 +251,8 @@ Bound BindTabsAtLeft(forms::TabStrip& strip, QWidget& parent) {
   field->setUniformItemSizes(true);
   return {field, [&strip, field] { ShowList(strip, *field); },
           [field](const Scale& scale, int characters) {
-            const int width = scale.Digits(characters > 0 ? characters : kWidth) + scale.Em(2);
+            const int width =
+                scale.Digits(characters > 0 ? characters : kWidth) + scale.Em(kScrollBarEm);
             field->setMinimumWidth(width);
             field->setMaximumWidth(width);
             field->setMinimumHeight(scale.Em(kLeastHeightEm));
@@ -271,8 +276,8 @@ Bound Bind(forms::ComboBox& box, QWidget& parent) {
   });
   return {combo, show, [&box, combo](const Scale& scale, int characters) {
             const int width = characters > 0 ? characters : ComboWidth(box);
-            combo->setMinimumWidth(scale.Digits(width) + scale.Em(2.2));
-            combo->view()->setMinimumWidth(scale.Digits(LongestItem(box)) + scale.Em(2.2));
+            combo->setMinimumWidth(scale.Digits(width) + scale.Em(kArrowEm));
+            combo->view()->setMinimumWidth(scale.Digits(LongestItem(box)) + scale.Em(kArrowEm));
           }};
 }
 
@@ -301,7 +306,7 @@ Bound Bind(forms::CheckList& list, QWidget& parent) {
             const QFont font = FixedFont(scale.LetterPixels());
             field->setFont(font);
             field->setMinimumWidth(FixedWidth(font, characters > 0 ? characters : kOwnWidth) +
-                                   scale.Em(4));
+                                   scale.Em(kMarkEm + kScrollBarEm));
             field->setMinimumHeight(HeightOf(list.VisibleLines(), font, scale));
           }};
 }

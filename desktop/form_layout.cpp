@@ -20,6 +20,7 @@ constexpr double kBetweenColumns = 0.7;
 constexpr double kBetweenLines = 0.42;
 constexpr double kBetweenBlocks = 0.75;
 constexpr double kCardMargin = 0.85;
+constexpr double kWithinCard = 0.52;
 constexpr double kFormMargin = 0.9;
 constexpr double kButtonWidth = 7;
 
@@ -273,7 +274,7 @@ QWidget* LayoutBuilder::BuildGroup(const forms::Block& block) {
   QWidget* const card = block.frame != nullptr ? place_(*block.frame, 0) : new QFrame;
   SetLook(*card, block.kind == forms::Block::Kind::kResults ? "results" : "group");
   auto* const layout = new QVBoxLayout(card);
-  Space(*layout, kCardMargin, kBetweenLines + 0.1);
+  Space(*layout, kCardMargin, kWithinCard);
   auto* const title = new QLabel(QString::fromStdString(block.title));
   title->setTextFormat(Qt::PlainText);
   SetLook(*title, "title");

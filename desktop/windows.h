@@ -12,6 +12,7 @@ namespace desktop {
 class SheetWindow : public QMdiSubWindow {
  public:
   explicit SheetWindow(FormView& view);
+  /// The user closes it; it stays until it is destroyed.
   std::function<void()> onClose;
 
  protected:
@@ -21,8 +22,11 @@ class SheetWindow : public QMdiSubWindow {
 /// The window of a tool or a dialogue.
 class OwnWindow : public QWidget {
  public:
+  /// owner: in front of which it stands.
   OwnWindow(FormView& view, QWidget& owner);
+  /// The user closes it.
   std::function<void()> onClose;
+  /// It has come to the front.
   std::function<void()> onActivate;
 
  protected:
