@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTabBar>
-#include <QWheelEvent>
 
 #include "desk.h"
 #include "desktop/theme.h"
@@ -14,13 +13,6 @@ namespace desktop {
 namespace {
 
 class Choices : public Desk {};
-
-void Wheel(QWidget& widget) {
-  const QPointF middle = widget.rect().center();
-  QWheelEvent event(middle, widget.mapToGlobal(middle), {0, 0}, {0, -120}, Qt::NoButton,
-                    Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&widget, &event);
-}
 
 TEST_F(Choices, ComboPicksByKeyAndNotByWheel) {
   auto& sheet = ShowSheet();

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QWheelEvent>
 #include <memory>
 #include <string>
 #include <vector>
@@ -60,6 +61,14 @@ struct DemoDialog : forms::Form {
   forms::Button cmdOK{*this, "cmdOK", "OK", forms::ButtonRole::kDefault};
   forms::Button cmdCancel{*this, "cmdCancel", "キャンセル", forms::ButtonRole::kCancel};
 };
+
+/// Turns the mouse wheel by a notch, downwards, over the middle of a widget.
+inline void Wheel(QWidget& widget) {
+  const QPointF middle = widget.rect().center();
+  QWheelEvent event(middle, widget.mapToGlobal(middle), {0, 0}, {0, -120}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &event);
+}
 
 /// The workbench in its main window, as the program has it.
 class Desk : public testing::Test {

@@ -197,7 +197,8 @@ TEST(SplashTest, EndsOnceAtAKeyAClickOrTheTimer) {
   const std::function<void(Splash&)> rows[] = {
       [](Splash& splash) { QTest::keyClick(&splash, Qt::Key_Return); },
       [](Splash& splash) { QTest::mouseClick(&splash, Qt::LeftButton); },
-      [](Splash& splash) { splash.close(); }, [](Splash&) { QTest::qWait(1100); }};
+      [](Splash& splash) { splash.close(); },
+      [](Splash& splash) { EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isHidden(); })); }};
   for (const auto& end : rows) {
     Splash splash(QStringLiteral("Ver.1"));
     int ends = 0;

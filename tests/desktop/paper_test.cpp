@@ -12,7 +12,6 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QWheelEvent>
 #include <csignal>
 
 #include "desk.h"
@@ -62,9 +61,7 @@ TEST_F(Paper, PreviewShowsThePageAndScrolls) {
                    75;  // frame: 1134 twips from the edge, 553 from the top
   EXPECT_GT(std::max(darkness(left, 60), darkness(left + 1, 60)), 60);
   EXPECT_LT(darkness(left - 5, 60), 10);
-  QWheelEvent wheel(QPointF(10, 10), page.mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, -120),
-                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&page, &wheel);
+  Wheel(page);
   EXPECT_EQ(bar.value(), 3 * 340);
   QTest::mouseClick(&Find<QPushButton>("cmdClose"), Qt::LeftButton);
   QTest::qWait(1);
@@ -191,6 +188,22 @@ TEST_F(Paper, PrintingIntoAFileTellsOfAFullDisk) {
   EXPECT_EQ(
       presenter_.messages,
       std::vector<std::string>{"印刷を開始できません。プリンタまたは保存先を確認してください。"});
+}
+
+TEST(DrawSurface, DrawsInTwips) {
+  QImage image(100, 100, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  {
+    QtDrawSurface surface(painter, 1.0 / 15);
+    surface.SetColor(forms::kRed);
+    surface.FilledRectangle(300, 300, 750, 600);  // pixels 20 to 50 and 20 to 40
+  }
+  painter.end();
+  EXPECT_EQ(image.pixelColor(35, 30), QColor(255, 0, 0));
+  for (const QPoint beside : {QPoint(18, 30), QPoint(52, 30), QPoint(35, 42)}) {
+    EXPECT_EQ(image.pixelColor(beside), QColor(Qt::white));
+  }
 }
 
 // The families behind the sheets have letters of exactly one or two columns, and where one has not,

@@ -7,7 +7,6 @@
 #include <QTableWidget>
 
 #include "desk.h"
-#include "desktop/paper/draw_surface.h"
 #include "desktop/theme.h"
 
 namespace desktop {
@@ -130,26 +129,6 @@ TEST_F(PlainFields, ProgressFollows) {
   dialog.prg進行.SetValue(150);
   EXPECT_EQ(bar.maximum(), 300);
   EXPECT_EQ(bar.value(), 150);
-}
-
-TEST_F(PlainFields, PictureIsPaintedInTwips) {
-  QImage image(100, 100, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  {
-    QtDrawSurface surface(painter, 1.0 / 15);
-    surface.SetColor(forms::kRed);
-    surface.FilledRectangle(300, 300, 750, 600);  // pixels 20 to 50 and 20 to 40
-    surface.SetFont("IPAGothic", 11, false);
-    // A fixed-pitch letter of 11 points is 110 twips wide, a full-width one 220.
-    EXPECT_NEAR(surface.TextWidth("Ａ"), 2 * surface.TextWidth("A"), 1);
-    EXPECT_NEAR(surface.TextWidth("A"), 110, 1);
-  }
-  painter.end();
-  EXPECT_EQ(image.pixelColor(35, 30), QColor(255, 0, 0));
-  EXPECT_EQ(image.pixelColor(18, 30), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(52, 30), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(35, 42), QColor(Qt::white));
 }
 
 // WCAG 2.1, success criterion 1.4.3: 4.5 to 1; its definition gives 21 for black on white.
