@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "common/number.h"
-#include "shell/page_recorder.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
 
@@ -53,10 +52,9 @@ class PressLossTest : public SheetTest {
   bool DiagramSays(const std::string& wanted) {
     shell::PageRecorder surface;
     Find<forms::Picture>("pic圧力").onPaint(surface);
-    return std::any_of(surface.Items().begin(), surface.Items().end(), [&](const auto& item) {
-      const auto* const text = std::get_if<shell::PageRecorder::TextItem>(&item);
-      return text != nullptr && text->text == wanted;
-    });
+    const auto texts = ItemsOf<shell::PageRecorder::TextItem>(surface);
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const auto& item) { return item.text == wanted; });
   }
 };
 
@@ -166,12 +164,11 @@ TEST_F(PressLossTest, InletShapeBringsItsRatioAndAngle) {
   for (int type = 0; type < 5; ++type) {
     SCOPED_TRACE(type);
     Find("txtInletType").RightClick();
-    const std::string number = std::to_string(type);
     shell::PageRecorder surface;
-    Find<forms::Picture>("picInlet(" + number + ")").onPaint(surface);
+    Find<forms::Picture>(Element("picInlet", type)).onPaint(surface);
     EXPECT_GT(surface.Items().size(), 3U);
-    Click("picInlet(" + number + ")");
-    EXPECT_EQ(Text("txtInletType"), number);
+    Click(Element("picInlet", type));
+    EXPECT_EQ(Text("txtInletType"), std::to_string(type));
     EXPECT_EQ(Text("txt管径比率(0)"), expected[type][0]);
     EXPECT_EQ(Text("txt円錐角度(0)"), expected[type][1]);
   }

@@ -5,7 +5,6 @@
 #include "common/number.h"
 #include "common/text.h"
 #include "sheets/list_texts.h"
-#include "shell/page_recorder.h"
 #include "shell/report.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
@@ -17,7 +16,7 @@ class PropertySheet : public SheetTest {
  protected:
   PropertySheet() { bench.Window().Run("mnuBussei"); }
 
-  std::string Value(int row) { return Text("lbl物性値(" + std::to_string(row) + ")"); }
+  std::string Value(int row) { return Text(Element("lbl物性値", row)); }
   double Number(int row) { return GroupedNumber(Value(row)); }
   void Calculate(const char* phase, const char* fluid, const std::string& pressure,
                  const std::string& celsius) {
@@ -32,10 +31,8 @@ class PropertySheet : public SheetTest {
     shell::PageRecorder page;
     EXPECT_TRUE(shell::PrintSheet(bench.Space(), page));
     Texts lines;
-    for (const auto& item : page.Items()) {
-      if (const auto* text = std::get_if<shell::PageRecorder::TextItem>(&item)) {
-        lines.push_back(text->text);
-      }
+    for (const auto& item : ItemsOf<shell::PageRecorder::TextItem>(page)) {
+      lines.push_back(item.text);
     }
     return lines;
   }

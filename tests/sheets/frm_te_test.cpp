@@ -11,7 +11,7 @@ class SensorSheetTest : public SheetTest {
 
   SensorSheetTest() { bench.Window().Run("mnuTC"); }
 
-  void ChooseKind(int kind) { Choose("optTC(" + std::to_string(kind) + ")"); }
+  void ChooseKind(int kind) { Choose(Element("optTC", kind)); }
   void EnterScale(const std::string& low, const std::string& high) {
     Type("txtScale(0)", low);
     Type("txtScale(1)", high);

@@ -148,26 +148,27 @@ TEST_F(ThermowellSheetTest, InstallationChangesCaptionsAndEmptiesItsRows) {
 // Type 316 at room temperature: 195 GPa = 19880 kgf/mm2, allowable 20 ksi = 138 MPa = 14.1 kgf/mm2
 // (ASME II-D).
 TEST_F(ThermowellSheetTest, MaterialFollowsUnitAndTemperature) {
+  const auto focus = [this](const char* name) { Find(name).Owner().SetFocus(Find(name)); };
   Type("txt温度", "20");
   Pick("cbo保護管材質", kSus316);
-  const double modulus = common::Val(Text("txtヤング率"));
+  const double modulus = Number("txtヤング率");
   EXPECT_NEAR(modulus, 19860, 60);
   EXPECT_EQ(Text("txt許容応力"), "14.1");
   Pick("cboヤング率単位", 1);
-  EXPECT_EQ(common::Val(Text("txtヤング率")), modulus);
+  EXPECT_EQ(Number("txtヤング率"), modulus);
   DblClick("txtヤング率");
-  EXPECT_NEAR(common::Val(Text("txtヤング率")), modulus * 9.80665, 5);
-  EXPECT_NEAR(common::Val(Text("txt許容応力")), 14.1, 0.01);
+  EXPECT_NEAR(Number("txtヤング率"), modulus * 9.80665, 5);
+  EXPECT_NEAR(Number("txt許容応力"), 14.1, 0.01);
 
-  Find("txt温度").Owner().SetFocus(Find("txt温度"));
+  focus("txt温度");
   Type("txt温度", "400");
   EXPECT_EQ(Text("txt許容応力"), "14.1");  // half-typed temperatures look nothing up
-  Find("txt温度").Owner().SetFocus(Find("txt密度"));
-  EXPECT_LT(common::Val(Text("txt許容応力")), 12.5);
+  focus("txt密度");
+  EXPECT_LT(Number("txt許容応力"), 12.5);
   EXPECT_EQ(TakeTexts(), Texts());
   Type("txt許容応力", "10");
-  Find("txt温度").Owner().SetFocus(Find("txt温度"));
-  Find("txt温度").Owner().SetFocus(Find("txt密度"));
+  focus("txt温度");
+  focus("txt密度");
   EXPECT_EQ(Text("txt許容応力"), "10");  // and an unchanged one nothing either
 }
 

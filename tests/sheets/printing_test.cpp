@@ -6,7 +6,6 @@
 #include "common/file.h"
 #include "common/text.h"
 #include "sheets/frm_preview.h"
-#include "shell/page_recorder.h"
 #include "shell/report.h"
 #include "shell/sheet.h"
 #include "shell/tag_commands.h"
@@ -22,15 +21,6 @@ using TextItem = PageRecorder::TextItem;
 constexpr double kFrameRight = 10943.1;
 constexpr double kFootTop = 15202.4;
 
-template <class Kind>
-std::vector<Kind> ItemsOf(const PageRecorder& page) {
-  std::vector<Kind> items;
-  for (const auto& item : page.Items()) {
-    if (const auto* const one = std::get_if<Kind>(&item)) items.push_back(*one);
-  }
-  return items;
-}
-
 double RightEnd(const TextItem& item) {
   return item.x + shell::FixedTextWidth(item.text, item.size);
 }
@@ -44,7 +34,6 @@ class PrintTest : public SheetTest {
     LoadPlant();
   }
 
-  shell::Workspace& Space() { return bench.Space(); }
   void Recall(int row) {
     Space().tags.SelectLine(row - 1);
     shell::RecallSelectedTag(Space());

@@ -18,7 +18,6 @@ class RecalculationTest : public SheetTest {
  protected:
   RecalculationTest() { LoadPlant(); }
 
-  shell::Workspace& Space() { return bench.Space(); }
   std::vector<TagRow> Rows() {
     std::vector<TagRow> rows;
     for (int row = 0; row <= shell::kMaxTags; ++row) rows.push_back(Tags().Row(row));

@@ -6,11 +6,14 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include "common/number.h"
 #include "forms/controls.h"
 #include "sheets/list_texts.h"
 #include "sheets/workbench.h"
+#include "shell/page_recorder.h"
 #include "shell/tag_commands.h"
 #include "tests/support/recording_presenter.h"
 
@@ -71,6 +74,7 @@ class SheetTest : public testing::Test {
     Tags().zephaFileName.clear();
     TakeTexts();
   }
+  shell::Workspace& Space() { return bench.Space(); }
   shell::TagStore& Tags() { return bench.Space().tags; }
   int RowOf(const std::string& tag) {
     for (int row = 1; row <= Tags().TagCount(); ++row) {
@@ -85,5 +89,15 @@ class SheetTest : public testing::Test {
 };
 
 using Texts = std::vector<std::string>;
+
+/// What has been drawn of one kind, in its order.
+template <class Kind>
+std::vector<Kind> ItemsOf(const shell::PageRecorder& page) {
+  std::vector<Kind> items;
+  for (const auto& item : page.Items()) {
+    if (const auto* const one = std::get_if<Kind>(&item)) items.push_back(*one);
+  }
+  return items;
+}
 
 }  // namespace sheets

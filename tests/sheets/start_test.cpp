@@ -1,6 +1,6 @@
 #include <filesystem>
 
-#include "shell/lifecycle.h"
+#include "shell/sheet_registry.h"
 #include "tests/sheets/sheet_test.h"
 #include "tests/support/temporary_folder.h"
 
@@ -58,6 +58,50 @@ TEST(StartWithAFile, OpensTheWantedFileInsteadOfTheLastOneOfItsKind) {
     EXPECT_EQ(bench.Forms().Find("frmDuctList") != nullptr, row.sheet == "frmCable");
     EXPECT_EQ(settings.Get("Recent", "File1"), row.recent);
     EXPECT_EQ(presenter.messages.Texts(), row.told);
+  }
+}
+
+TEST(Start, SheetsOpenWithTheUnitsChosenLast) {
+  tests::RecordingPresenter presenter;
+  shell::MemorySettings settings;
+  for (const bool keeps : {false, true}) {
+    {
+      Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
+      bench.Load();
+      bench.Space().keepsUnits = keeps;
+      shell::OpenSheet(bench.Space(), "CV");
+      forms::Form& sheet = *bench.Forms().ActiveSheet();
+      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo圧力単位")).SetText("barG");
+      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo流量単位L")).SetText("t/h");
+      bench.Forms().Unload(sheet);
+      // A unit that is not in the list any more is passed over.
+      settings.Set("Units", "frmCV", settings.Get("Units", "frmCV") + "cbo温度単位\t度\n");
+    }
+    Workbench next(presenter, ZEPHA_BUILD_DIR, settings);
+    next.Load();
+    next.Space().keepsUnits = keeps;
+    shell::OpenSheet(next.Space(), "CV");
+    const forms::Form& sheet = *next.Forms().ActiveSheet();
+    EXPECT_EQ(sheet.Find("cbo圧力単位")->Text() == "barG", keeps);
+    EXPECT_EQ(sheet.Find("cbo流量単位L")->Text() == "t/h", keeps);
+    EXPECT_EQ(sheet.Find("cbo温度単位")->Text(), "℃");
+  }
+}
+
+// Whatever stands in the settings, the program starts.
+TEST(Start, BearsDamagedSettings) {
+  for (const char* number : {"", "abc", "99999", "-3", "1e400", "2"}) {
+    SCOPED_TRACE(number);
+    shell::MemorySettings settings;
+    for (const char* key : {"WinTop", "WinLeft", "WinWidth", "WinHeight", "WinState", "DataNo"}) {
+      settings.Set("ExeScrn", key, number);
+    }
+    settings.Set("ExeScrn", "ZephaForm", "frmNone");
+    tests::RecordingPresenter presenter;
+    Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
+    bench.Start();
+    EXPECT_EQ(presenter.messages.Texts(), Texts());
+    EXPECT_EQ(bench.Space().activeSheetKind, "");
   }
 }
 

@@ -3,10 +3,8 @@
 #include "common/file.h"
 #include "shell/instrument_file.h"
 #include "shell/lifecycle.h"
-#include "shell/sheet_registry.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
-#include "tests/support/fake_platform.h"
 
 namespace sheets {
 namespace {
@@ -14,8 +12,6 @@ namespace {
 class TagListTest : public SheetTest {
  protected:
   TagListTest() { bench.Window().Run("mnuOrifice"); }
-
-  shell::TagStore& Tags() { return bench.Space().tags; }
 
   /// Water at a flow that is part of the tag number, so that tags can be told apart.
   void EnterTag(const std::string& number, const std::string& flow) {
@@ -156,92 +152,6 @@ TEST_F(TagListTest, SecondRunIsAsTheFirstWasLeft) {
   EXPECT_EQ(again.messages.Texts(),
             Texts({"ＺＥＰＨＡのデータファイル\n" + path + "\nが見つかりません。"}));
   EXPECT_EQ(third.Space().activeSheetKind, "⊿P Flow");
-}
-
-TEST(Start, SheetsOpenWithTheUnitsChosenLast) {
-  tests::RecordingPresenter presenter;
-  shell::MemorySettings settings;
-  for (const bool keeps : {false, true}) {
-    {
-      Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
-      bench.Load();
-      bench.Space().keepsUnits = keeps;
-      shell::OpenSheet(bench.Space(), "CV");
-      forms::Form& sheet = *bench.Forms().ActiveSheet();
-      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo圧力単位")).SetText("barG");
-      dynamic_cast<forms::ComboBox&>(*sheet.Find("cbo流量単位L")).SetText("t/h");
-      bench.Forms().Unload(sheet);
-      // A unit that is not in the list any more is passed over.
-      settings.Set("Units", "frmCV", settings.Get("Units", "frmCV") + "cbo温度単位\t度\n");
-    }
-    Workbench next(presenter, ZEPHA_BUILD_DIR, settings);
-    next.Load();
-    next.Space().keepsUnits = keeps;
-    shell::OpenSheet(next.Space(), "CV");
-    const forms::Form& sheet = *next.Forms().ActiveSheet();
-    EXPECT_EQ(sheet.Find("cbo圧力単位")->Text() == "barG", keeps);
-    EXPECT_EQ(sheet.Find("cbo流量単位L")->Text() == "t/h", keeps);
-    EXPECT_EQ(sheet.Find("cbo温度単位")->Text(), "℃");
-  }
-}
-
-// Whatever stands in the settings, the program starts.
-TEST(Start, BearsDamagedSettings) {
-  for (const char* number : {"", "abc", "99999", "-3", "1e400", "2"}) {
-    SCOPED_TRACE(number);
-    shell::MemorySettings settings;
-    for (const char* key : {"WinTop", "WinLeft", "WinWidth", "WinHeight", "WinState", "DataNo"}) {
-      settings.Set("ExeScrn", key, number);
-    }
-    settings.Set("ExeScrn", "ZephaForm", "frmNone");
-    tests::RecordingPresenter presenter;
-    Workbench bench(presenter, ZEPHA_BUILD_DIR, settings);
-    bench.Start();
-    EXPECT_EQ(presenter.messages.Texts(), Texts());
-    EXPECT_EQ(bench.Space().activeSheetKind, "");
-  }
-}
-
-TEST_F(SheetTest, SmallDialoguesKeepWhatTheyAreTold) {
-  bench.Window().Run("mnuCompany");
-  Type("txtCompany", "東西エンジニアリング株式会社　計装設計部第一課");
-  EXPECT_EQ(Text("txtCompany"), "東西エンジニアリング株式会社　計装設計部");
-  Click("cmdOK");
-  EXPECT_EQ(bench.Space().issuerName, "東西エンジニアリング株式会社　計装設計部");
-  EXPECT_EQ(settings.Get("user", "company"), bench.Space().issuerName);
-  bench.Window().Run("mnuSystemVersion");
-  EXPECT_EQ(Text("lblVersion"), "Ver.3.0.0");
-  Click("cmdSysInfo");
-  EXPECT_EQ(TakeTexts(), Texts({"現時点ではｼｽﾃﾑ情報を使用できません"}));
-  Click("cmdOK");
-  EXPECT_EQ(bench.Forms().Active(), nullptr);
-}
-
-TEST_F(SheetTest, UserProgramsAreStoredWithoutQuotesAndStarted) {
-  tests::FakePlatform desktop;
-  const std::string folder = testing::TempDir() + "user-programs";
-  std::filesystem::create_directories(folder);
-  Workbench own(presenter, folder, settings, &desktop);
-  own.Start();
-  TakeTexts();
-  own.Window().Run("mnuUserProgram");
-  forms::Form& form = *own.Forms().Active();
-  const auto type = [&form](const char* name, const char* text) {
-    dynamic_cast<forms::TextBox&>(*form.Find(name)).Type(text);
-  };
-  type("txtUserProTitle(0)", "電卓");
-  type("txtUser(0)", "\"calculator --big\"");
-  type("txtUser(1)", "missing");
-  form.Find("cmd登録")->Click();
-  EXPECT_EQ(own.Space().userPrograms[0].command, "calculator --big");
-  EXPECT_EQ(own.Window().Button(29)->toolTip, "電卓");
-  own.Window().Press(29);
-  EXPECT_EQ(desktop.started, Texts({"calculator", "--big"}));
-  own.Window().Press(30);
-  EXPECT_EQ(TakeTexts(), Texts({"プログラムを起動できません。\nmissing"}));
-  own.Window().Press(31);
-  EXPECT_EQ(TakeTexts(), Texts());
-  std::filesystem::remove_all(folder);
 }
 
 }  // namespace
