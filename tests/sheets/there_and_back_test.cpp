@@ -162,6 +162,25 @@ class LineThereAndBack : public ThereAndBack {
  protected:
   LineThereAndBack() : ThereAndBack("mnuPressLoss") {}
 
+  /// A straight pipe with some elbows at a common velocity.
+  void EnterLine(Random& random, const FluidState& fluid) {
+    D_ = Rounded(random.Spread(15, 500), 4);
+    length_ = Rounded(random.Spread(5, 1000), 4);
+    const double velocity = fluid.phase == kLiquid ? random.Spread(0.3, 5) : random.Spread(5, 60);
+    w_ = Area() * velocity * fluid.FlowDensity() * 3600;
+    Enter("txt配管内径", D_);
+    Enter("txtPipeLength", length_);
+    Enter("txtPipeRoughness", random.Spread(0.001, 0.3), 2);
+    Enter("txt付属品数(1)", std::to_string(random.Below(9)));
+    Enter("txtInletType", "0");
+    for (const int end : {0, 1}) {
+      Enter(Element("txt管径比率", end), "1");
+      Enter(Element("txt円錐角度", end), "0");
+    }
+    SelectFlowUnit(random, fluid.phase);
+    EnterFlow("txt流量", fluid, w_);
+  }
+  double Area() const { return M_PI / 4e6 * D_ * D_; }  // m2
   /// The integral of the density over the pressure from p to the inlet, over that of the inlet.
   static double ColumnOf(const FluidState& fluid, double p) {
     const double drop = fluid.p - p;
@@ -175,6 +194,8 @@ class LineThereAndBack : public ThereAndBack {
     }
     return integral / kParts * drop / fluid.rho;
   }
+
+  double D_ = 0, length_ = 0, w_ = 0;  // mm, m, kg/h
 };
 
 // The flow that loses the pressure shown, by the closed solution for constant temperature.
@@ -194,32 +215,17 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
       EnterDensity(random, fluid);
       EnterViscosity(random, fluid);
     }
-    const double D = Rounded(random.Spread(15, 500), 4);
-    const double length = Rounded(random.Spread(5, 1000), 4);
-    const double velocity = fluid.phase == kLiquid ? random.Spread(0.3, 5) : random.Spread(5, 60);
-    const double area = M_PI / 4e6 * D * D;
-    const double w = area * velocity * fluid.FlowDensity() * 3600;
-    Enter("txt配管内径", D);
-    Enter("txtPipeLength", length);
-    Enter("txtPipeRoughness", random.Spread(0.001, 0.3), 2);
-    Enter("txt付属品数(1)", std::to_string(random.Below(9)));
-    Enter("txtInletType", "0");
-    for (const int end : {0, 1}) {
-      Enter(Element("txt管径比率", end), "1");
-      Enter(Element("txt円錐角度", end), "0");
-    }
-    SelectFlowUnit(random, fluid.phase);
-    EnterFlow("txt流量", fluid, w);
+    EnterLine(random, fluid);
     Click("cmd計算");
-    CompareState(fluid, "txt流量", w);
+    CompareState(fluid, "txt流量", w_);
     if (Text("lblTotalLoss").empty()) continue;  // more than the pressure
     const double shown = Number("lblTotalLoss");
     const double step = HalfStep(kDecimals[pressureUnit_]);
     const double p = fluid.p - shown / kPressureUnits[pressureUnit_];
     if (shown < 20 * step || p < 0.02 * fluid.p) continue;  // no digits left
-    const double zeta = Number("lblλ") * length / D * 1000 + Number("lbl付属品ζ");
+    const double zeta = Number("lblλ") * length_ / D_ * 1000 + Number("lbl付属品ζ");
     const double found =
-        area * 3600 * std::sqrt(2 * fluid.FlowDensity() * ColumnOf(fluid, p) * kPascal / zeta);
+        Area() * 3600 * std::sqrt(2 * fluid.FlowDensity() * ColumnOf(fluid, p) * kPascal / zeta);
     // Each of 500 steps goes by the density at its start, which leaves a share of
     // ln(rho1/rho2)/1000 of the loss out. Its root goes into the flow.
     const double thinning =
@@ -230,7 +236,7 @@ TEST_F(LineThereAndBack, FlowAndLoss) {
     const double lag = std::log(thinning) / 1000;
     const double outlet = step / kPressureUnits[pressureUnit_] / ColumnOf(fluid, p) / thinning;
     const double decimals = fluid.phase == kSteam ? HalfStep(4) / fluid.rho : 0;  // of the density
-    Compare("flow", found, w, w * (outlet / 2 * 1.1 + lag / 2 * 1.1 + decimals + 5e-6));
+    Compare("flow", found, w_, w_ * (outlet / 2 * 1.1 + lag / 2 * 1.1 + decimals + 5e-6));
     Count(fluid.phase, {{"phase", fluid.phase}});
   }
   ExpectEach("phase", 3, 500);
