@@ -19,7 +19,8 @@ class QtDrawSurface : public forms::DrawSurface {
   using ColorRule = std::function<QColor(forms::Color)>;
 
   /// unitsPerTwip: painter units of one twip, 1.0 / kTwipsPerPixel for device-independent pixels,
-  /// resolution / kTwipsPerInch for a printer. rule: how a colour number looks; PaperColor unless told.
+  /// resolution / kTwipsPerInch for a printer. rule: how a colour number looks; PaperColor unless
+  /// told.
   QtDrawSurface(QPainter& painter, double unitsPerTwip, ColorRule rule = {});
   ~QtDrawSurface() override;
 
