@@ -1,6 +1,7 @@
 #include "sheets/frm_cable.h"
 
 #include "common/number.h"
+#include "common/text.h"
 #include "sheets/duct_dialogues.h"
 #include "sheets/frm_duct_list.h"
 
@@ -9,6 +10,7 @@ namespace sheets {
 namespace {
 
 using common::Format;
+using common::IsBlank;
 using common::NumberText;
 using common::Real;
 using common::Val;
@@ -21,8 +23,6 @@ constexpr const char* kSumWeightFormat = "#,##0.0";
 constexpr const char* kDuctFormat = "#,###,##0";
 constexpr const char* kShareFormat = "##0.0";
 constexpr const char* kUncalculated = "ケーブルまたはスパンが変わっています。計算してください。";
-
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
 
 /// Shows a value that is above 0; another one leaves what stands there.
 void ShowPositive(forms::Label& label, Real value, const char* format) {
