@@ -12,8 +12,8 @@ using common::At;
 using common::Format;
 using common::NumberText;
 using common::Val;
+using data::kKpaPerMmH2O;
 
-constexpr double kKpaPerMmH2O = data::kKpaPerKgfCm2 / 10000;
 constexpr const char* kListKpa = "######0.00";
 constexpr const char* kListMm = "########0";
 constexpr const char* kDetailKpa = "#,###,##0.00";
@@ -199,7 +199,7 @@ void frmIntegral::CautionGas() {
   for (int i = 0; i < kRows; ++i) {
     const std::string& text = lblDPmm[i].Text();
     if (text.empty() || IsNote(text)) continue;
-    if (Val(text) <= kSmallShare * 10000 * Process().pressureAbs) continue;
+    if (Val(text) <= kSmallShare * data::kMmH2OPerKgfCm2 * Process().pressureAbs) continue;
     lbl注意.SetForeColor(forms::kMagenta);
     lbl注意.SetText("差圧が圧力の 1 割を超える口径では、\n膨張補正がないため差圧が小さく出ます。");
     return;

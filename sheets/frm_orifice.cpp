@@ -13,10 +13,10 @@ using common::Format;
 using common::NumberText;
 using common::RoundDigits;
 using common::Val;
-using forms::Line;
 
 constexpr const char* kReynoldsFormat = "###,###,###,##0";
 constexpr const char* kExpansionUnit = "×10-6/℃";
+constexpr double kPerExpansionUnit = 1e6;
 /// Element and material that clearing the sheet selects.
 constexpr int kClearedElement = 10;
 constexpr int kClearedMaterial = 7;
@@ -211,8 +211,8 @@ bool frmOrifice::ReadInputs() {
   context_.p = process.pressureAbs;
   context_.t = process.temperatureC;
   context_.kappa = Val(txt比熱比.Text());
-  context_.aElem = Val(txt絞り部膨張率.Text()) / 1000000.0;
-  const Real aPipe = Val(txt配管線膨張率.Text()) / 1000000.0;
+  context_.aElem = Val(txt絞り部膨張率.Text()) / kPerExpansionUnit;
+  const Real aPipe = Val(txt配管線膨張率.Text()) / kPerExpansionUnit;
   context_.pipeBore20 = Val(txt配管内径.Text());
   process.pipeInnerDiameter = context_.pipeBore20;
   context_.pipeBore = flow::PipeBoreAtTemperature(context_.pipeBore20, aPipe, context_.t);

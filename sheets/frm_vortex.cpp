@@ -14,7 +14,6 @@ using common::NumberText;
 using common::RoundDigits;
 using common::Val;
 
-constexpr double kKpaPerMmH2O = data::kKpaPerKgfCm2 / 10000;
 constexpr const char* kRange = "###0.0";
 constexpr const char* kCavitation = "Cavitation";
 
@@ -141,7 +140,7 @@ void frmVortex::ShowSize(int i) {
   const flow::VortexRating& rating = common::At(chart_.ratings, i);
   lblMeterSize[i].SetText(common::At(chart_.sizes, i));
   lblRange[i].SetText(Format(rating.rangeLow, kRange) + "～" + Format(rating.rangeHigh, kRange));
-  lblDPkpa[i].SetText(Format(rating.pressureLoss * kKpaPerMmH2O, "###,##0.00"));
+  lblDPkpa[i].SetText(Format(rating.pressureLoss * data::kKpaPerMmH2O, "###,##0.00"));
   lblDPmm[i].SetText(Format(rating.pressureLoss, "###,##0"));
   lblHz[i].SetText(Format(rating.frequency, "##,##0.0"));
   lblRemarks[i].SetText(rating.cavitates ? kCavitation : "");

@@ -15,8 +15,8 @@ constexpr const char* kTableHead1 =
     "サイズ         測定範囲        圧力損失   公称周波数　 　備  考  ";
 constexpr const char* kTableHead2 =
     "                (%FS)           (kPa)       (Hz)                ";
-constexpr double kKgfPerKpa = 0.0101972;
-constexpr double kPictureGap = 200;  // twips
+constexpr double kKgfCm2PerKpa = 0.0101972;  // rounded, and meant so
+constexpr double kPictureGap = 200;          // twips
 
 /// The longest labels of this page set the column of all values.
 constexpr int kLabelBytes = 24;
@@ -78,7 +78,7 @@ std::string frmVortex::PageLine(int i) const {
                      common::PadToBytes(range.substr(middle + mark.size()), 7) +
                      right(lblDPkpa[i].Text(), 11) + right(lblHz[i].Text(), 11);
   std::string remark = lblRemarks[i].Text();
-  if (GroupedNumber(lblDPkpa[i].Text()) * kKgfPerKpa > Process().pressureAbs) {
+  if (GroupedNumber(lblDPkpa[i].Text()) * kKgfCm2PerKpa > Process().pressureAbs) {
     remark += (remark.empty() ? "" : " ") + std::string("(Excessive ⊿P)");
   }
   return line + (remark.empty() ? "" : "      " + remark);
