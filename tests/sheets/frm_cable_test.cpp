@@ -1,7 +1,5 @@
 #include "sheets/frm_cable.h"
 
-#include "common/file.h"
-#include "common/number.h"
 #include "common/text.h"
 #include "sheets/duct_dialogues.h"
 #include "shell/duct_commands.h"

@@ -1,9 +1,7 @@
 #include "sheets/frm_cv.h"
 
-#include <cmath>
 #include <sstream>
 
-#include "common/number.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
 

@@ -1,7 +1,5 @@
-#include <cmath>
 #include <cstdlib>
 #include <deque>
-#include <fstream>
 #include <map>
 #include <sstream>
 
