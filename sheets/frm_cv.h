@@ -183,13 +183,9 @@ class frmCV : public ProcessSheet,
   void DrawCharacteristic(forms::DrawSurface& surface);
 
   // Record.
-  std::vector<std::pair<int, TextBox*>> EntryColumns();
-  std::vector<std::pair<int, ComboBox*>> UnitColumns();
-  std::vector<std::pair<int, Label*>> ResultColumns();
-  void GetSelections(const shell::TagRow& record);
+  TagColumns RecordColumns();
   void GetValve(const shell::TagRow& record);
-  void GetEntries(const shell::TagRow& record);
-  void GetResults(const shell::TagRow& record);
+  void GetFindings(const shell::TagRow& record);
   int TrimRow(const std::string& size, const std::string& ratedCv) const;
 
   void PrintConditions(CalculationPage& page);

@@ -195,7 +195,6 @@ void frmOrifice::ClearResults() {
   lbl永久圧損R.SetToolTip("");
   lbl外挿.SetText("");
   Space().calcDone = false;
-  equationEdition_ = "1";
   pic断面.Redraw();
 }
 
@@ -263,7 +262,6 @@ void frmOrifice::ShowResults(const flow::SizingResult& result) {
   lbl使用下限.SetText(NumberText(100 * result.useLow));
   lbl使用上限.SetText(result.useHigh ? NumberText(100 * *result.useHigh) : "");
   lbl外挿.SetText(context_.extrapolationMark);
-  equationEdition_ = "1";
   pic断面.Redraw();
 }
 
