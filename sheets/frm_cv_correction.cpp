@@ -82,9 +82,8 @@ void frm山武微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
 frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
     : CorrectionForm(workspace, kName, "Cv計算の補正") {
   cmd補正データ.onClick = [this] { Space().forms.Show(frmCv補正データ::kName); };
-  for (forms::Label* label : {&lblFr, static_cast<forms::Label*>(&lblFrR)}) {
-    label->onDblClick = cmd補正データ.onClick;
-  }
+  lblFr.onDblClick = cmd補正データ.onClick;
+  lblFrR.onDblClick = cmd補正データ.onClick;
   // A gas has Y in the place where a liquid has its Reynolds number.
   LayOut({{lblFp, lblFpR},
           {forms::Cell::OneOf({&lblY, &lblRe}), forms::Cell::OneOf({&lblYR, &lblReR})},
@@ -95,10 +94,8 @@ frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
 void frmCv計算補正::ShowDetail(const valve::CorrectionDetail& detail) {
   constexpr double kShownWithDecimals = 99;
   const bool liquid = detail.fluidPhase == data::kLiquid;
-  for (forms::Label* label :
-       {&lblRe, static_cast<forms::Label*>(&lblReR), &lblFr, static_cast<forms::Label*>(&lblFrR)}) {
-    label->SetVisible(liquid);
-  }
+  forms::Label* const ofLiquids[] = {&lblRe, &lblReR, &lblFr, &lblFrR};
+  for (forms::Label* label : ofLiquids) label->SetVisible(liquid);
   lblYR.SetText(Shown(detail.y, kFactor));
   if (!liquid) {
     lbl説明.SetText("気体・蒸気は粘度補正を行いません。");

@@ -149,14 +149,16 @@ void frmVortex::ShowSize(int i) {
 
 /// What the list itself does not say.
 void frmVortex::CautionResults() {
-  const bool any = flow::RecommendedSize(chart_.ratings) >= 0;
   const bool noLowerLimit = std::any_of(
       chart_.ratings.begin(), chart_.ratings.end(),
       [](const flow::VortexRating& rating) { return rating.listed && rating.rangeLow == 0; });
   std::string note;
-  if (!any) note = "このメーカーに適用できるサイズはありません。";
-  if (noLowerLimit)
+  if (flow::RecommendedSize(chart_.ratings) < 0) {
+    note = "このメーカーに適用できるサイズはありません。";
+  }
+  if (noLowerLimit) {
     note = "密度が低く、測定下限を決める式がありません\n（下限 0 は目安になりません）。";
+  }
   lbl注意.SetForeColor(forms::kMagenta);
   lbl注意.SetText(note);
 }
