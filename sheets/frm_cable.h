@@ -134,12 +134,12 @@ class frmCable : public shell::Sheet {
   void ShowRowWeights(int row);
   void ShowSums(const ducts::CableLoad& sum);
   void ShowSumWeights(const ducts::CableLoad& sum);
+  void ShowClass(ducts::DuctClass duct);
   void ShowSag(const ducts::DuctCheck& check);
   void SetSagColor(forms::Color color);
   void RedrawDuct();
   void ClearResults();
   void ShowDrawing(const std::optional<ducts::Real>& fill);
-  void ClearRow(int row);
   void ClearRowResults(int row);
   void ClearRowWeights(int row);
 
@@ -151,5 +151,8 @@ class frmCable : public shell::Sheet {
   int editedRow_ = 0;
   DuctPicture drawing_;
 };
+
+/// The sheet if it is open; null otherwise.
+frmCable* OpenCableSheet(const shell::Workspace& workspace);
 
 }  // namespace sheets
