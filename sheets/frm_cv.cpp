@@ -3,7 +3,9 @@
 #include "common/number.h"
 #include "data/material_table.h"
 #include "data/units.h"
+#include "sheets/frm_cv_set.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_rating.h"
 #include "sheets/list_texts.h"
 #include "valve/opening.h"
 
@@ -303,7 +305,7 @@ void frmCV::txt弁口径_DblClick() {
     User().Show("指定の弁サイズはﾃﾞｰﾀﾍﾞｰｽに登録されていません。", "調節弁口径");
     return;
   }
-  Space().forms.Show(kRatingForm);
+  Space().forms.Show(frmRating::kName);
 }
 
 void frmCV::TakeRating(const std::string& rating, const std::string& bore) {

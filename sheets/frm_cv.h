@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "sheets/calculation_page.h"
-#include "sheets/frm_cv_set.h"
 #include "sheets/process_sheet.h"
 #include "sheets/valve_targets.h"
 #include "valve/exit_velocity.h"
