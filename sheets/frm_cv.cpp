@@ -373,16 +373,17 @@ void frmCV::ClearSizingResults() {
 
 void frmCV::DeclareLayout() {
   for (Label* label : {&lblFlash, &lblCritical, &lbl注意}) label->SetForeColor(forms::kMagenta);
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
-          forms::Stretched(forms::Column({ProcessBlock(), CvBlock(), forms::Space()}), 6),
-          forms::Stretched(forms::Column({ValveBlock(), PipeBlock(), forms::Space()}), 7),
-          forms::Stretched(SizingBlock(), 6),
-      })),
-      forms::Buttons({cmdAllData消去, cmdCvData消去, cmdSizingData消去, {}, cmdCv計算, cmdSizing}),
-  }));
+  SetLayout(SheetBlock(
+      lblタイトル,
+      forms::Column({
+          forms::Stretched(forms::Row({
+              forms::Stretched(forms::Column({ProcessBlock(), CvBlock(), forms::Space()}), 6),
+              forms::Stretched(forms::Column({ValveBlock(), PipeBlock(), forms::Space()}), 7),
+              forms::Stretched(SizingBlock(), 6),
+          })),
+          forms::Buttons(
+              {cmdAllData消去, cmdCvData消去, cmdSizingData消去, {}, cmdCv計算, cmdSizing}),
+      })));
 }
 
 forms::Block frmCV::ProcessBlock() {
