@@ -299,9 +299,9 @@ void frmIntegral::GetDetail(const shell::TagRow& record) {
     ColourBore(i, !note);
   }
   CautionGas();
-  detailDP_ = sheets::At(record, kPlainDPColumn);
-  detailLoss_ = sheets::At(record, kPlainLossColumn);
-  const int bore = common::IntIndex(Val(sheets::At(record, kBoreColumn)));
+  detailDP_ = At(record, kPlainDPColumn);
+  detailLoss_ = At(record, kPlainLossColumn);
+  const int bore = common::IntIndex(Val(At(record, kBoreColumn)));
   {
     const Quiet quiet(*this);
     cboOrificeNo.SetIndex(bore);
@@ -313,8 +313,8 @@ void frmIntegral::GetDetail(const shell::TagRow& record) {
 
 /// The detail is that of the bore which was picked behind the calculation.
 std::vector<shell::Sheet::Calculation> frmIntegral::CalculationsOf(const shell::TagRow& record) {
-  if (sheets::At(record, kFirstBoreColumn).empty()) return {};
-  const int bore = common::IntIndex(Val(sheets::At(record, kBoreColumn)));
+  if (At(record, kFirstBoreColumn).empty()) return {};
+  const int bore = common::IntIndex(Val(At(record, kBoreColumn)));
   return {{"", [this, bore] {
              if (!Calculate(cmd計算)) return false;
              if (bore >= 0) cboOrificeNo.Pick(bore);
