@@ -18,6 +18,7 @@ inline constexpr double kPsiPerKgfCm2 = 14.22;        // psi
 inline constexpr double kMmH2OPerKgfCm2 = 10000;      // mmH2O
 inline constexpr double kMolarVolume = 22.415;        // Nm3/kmol
 inline constexpr double kNormalAirDensity = 1.2928;   // kg/Nm3
+inline constexpr double kKpaPerMmH2O = kKpaPerKgfCm2 / kMmH2OPerKgfCm2;
 
 /// Index of kg/Nm3 in the list of gas densities.
 inline constexpr int kNormalDensityUnit = 0;

@@ -23,6 +23,18 @@ constexpr int kTicksY = 5;
 
 void SetChartFont(forms::DrawSurface& surface) { surface.SetFont("IPAGothic", kFontSize); }
 
+/// Steps of 1, 2 or 5 times a power of ten that divide a range into at most `most` parts. The range
+/// is above 0.
+double TickStep(double range, int most) {
+  double power = 1;
+  while (power * most > range && power > 1e-9) power /= 10;
+  while (power * most * 10 <= range && power < 1e12) power *= 10;
+  for (const double factor : {1.0, 2.0, 5.0}) {
+    if (power * factor * most >= range) return power * factor;
+  }
+  return power * 10;
+}
+
 /// Ticks from the first multiple of the step within an axis on.
 std::vector<double> Ticks(const Chart::Axis& axis, int most) {
   std::vector<double> ticks;
@@ -39,16 +51,6 @@ std::vector<double> Ticks(const Chart::Axis& axis, int most) {
 std::string TickText(double tick) { return common::NumberText(common::RoundDigits(tick, 9)); }
 
 }  // namespace
-
-double TickStep(double range, int most) {
-  double power = 1;
-  while (power * most > range && power > 1e-9) power /= 10;
-  while (power * most * 10 <= range && power < 1e12) power *= 10;
-  for (const double factor : {1.0, 2.0, 5.0}) {
-    if (power * factor * most >= range) return power * factor;
-  }
-  return power * 10;
-}
 
 void DrawEmptyChart(forms::DrawSurface& surface, double width, double height,
                     const std::string& text) {
@@ -177,12 +179,11 @@ void Chart::Strip(double from, double to, forms::Color color) {
 }
 
 void Chart::Dot(double x, double y, forms::Color color) {
-  std::vector<std::pair<double, double>> diamond = {{X(x) - kDotRadius, Y(y)},
-                                                    {X(x), Y(y) - kDotRadius},
-                                                    {X(x) + kDotRadius, Y(y)},
-                                                    {X(x), Y(y) + kDotRadius}};
   surface_.SetColor(color);
-  surface_.FilledPolygon(diamond);
+  surface_.FilledPolygon({{X(x) - kDotRadius, Y(y)},
+                          {X(x), Y(y) - kDotRadius},
+                          {X(x) + kDotRadius, Y(y)},
+                          {X(x), Y(y) + kDotRadius}});
 }
 
 void Chart::Note(double x, double y, const std::string& text, forms::Color color, Side side) {

@@ -10,6 +10,7 @@ namespace sheets {
 
 /// A diagram with labelled axes, on the surface that screen and paper share. What lies outside the
 /// axes is cut off. Bands are hatched, because the desktop keeps every colour dark enough to read.
+/// Places and levels are values on the axes.
 class Chart {
  public:
   struct Axis {
@@ -57,10 +58,6 @@ class Chart {
   double bottom_;
   double legendAt_;
 };
-
-/// Steps of 1, 2 or 5 times a power of ten that divide a range into at most `most` parts. The range
-/// is above 0.
-double TickStep(double range, int most);
 
 /// Says in the middle of an empty picture when there will be something to see.
 void DrawEmptyChart(forms::DrawSurface& surface, double width, double height,

@@ -8,10 +8,6 @@ namespace {
 
 using ducts::CableGroup;
 
-frmCable* SheetOf(const shell::Workspace& workspace) {
-  return dynamic_cast<frmCable*>(workspace.forms.Find(frmCable::kName));
-}
-
 /// Fills a list; one that has a single entry needs no choice.
 void Fill(forms::ComboBox& box, const std::vector<std::string>& items) {
   box.SetItems(items);
@@ -34,9 +30,7 @@ frmDataInput::frmDataInput(shell::Workspace& workspace)
     box->onClick = [this] { LookUp(); };
     box->onChange = box->onClick;
   }
-  cmdErase.onClick = [this] {
-    Leave({{CableGroup::kControl, -1, -1, -1}, {}, {}, {}, {}, {}, {}});
-  };
+  cmdErase.onClick = [this] { Leave({}); };
   cmdOK.onClick = [this] {
     Leave({Choice(), cboCable.Text(), cbo芯数.Text(), cboSize.Text(), txtCableDia.Text(),
            txtUnitWeight.Text(), txt本数.Text()});
@@ -60,11 +54,9 @@ void frmDataInput::DeclareLayout() {
   }));
 }
 
-frmCable* frmDataInput::Sheet() const { return SheetOf(workspace_); }
-
 void frmDataInput::Load() {
   const Quiet quiet(*this);
-  const frmCable* const sheet = Sheet();
+  const frmCable* const sheet = OpenCableSheet(workspace_);
   ShowRow(sheet == nullptr ? CableEntry() : sheet->Cable(sheet->EditedRow()));
   SetFocus(cboCable);
 }
@@ -138,7 +130,8 @@ void frmDataInput::LookUp() {
 }
 
 void frmDataInput::Leave(const CableEntry& entry) {
-  if (frmCable* const sheet = Sheet()) sheet->SetCable(sheet->EditedRow(), entry);
+  if (frmCable* const sheet = OpenCableSheet(workspace_))
+    sheet->SetCable(sheet->EditedRow(), entry);
   workspace_.forms.Unload(*this);
 }
 
@@ -159,8 +152,6 @@ frmSetDuctSize::frmSetDuctSize(shell::Workspace& workspace)
   }));
 }
 
-frmCable* frmSetDuctSize::Sheet() const { return SheetOf(workspace_); }
-
 std::array<frmSetDuctSize::Dimension, 4> frmSetDuctSize::Dimensions(const frmCable& sheet) {
   return {{{&lstWidth, &sheet.txtWidth},
            {&lstHeight, &sheet.txtHeight},
@@ -169,14 +160,14 @@ std::array<frmSetDuctSize::Dimension, 4> frmSetDuctSize::Dimensions(const frmCab
 }
 
 void frmSetDuctSize::Load() {
-  const frmCable* const sheet = Sheet();
+  const frmCable* const sheet = OpenCableSheet(workspace_);
   if (sheet == nullptr) return;
   for (const auto& [list, box] : Dimensions(*sheet)) list->SetIndex(list->IndexOf(box->Text()));
 }
 
 /// A dimension without a choice stays as it is.
 void frmSetDuctSize::cmdOK_Click() {
-  frmCable* const sheet = Sheet();
+  frmCable* const sheet = OpenCableSheet(workspace_);
   if (sheet != nullptr) {
     std::array<std::string, 4> size;
     auto text = size.begin();
@@ -191,7 +182,7 @@ void frmSetDuctSize::cmdOK_Click() {
 frmDuctDraw::frmDuctDraw(shell::Workspace& workspace)
     : Form(kName, "ケーブルダクト断面図", forms::FormRole::kTool) {
   picDuct.onPaint = [this, &workspace](forms::DrawSurface& surface) {
-    const frmCable* const sheet = SheetOf(workspace);
+    const frmCable* const sheet = OpenCableSheet(workspace);
     if (sheet != nullptr) sheet->Drawing().Draw(surface, picDuct.Width(), picDuct.Height(), true);
   };
   cmdReturn.onClick = [this, &workspace] { workspace.forms.Unload(*this); };

@@ -38,7 +38,6 @@ class frmDataInput : public forms::Form {
   void Load() override;
 
  private:
-  frmCable* Sheet() const;
   ducts::CableChoice Choice() const;
   void DeclareLayout();
   void ShowRow(const CableEntry& entry);
@@ -75,7 +74,6 @@ class frmSetDuctSize : public forms::Form {
   };
   /// Lists and boxes in the order of SetSize.
   std::array<Dimension, 4> Dimensions(const frmCable& sheet);
-  frmCable* Sheet() const;
   void cmdOK_Click();
 
   shell::Workspace& workspace_;

@@ -97,7 +97,8 @@ void DrawFill(forms::DrawSurface& surface, double left, double top, double width
   surface.Rectangle(left, top, left + width, top + height);
   const double limit = top + height * (1 - ducts::kFillLimit);
   surface.DashedLine(left - width / 2, limit, left + width * 1.5, limit);
-  surface.Text(left + width * 1.6, limit - surface.TextHeight() / 2, "30%");
+  surface.Text(left + width * 1.6, limit - surface.TextHeight() / 2,
+               common::NumberText(100 * ducts::kFillLimit) + "%");
   CentredText(surface, left + width / 2, top + height + 60,
               fill ? common::Format(*fill, "##0.0") + "%" : "");
 }

@@ -10,6 +10,7 @@
 
 #include "common/number.h"
 #include "common/real.h"
+#include "shell/print_surface.h"
 
 namespace sheets {
 
@@ -18,17 +19,21 @@ namespace {
 using Shape = ElementSection::Shape;
 using Points = std::vector<std::pair<double, double>>;
 
-constexpr const char* kFont = "ＭＳ ゴシック";
 constexpr double kLetterSize = 9;          // points
 constexpr forms::Color kWall = 0xA8A8A8;   // pipe
 constexpr forms::Color kMetal = 0x78640B;  // element
 constexpr double kMargin = 60;             // twips
 constexpr double kWallShare = 0.07;        // pipe wall, share of D
+constexpr double kThinnest = 40;           // plate that can still be seen, twips
 constexpr double kArrow = 75;              // twips
 constexpr double kTapWidth = 70;           // twips
 constexpr double kTextRoom = 1450;         // twips for a vertical dimension with its number
 constexpr double kThickest = 10;           // plate in D; a longer one leaves no room for the pipe
+/// Outside of the pipe wall, radius in D.
+constexpr double kPipeOutside = 0.5 + kWallShare;
 constexpr double kQuarter = std::numbers::pi / 2;
+
+double Radians(double degrees) { return degrees * kQuarter / 90; }
 
 std::string Number(double millimetres) {
   return common::NumberText(common::RoundDigits(millimetres, 2));
@@ -48,10 +53,9 @@ struct Outline {
 };
 
 Outline Plate(double thickness, double beta) {
-  constexpr double kHeld = 0.5 + kWallShare;  // between the flanges
   Outline plate;
   plate.inside = {{0, beta / 2}, {thickness, beta / 2}};
-  plate.outside = {{thickness, kHeld}, {0, kHeld}};
+  plate.outside = {{thickness, kPipeOutside}, {0, kPipeOutside}};  // held between the flanges
   plate.boreAt = thickness;
   plate.end = thickness;
   plate.tapDown = thickness;
@@ -114,8 +118,8 @@ Outline IsaNozzle(double beta) {
   nozzle.outside = {{nozzle.end, outer},
                     {std::max(0.28 * beta, kFlange), std::min(outer + 0.03, 0.5)},
                     {kFlange, 0.5},
-                    {kFlange, 0.5 + kWallShare},
-                    {0, 0.5 + kWallShare}};
+                    {kFlange, kPipeOutside},
+                    {0, kPipeOutside}};
   nozzle.boreAt = nozzle.end;
   nozzle.tapDown = kFlange;
   return nozzle;
@@ -143,8 +147,8 @@ Outline LongRadiusNozzle(double beta) {
   CutAtPipe(back);
   nozzle.outside.insert(nozzle.outside.end(), back.begin(), back.end());
   nozzle.outside.emplace_back(kFlange, 0.5);
-  nozzle.outside.emplace_back(kFlange, 0.5 + kWallShare);
-  nozzle.outside.emplace_back(0, 0.5 + kWallShare);
+  nozzle.outside.emplace_back(kFlange, kPipeOutside);
+  nozzle.outside.emplace_back(0, kPipeOutside);
   nozzle.boreAt = nozzle.end;
   nozzle.tapUp = -1;
   nozzle.tapDown = 0.5;
@@ -155,8 +159,8 @@ Outline LongRadiusNozzle(double beta) {
 void FillUpToPipe(Outline& outline) { outline.outside = {{outline.end, 0.5}, {0, 0.5}}; }
 
 Outline VenturiTube(double beta) {
-  const double convergent = (1 - beta) / 2 / std::tan(10.5 * kQuarter / 90);
-  const double divergent = (1 - beta) / 2 / std::tan(7.5 * kQuarter / 90);
+  const double convergent = (1 - beta) / 2 / std::tan(Radians(10.5));
+  const double divergent = (1 - beta) / 2 / std::tan(Radians(7.5));
   Outline tube;
   tube.end = convergent + beta + divergent;
   tube.inside = {{0, 0.5}, {convergent, beta / 2}, {convergent + beta, beta / 2}, {tube.end, 0.5}};
@@ -170,7 +174,7 @@ Outline VenturiTube(double beta) {
 
 Outline VenturiNozzle(double beta) {
   const double throat = 0.3041 * beta + 0.75 * beta;
-  const double divergent = (1 - beta) / 2 / std::tan(10 * kQuarter / 90);
+  const double divergent = (1 - beta) / 2 / std::tan(Radians(10));
   Outline nozzle;
   nozzle.inside = IsaInlet(beta);
   nozzle.inside.emplace_back(throat, beta / 2);
@@ -219,7 +223,7 @@ class Drawing {
  public:
   Drawing(const ElementSection& section, forms::DrawSurface& surface, double width, double height)
       : section_(section), surface_(surface), width_(width), height_(height) {
-    surface_.SetFont(kFont, kLetterSize);
+    surface_.SetFont(shell::kGothic, kLetterSize);
     surface_.SetLineWidth(1);
   }
 
@@ -240,6 +244,7 @@ class Drawing {
   }
 
  private:
+  double Beta() const { return section_.bore / section_.pipeBore; }
   double X(double inD) const { return x0_ + inD * pipe_; }
   double Above(double radius) const { return axis_ - radius * pipe_; }
   double Below(double radius) const { return axis_ + radius * pipe_; }
@@ -348,13 +353,10 @@ class Drawing {
         below.emplace_back(X(x), Below(r));
       }
     }
-    // Thin plates stay visible.
-    constexpr double kLeast = 40;
-    if (outline_.end * pipe_ < kLeast) {
-      surface_.FilledRectangle(X(0), Above(outline_.outside.front().second), X(0) + kLeast,
-                               Above(section_.bore / section_.pipeBore / 2));
-      surface_.FilledRectangle(X(0), Below(section_.bore / section_.pipeBore / 2), X(0) + kLeast,
-                               Below(outline_.outside.front().second));
+    if (outline_.end * pipe_ < kThinnest) {
+      const double outer = outline_.outside.front().second;
+      surface_.FilledRectangle(X(0), Above(outer), X(0) + kThinnest, Above(Beta() / 2));
+      surface_.FilledRectangle(X(0), Below(Beta() / 2), X(0) + kThinnest, Below(outer));
       return;
     }
     surface_.FilledPolygon(below);
@@ -380,7 +382,7 @@ class Drawing {
   }
 
   void DrawTaps() {
-    const double outer = Above(0.5 + kWallShare);
+    const double outer = Above(kPipeOutside);
     const double end = outer - 70;
     const auto tube = [&](double tap, int side) {
       const auto [left, right] = HoleAt(tap, side);
@@ -421,7 +423,7 @@ class Drawing {
 
   void DrawBore() {
     surface_.SetColor(forms::kBlack);
-    const double radius = section_.bore / section_.pipeBore / 2;
+    const double radius = Beta() / 2;
     double x = X(outline_.boreAt);
     if (!outline_.tapInBore) {
       x = std::max(X(outline_.end) + 260,
@@ -434,10 +436,10 @@ class Drawing {
   }
 
   void DrawThickness() {
-    const double y = Below(0.5 + kWallShare) + surface_.TextHeight() / 2 + 50;
-    const double end = std::max(X(outline_.end), X(0) + 40);
+    const double y = Below(kPipeOutside) + surface_.TextHeight() / 2 + 50;
+    const double end = std::max(X(outline_.end), X(0) + kThinnest);
     surface_.SetColor(forms::kBlack);
-    for (const double x : {X(0), end}) surface_.Line(x, Below(0.5 + kWallShare) + 20, x, y + 50);
+    for (const double x : {X(0), end}) surface_.Line(x, Below(kPipeOutside) + 20, x, y + 50);
     DimensionAcross(X(0), end, y, "t " + Number(section_.thickness), 1);
   }
 
@@ -445,15 +447,14 @@ class Drawing {
     if (section_.radius <= 0) return;
     surface_.SetColor(forms::kBlack);
     const std::string text = "r " + Number(section_.radius);
-    const double beta = section_.bore / section_.pipeBore;
-    const double edge = std::min(section_.radius / section_.pipeBore, (1 - beta) / 2);
+    const double edge = std::min(section_.radius / section_.pipeBore, (1 - Beta()) / 2);
     // From the middle of the arc, square to it, out into the flow and below the pipe.
-    const double share = 1 - std::cos(kQuarter / 2);
+    const double share = 1 - std::cos(Radians(45));
     const double x = X(edge * share);
-    const double y = Below(beta / 2 + edge * share);
+    const double y = Below(Beta() / 2 + edge * share);
     const double reach = 0.12 * pipe_;
     surface_.Line(x - reach, y - reach, x, y);
-    Arrow(x, y, std::cos(kQuarter / 2), std::cos(kQuarter / 2));
+    Arrow(x, y, std::cos(Radians(45)), std::sin(Radians(45)));
     surface_.Text(x - reach - surface_.TextWidth(text) - 30, y - reach - surface_.TextHeight() / 2,
                   text);
   }

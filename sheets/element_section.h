@@ -32,6 +32,7 @@ struct ElementSection {
   bool downstreamFromUpstreamFace = false;
 };
 
+/// Shape in which an element is drawn; orifice plates of all taps have one.
 ElementSection::Shape ShapeOf(flow::ElementType type);
 
 /// Draws the section on width by height twips (at least 6000 by 1500): pipe, element and taps to

@@ -1,6 +1,7 @@
 #include "sheets/frm_cable.h"
 
 #include "common/number.h"
+#include "common/text.h"
 #include "sheets/duct_dialogues.h"
 #include "sheets/frm_duct_list.h"
 
@@ -9,20 +10,16 @@ namespace sheets {
 namespace {
 
 using common::Format;
+using common::IsBlank;
 using common::NumberText;
 using common::Real;
 using common::Val;
 using forms::Cell;
 
-constexpr const char* kAreaFormat = "###,##0";
-constexpr const char* kWeightFormat = "###,##0.0";
-constexpr const char* kSumAreaFormat = "#,##0";
-constexpr const char* kSumWeightFormat = "#,##0.0";
-constexpr const char* kDuctFormat = "#,###,##0";
-constexpr const char* kShareFormat = "##0.0";
+constexpr const char* kWhole = "#,##0";
+constexpr const char* kTenths = "#,##0.0";
+constexpr const char* kUngroupedTenths = "##0.0";
 constexpr const char* kUncalculated = "ケーブルまたはスパンが変わっています。計算してください。";
-
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
 
 /// Shows a value that is above 0; another one leaves what stands there.
 void ShowPositive(forms::Label& label, Real value, const char* format) {
@@ -30,6 +27,10 @@ void ShowPositive(forms::Label& label, Real value, const char* format) {
 }
 
 }  // namespace
+
+frmCable* OpenCableSheet(const shell::Workspace& workspace) {
+  return dynamic_cast<frmCable*>(workspace.forms.Find(frmCable::kName));
+}
 
 frmCable::frmCable(shell::Workspace& workspace)
     : Sheet(workspace, kKind, "ケーブルダクトサイジング") {
@@ -116,10 +117,6 @@ void frmCable::ClearRowWeights(int row) {
   lblTotalWeight[row].SetText("");
 }
 
-void frmCable::ClearRow(int row) {
-  SetCable(row, CableEntry{{ducts::CableGroup::kControl, -1, -1, -1}, {}, {}, {}, {}, {}, {}});
-}
-
 void frmCable::SetSize(const std::array<std::string, 4>& size) {
   {
     const Quiet quiet(*this);
@@ -133,7 +130,7 @@ void frmCable::SetSize(const std::array<std::string, 4>& size) {
 
 void frmCable::cmdDuct初期化_Click() {
   const Quiet quiet(*this);
-  for (int row = 0; row < kRows; ++row) ClearRow(row);
+  for (int row = 0; row < kRows; ++row) SetCable(row, {});
   for (TextBox* box : {&txtTagNo, &txtWidth, &txtHeight, &txt折込, &txtThickness}) {
     box->SetText("");
   }
@@ -190,24 +187,24 @@ ducts::DuctSection frmCable::Section() const {
 }
 
 void frmCable::ShowRow(int row) {
-  ShowPositive(lblTotalArea[row], LoadOf(row).area, kAreaFormat);
+  ShowPositive(lblTotalArea[row], LoadOf(row).area, kWhole);
   ShowRowWeights(row);
 }
 
 void frmCable::ShowRowWeights(int row) {
   const ducts::CableLoad load = LoadOf(row);
-  ShowPositive(lblWeight1[row], load.unitWeight, kWeightFormat);
-  ShowPositive(lblTotalWeight[row], load.weight, kWeightFormat);
+  ShowPositive(lblWeight1[row], load.unitWeight, kTenths);
+  ShowPositive(lblTotalWeight[row], load.weight, kTenths);
 }
 
 void frmCable::ShowSums(const ducts::CableLoad& sum) {
-  lblSumArea.SetText(Format(sum.area, kSumAreaFormat));
+  lblSumArea.SetText(Format(sum.area, kWhole));
   ShowSumWeights(sum);
 }
 
 void frmCable::ShowSumWeights(const ducts::CableLoad& sum) {
-  lblUnitWeightSub.SetText(Format(sum.unitWeight, kSumWeightFormat));
-  lblSumWeight.SetText(Format(sum.weight, kSumWeightFormat));
+  lblUnitWeightSub.SetText(Format(sum.unitWeight, kTenths));
+  lblSumWeight.SetText(Format(sum.weight, kTenths));
 }
 
 void frmCable::cmd計算_Click() {
@@ -232,16 +229,20 @@ void frmCable::Evaluate() {
   const ducts::DuctCheck check =
       ducts::CheckDuct(Section(), sum, Val(txtSpan.Text()), Val(txt作業員.Text()));
   ShowSums(sum);
-  lbl区分.SetText(check.duct == ducts::DuctClass::kSeparate ? "（セパレート型)" : "");
-  lblDuctArea.SetText(Format(check.clearArea, kDuctFormat));
-  lbl占積率.SetText(check.fill ? Format(*check.fill, kShareFormat) : "");
-  lblDuctWeight.SetText(Format(check.ductWeight, kDuctFormat));
+  ShowClass(check.duct);
+  lblDuctArea.SetText(Format(check.clearArea, kWhole));
+  lbl占積率.SetText(check.fill ? Format(*check.fill, kUngroupedTenths) : "");
+  lblDuctWeight.SetText(Format(check.ductWeight, kWhole));
   ShowSag(check);
   ShowDrawing(check.fill);
 }
 
+void frmCable::ShowClass(ducts::DuctClass duct) {
+  lbl区分.SetText(duct == ducts::DuctClass::kSeparate ? "（セパレート型)" : "");
+}
+
 void frmCable::ShowSag(const ducts::DuctCheck& check) {
-  lbl撓み.SetText(check.sag ? Format(*check.sag, kShareFormat) : "");
+  lbl撓み.SetText(check.sag ? Format(*check.sag, kUngroupedTenths) : "");
   SetSagColor(check.sagsTooMuch ? forms::kRed : forms::kBlack);
 }
 

@@ -93,8 +93,7 @@ class frmCable : public shell::Sheet {
   shell::DuctRow Record();
   void Show(const shell::DuctRow& record);
 
-  /// Opens the editor of a cable row.
-  void EditRow(int row);
+  /// The row whose editor is open.
   int EditedRow() const { return editedRow_; }
   CableEntry Cable(int row) const;
   /// Puts a cable into a row, whose results go.
@@ -105,6 +104,7 @@ class frmCable : public shell::Sheet {
 
   const DuctPicture& Drawing() const { return drawing_; }
 
+  /// Prints the cables and the duct as they stand on the sheet.
   void PrintCableList(shell::PrintSurface& target) const;
 
  private:
@@ -117,6 +117,8 @@ class frmCable : public shell::Sheet {
   forms::Block SizeBlock();
   forms::Block ResultBlock();
 
+  /// Opens the editor of a cable row.
+  void EditRow(int row);
   void cmdDuct初期化_Click();
   void cmd計算_Click();
   /// Checks the duct in the boxes with the cables in the rows; also while they are typed.
@@ -134,12 +136,12 @@ class frmCable : public shell::Sheet {
   void ShowRowWeights(int row);
   void ShowSums(const ducts::CableLoad& sum);
   void ShowSumWeights(const ducts::CableLoad& sum);
+  void ShowClass(ducts::DuctClass duct);
   void ShowSag(const ducts::DuctCheck& check);
   void SetSagColor(forms::Color color);
   void RedrawDuct();
   void ClearResults();
   void ShowDrawing(const std::optional<ducts::Real>& fill);
-  void ClearRow(int row);
   void ClearRowResults(int row);
   void ClearRowWeights(int row);
 
@@ -151,5 +153,8 @@ class frmCable : public shell::Sheet {
   int editedRow_ = 0;
   DuctPicture drawing_;
 };
+
+/// The sheet if it is open; null otherwise.
+frmCable* OpenCableSheet(const shell::Workspace& workspace);
 
 }  // namespace sheets

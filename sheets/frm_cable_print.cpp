@@ -24,6 +24,7 @@ constexpr TableColumn kColumns[] = {{"    種 類", "", 16},        {"    線芯
                                     {"  断面積", "(mm2)", 10},    {"  重 量", "(kg)", 10}};
 constexpr int kAreaColumn = 6;
 constexpr int kWeightColumn = 7;
+constexpr int kLabelBytes = 18;
 
 /// A line of the table: the name to the left, all else to the right. A text that is too long for
 /// its column is cut.
@@ -40,7 +41,6 @@ void PrintRow(CalculationPage& page, const std::array<std::string, std::size(kCo
 
 void PrintValue(CalculationPage& page, const std::string& label, const std::string& value,
                 const std::string& unit) {
-  constexpr int kLabelBytes = 18;
   constexpr int kValueBytes = 10;
   page.Text(PadToBytes(label, kLabelBytes) + PadLeftToBytes(value, kValueBytes) + unit);
 }
@@ -50,7 +50,7 @@ void PrintValue(CalculationPage& page, const std::string& label, const std::stri
 void frmCable::PrintCableList(shell::PrintSurface& target) const {
   CalculationPage page(target);
   page.Title("ＣＡＢＬＥ－ＤＵＣＴ　ＳＩＺＩＮＧ ＳＨＥＥＴ");
-  page.Text(PadToBytes("エリア", 18) + txtTagNo.Text());
+  page.Text(PadToBytes("エリア", kLabelBytes) + txtTagNo.Text());
   page.Section("ケーブルの積算");
   PrintValue(page, "ダクト支持スパン", txtSpan.Text(), "　m");
   PrintCables(page);

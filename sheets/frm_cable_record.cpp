@@ -62,8 +62,7 @@ void frmCable::ShowStoredResults(const shell::DuctRow& record) {
   for (int row = 0; row < kRows; ++row) ClearRowWeights(row);
   for (const int row : CountedRows()) ShowRowWeights(row);
   ShowSumWeights(TotalLoad());
-  const bool separate = Section().Class() == ducts::DuctClass::kSeparate;
-  lbl区分.SetText(separate ? "（セパレート型)" : "");
+  ShowClass(Section().Class());
   const std::string& fill = record[shell::kDuctFill];
   ShowDrawing(fill.empty() ? std::optional<common::Real>() : Val(fill));
 }

@@ -3,7 +3,9 @@
 #include "common/number.h"
 #include "data/material_table.h"
 #include "data/units.h"
+#include "sheets/frm_cv_set.h"
 #include "sheets/frm_pipe_dia.h"
+#include "sheets/frm_rating.h"
 #include "sheets/list_texts.h"
 #include "valve/opening.h"
 
@@ -34,8 +36,6 @@ const HelpLines kNHelp = {{"1.0", "流路1つ: アングル弁、ボール弁"},
                           {"1.4", "流路2つ: グローブ弁(標準)、バタフライ弁"},
                           {"2.2", "流路約5つ: ケージ弁"}};
 
-constexpr const char* kOpensList = "ダブルクリックで代表値の一覧を開きます。";
-
 /// Mass of a pipe wall by area, kg/m2, of density kg/m3 and thickness mm.
 Real WallWeight(Real density, Real thickness) {
   return common::RoundDigits(density * thickness / 1000, 1);
@@ -44,14 +44,12 @@ Real WallWeight(Real density, Real thickness) {
 }  // namespace
 
 frmCV::frmCV(shell::Workspace& workspace) : ProcessSheet(workspace, kKind, "Control Valve Sizing") {
-  OptionalFields fields;
-  fields.deviationLabel = &lbl偏差係数;
-  fields.deviation = &txt偏差係数;
-  fields.kappaLabel = &lbl比熱比;
-  fields.kappa = &txt比熱比;
-  fields.vapour = &vapour;
-  fields.critical = &critical;
-  UseFields(fields);
+  UseFields({.deviationLabel = &lbl偏差係数,
+             .deviation = &txt偏差係数,
+             .kappaLabel = &lbl比熱比,
+             .kappa = &txt比熱比,
+             .vapour = &vapour,
+             .critical = &critical});
   FollowMaterials({&cbo配管材質});
   BindHandlers();
   BindValveHandlers();
@@ -127,7 +125,7 @@ void frmCV::BindHelpList(Label& label, TextBox& box, forms::ListBox& list, const
   label.onClick = [this, &box, &list] { OpenHelpList(box, list); };
   label.SetToolTip("クリックで代表値の一覧を開きます。");
   box.onDblClick = label.onClick;
-  box.SetToolTip(kOpensList);
+  box.SetToolTip("ダブルクリックで代表値の一覧を開きます。");
   // The list itself may take the focus from the field without being closed.
   box.onLostFocus = [this, &list] {
     if (Focused() != &list) CloseHelpList(list);
@@ -307,7 +305,7 @@ void frmCV::txt弁口径_DblClick() {
     User().Show("指定の弁サイズはﾃﾞｰﾀﾍﾞｰｽに登録されていません。", "調節弁口径");
     return;
   }
-  Space().forms.Show(kRatingForm);
+  Space().forms.Show(frmRating::kName);
 }
 
 void frmCV::TakeRating(const std::string& rating, const std::string& bore) {
@@ -334,11 +332,9 @@ void frmCV::cbo配管材質_Click() {
 
 void frmCV::cmdAllData消去_Click() {
   txt比熱比.SetText("");  // not in silence: the caution of a doubtful estimate goes with it
+  EmptyTextBoxes();
   {
     const Quiet quiet(*this);
-    for (forms::Control* control : Controls()) {
-      if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
-    }
     cboMaker.SetText("");
     FillModels();
     cboValveModel.SetText("");
@@ -377,29 +373,28 @@ void frmCV::ClearSizingResults() {
 
 void frmCV::DeclareLayout() {
   for (Label* label : {&lblFlash, &lblCritical, &lbl注意}) label->SetForeColor(forms::kMagenta);
-  SetLayout(forms::Column({
-      forms::Table({{lblタイトル}}),
-      forms::Table({{lblTagNo, Cell(txtTagNo).Wide(28), lbl用途, Cell(txt用途).Wide(40)}}),
-      forms::Stretched(forms::Row({
-          forms::Stretched(forms::Column({ProcessBlock(), CvBlock(), forms::Space()}), 6),
-          forms::Stretched(forms::Column({ValveBlock(), PipeBlock(), forms::Space()}), 7),
-          forms::Stretched(SizingBlock(), 6),
-      })),
-      forms::Buttons({cmdAllData消去, cmdCvData消去, cmdSizingData消去, {}, cmdCv計算, cmdSizing}),
-  }));
+  SetLayout(SheetBlock(
+      lblタイトル,
+      forms::Column({
+          forms::Stretched(forms::Row({
+              forms::Stretched(forms::Column({ProcessBlock(), CvBlock(), forms::Space()}), 6),
+              forms::Stretched(forms::Column({ValveBlock(), PipeBlock(), forms::Space()}), 7),
+              forms::Stretched(SizingBlock(), 6),
+          })),
+          forms::Buttons(
+              {cmdAllData消去, cmdCvData消去, cmdSizingData消去, {}, cmdCv計算, cmdSizing}),
+      })));
 }
 
 forms::Block frmCV::ProcessBlock() {
-  const Cell flowUnits = Cell::OneOf({&cbo流量単位L, &cbo流量単位G, &cbo流量単位S});
-  const Cell densityUnits = Cell::OneOf({&cbo密度単位L, &cbo密度単位G, &cbo密度単位S});
   return forms::Group("プロセス条件",
                       forms::Table({
                           {lbl流体, Cell(cbo流体).Over(2)},
-                          {lbl流量, txt流量, flowUnits},
+                          {lbl流量, txt流量, FlowUnits()},
                           {lbl圧力, txt圧力, cbo圧力単位},
                           {lbl差圧, txt差圧, Cell::OneOf({&cbo差圧単位, &lbl二次圧単位})},
                           {lbl温度, txt温度, cbo温度単位},
-                          {lbl密度, txt密度, densityUnits},
+                          {lbl密度, txt密度, DensityUnits()},
                           {lbl粘性係数, txt粘性係数, cbo粘性係数単位},
                           {vapour.lbl飽和蒸気圧, vapour.txt飽和蒸気圧, vapour.cbo飽和蒸気圧単位},
                           {critical.lbl臨界圧力, critical.txt臨界圧力, critical.cbo臨界圧力単位},

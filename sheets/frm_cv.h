@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "sheets/calculation_page.h"
-#include "sheets/frm_cv_set.h"
 #include "sheets/process_sheet.h"
 #include "sheets/valve_targets.h"
 #include "valve/exit_velocity.h"
@@ -183,13 +182,9 @@ class frmCV : public ProcessSheet,
   void DrawCharacteristic(forms::DrawSurface& surface);
 
   // Record.
-  std::vector<std::pair<int, TextBox*>> EntryColumns();
-  std::vector<std::pair<int, ComboBox*>> UnitColumns();
-  std::vector<std::pair<int, Label*>> ResultColumns();
-  void GetSelections(const shell::TagRow& record);
+  TagColumns RecordColumns();
   void GetValve(const shell::TagRow& record);
-  void GetEntries(const shell::TagRow& record);
-  void GetResults(const shell::TagRow& record);
+  void GetFindings(const shell::TagRow& record);
   int TrimRow(const std::string& size, const std::string& ratedCv) const;
 
   void PrintConditions(CalculationPage& page);

@@ -23,6 +23,11 @@ std::string PowerOfTenText(Real value) {
   return common::Format(mantissa, "#0.000") + "×10＾" + std::to_string(exponent);
 }
 
+/// The value in a format; empty where there is none.
+std::string TextOf(const std::optional<Real>& value, const char* format) {
+  return value ? common::Format(*value, format) : std::string();
+}
+
 }  // namespace
 
 CorrectionForm::CorrectionForm(shell::Workspace& workspace, const char* name, std::string caption)
@@ -51,10 +56,6 @@ void CorrectionForm::LayOut(std::vector<forms::Line> lines, forms::Line buttons)
   }));
 }
 
-std::string CorrectionForm::Shown(const std::optional<Real>& value, const char* format) {
-  return value ? common::Format(*value, format) : std::string();
-}
-
 frm本山微少弁::frm本山微少弁(shell::Workspace& workspace)
     : CorrectionForm(workspace, kName, "本山 微少流量弁のCv補正") {
   lbl説明.SetText("Cv ＝ 計算Cv ÷ Fr。Re ＞ 10,000 では Fr ＝ 1 です。");
@@ -62,9 +63,9 @@ frm本山微少弁::frm本山微少弁(shell::Workspace& workspace)
 }
 
 void frm本山微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
-  lblReR.SetText(Shown(detail.re, "#,###"));
-  lblFrR.SetText(Shown(detail.fr, kFactor));
-  lblYR.SetText(Shown(detail.y, kFactor));
+  lblReR.SetText(TextOf(detail.re, "#,###"));
+  lblFrR.SetText(TextOf(detail.fr, kFactor));
+  lblYR.SetText(TextOf(detail.y, kFactor));
 }
 
 frm山武微少弁::frm山武微少弁(shell::Workspace& workspace)
@@ -75,16 +76,15 @@ frm山武微少弁::frm山武微少弁(shell::Workspace& workspace)
 
 void frm山武微少弁::ShowDetail(const valve::CorrectionDetail& detail) {
   lblRvR.SetText(detail.rv ? PowerOfTenText(*detail.rv) : std::string());
-  lblFmR.SetText(Shown(detail.fm, "##0.0"));
-  lblYR.SetText(Shown(detail.y, "#0.000"));
+  lblFmR.SetText(TextOf(detail.fm, "##0.0"));
+  lblYR.SetText(TextOf(detail.y, "#0.000"));
 }
 
 frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
     : CorrectionForm(workspace, kName, "Cv計算の補正") {
   cmd補正データ.onClick = [this] { Space().forms.Show(frmCv補正データ::kName); };
-  for (forms::Label* label : {&lblFr, static_cast<forms::Label*>(&lblFrR)}) {
-    label->onDblClick = cmd補正データ.onClick;
-  }
+  lblFr.onDblClick = cmd補正データ.onClick;
+  lblFrR.onDblClick = cmd補正データ.onClick;
   // A gas has Y in the place where a liquid has its Reynolds number.
   LayOut({{lblFp, lblFpR},
           {forms::Cell::OneOf({&lblY, &lblRe}), forms::Cell::OneOf({&lblYR, &lblReR})},
@@ -95,18 +95,16 @@ frmCv計算補正::frmCv計算補正(shell::Workspace& workspace)
 void frmCv計算補正::ShowDetail(const valve::CorrectionDetail& detail) {
   constexpr double kShownWithDecimals = 99;
   const bool liquid = detail.fluidPhase == data::kLiquid;
-  for (forms::Label* label :
-       {&lblRe, static_cast<forms::Label*>(&lblReR), &lblFr, static_cast<forms::Label*>(&lblFrR)}) {
-    label->SetVisible(liquid);
-  }
-  lblYR.SetText(Shown(detail.y, kFactor));
+  forms::Label* const ofLiquids[] = {&lblRe, &lblReR, &lblFr, &lblFrR};
+  for (forms::Label* label : ofLiquids) label->SetVisible(liquid);
+  lblYR.SetText(TextOf(detail.y, kFactor));
   if (!liquid) {
     lbl説明.SetText("気体・蒸気は粘度補正を行いません。");
     return;
   }
   const bool small = detail.re && *detail.re < kShownWithDecimals;
-  lblReR.SetText(Shown(detail.re, small ? "#0.00" : "#,###"));
-  lblFrR.SetText(Shown(detail.fr, kFactor));
+  lblReR.SetText(TextOf(detail.re, small ? "#0.00" : "#,###"));
+  lblFrR.SetText(TextOf(detail.fr, kFactor));
   lbl説明.SetText(detail.re ? "Cv ＝ 計算Cv ÷ Fr"
                             : "粘性係数がないため、粘度補正を行っていません。");
 }

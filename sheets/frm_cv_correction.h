@@ -30,9 +30,6 @@ class CorrectionForm : public forms::Form {
   void LayOut(std::vector<forms::Line> lines, forms::Line buttons);
   shell::Workspace& Space() const { return workspace_; }
 
-  /// The value in a format; empty where there is none.
-  static std::string Shown(const std::optional<valve::Real>& value, const char* format);
-
  private:
   shell::Workspace& workspace_;
 };
@@ -40,7 +37,7 @@ class CorrectionForm : public forms::Form {
 /// Correction of the small-flow valves of "本山": Reynolds number and viscosity factor.
 class frm本山微少弁 : public CorrectionForm {
  public:
-  static constexpr const char* kName = k本山微少弁Form;
+  static constexpr const char* kName = "frm本山微少弁";
 
   forms::Label lblRe{*this, "lblRe", "レイノルズ数 Re"};
   forms::ResultLabel lblReR{*this, "lblReR"};
@@ -56,7 +53,7 @@ class frm本山微少弁 : public CorrectionForm {
 /// Correction of the small-flow valves of "山武": viscosity index and factor.
 class frm山武微少弁 : public CorrectionForm {
  public:
-  static constexpr const char* kName = k山武微少弁Form;
+  static constexpr const char* kName = "frm山武微少弁";
 
   forms::Label lblRv{*this, "lblRv", "粘度指数 Rv"};
   forms::ResultLabel lblRvR{*this, "lblRvR"};
@@ -72,7 +69,7 @@ class frm山武微少弁 : public CorrectionForm {
 /// Correction of every other valve: Reynolds number and factor of a liquid.
 class frmCv計算補正 : public CorrectionForm {
  public:
-  static constexpr const char* kName = kCv計算補正Form;
+  static constexpr const char* kName = "frmCv計算補正";
 
   forms::Label lblRe{*this, "lblRe", "弁レイノルズ数 Re"};
   forms::ResultLabel lblReR{*this, "lblReR"};

@@ -3,6 +3,7 @@
 #include "common/number.h"
 #include "data/steam.h"
 #include "sheets/frm_cv.h"
+#include "sheets/frm_cv_correction.h"
 #include "valve/noise.h"
 #include "valve/required_cv.h"
 
@@ -71,13 +72,13 @@ void frmCV::lblSizingCv_Click() {
   if (lblSizingCv.Text().empty()) return;
   switch (detail_.valveClass) {
     case valve::ValveClass::k本山微少弁:
-      Space().forms.Show(k本山微少弁Form);
+      Space().forms.Show(frm本山微少弁::kName);
       break;
     case valve::ValveClass::k山武微少弁:
-      Space().forms.Show(k山武微少弁Form);
+      Space().forms.Show(frm山武微少弁::kName);
       break;
     case valve::ValveClass::kOrdinary:
-      Space().forms.Show(kCv計算補正Form);
+      Space().forms.Show(frmCv計算補正::kName);
       break;
   }
 }

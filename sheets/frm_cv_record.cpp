@@ -12,13 +12,12 @@ namespace {
 
 using common::Val;
 
-/// Columns of the record. What is not named here is a text in the order of the tables below.
+/// Columns of the record that are more than a field of the sheet, or that are looked at by
+/// themselves.
 enum Column {
   kFluid = 2,
-  kFlowUnit = 4,
   kSecondary = 7,
   kPressureKind = 8,
-  kDensityUnit = 14,
   kRequiredCv = 24,
   kMaker = 25,
   kValveBore = 26,
@@ -41,55 +40,50 @@ enum Column {
 
 }  // namespace
 
-std::vector<std::pair<int, TextBox*>> frmCV::EntryColumns() {
-  return {{0, &txtTagNo},
-          {1, &txt用途},
-          {3, &txt流量},
-          {5, &txt圧力},
-          {9, &txt差圧},
-          {11, &txt温度},
-          {13, &txt密度},
-          {15, &txt粘性係数},
-          {17, &vapour.txt飽和蒸気圧},
-          {19, &critical.txt臨界圧力},
-          {21, &txt偏差係数},
-          {22, &txt比熱比},
-          {kValveBore, &txt弁口径},
-          {kFL, &txtFL},
-          {kNoiseCoefficient, &txtN係数},
-          {31, &txtValveSize},
-          {kFd, &txt弁Fd},
-          {kRatedCv, &txtCvv},
-          {kRangeability, &txtRangeability},
-          {38, &txt上流配管外径},
-          {39, &txt上流配管厚},
-          {40, &txt下流配管外径},
-          {41, &txt下流配管厚},
-          {kWallWeight, &txtWallWeight}};
-}
-
-std::vector<std::pair<int, ComboBox*>> frmCV::UnitColumns() {
-  return {{6, &cbo圧力単位},
-          {10, &cbo差圧単位},
-          {12, &cbo温度単位},
-          {16, &cbo粘性係数単位},
-          {18, &vapour.cbo飽和蒸気圧単位},
-          {20, &critical.cbo臨界圧力単位}};
-}
-
-std::vector<std::pair<int, Label*>> frmCV::ResultColumns() {
-  return {{23, &lblFCI計算Cv}, {kRequiredCv, &lblISA計算Cv}, {kSizedCv, &lblSizingCv},
-          {46, &lblOpening},   {47, &lblVelocity},           {48, &lblNoise}};
+TagColumns frmCV::RecordColumns() {
+  return {{{4, &FlowUnitBox()},
+           {6, &cbo圧力単位},
+           {10, &cbo差圧単位},
+           {12, &cbo温度単位},
+           {14, &DensityUnitBox()},
+           {16, &cbo粘性係数単位},
+           {18, &vapour.cbo飽和蒸気圧単位},
+           {20, &critical.cbo臨界圧力単位}},
+          {{0, &txtTagNo},
+           {1, &txt用途},
+           {3, &txt流量},
+           {5, &txt圧力},
+           {9, &txt差圧},
+           {11, &txt温度},
+           {13, &txt密度},
+           {15, &txt粘性係数},
+           {17, &vapour.txt飽和蒸気圧},
+           {19, &critical.txt臨界圧力},
+           {21, &txt偏差係数},
+           {22, &txt比熱比},
+           {kValveBore, &txt弁口径},
+           {kFL, &txtFL},
+           {kNoiseCoefficient, &txtN係数},
+           {31, &txtValveSize},
+           {kFd, &txt弁Fd},
+           {kRatedCv, &txtCvv},
+           {kRangeability, &txtRangeability},
+           {38, &txt上流配管外径},
+           {39, &txt上流配管厚},
+           {40, &txt下流配管外径},
+           {41, &txt下流配管厚},
+           {kWallWeight, &txtWallWeight}},
+          {{23, &lblFCI計算Cv},
+           {kRequiredCv, &lblISA計算Cv},
+           {kSizedCv, &lblSizingCv},
+           {46, &lblOpening},
+           {47, &lblVelocity},
+           {48, &lblNoise}}};
 }
 
 void frmCV::AddCV(int row) {
+  PutRecord(row, kFluid, RecordColumns());
   RecordWriter record(Space().tags, row);
-  record.PutTexts(EntryColumns());
-  for (const auto& [column, box] : UnitColumns()) record.PutIndex(column, *box);
-  record.PutTexts(ResultColumns());
-  record.PutIndex(kFluid, cbo流体);
-  record.PutIndex(kFlowUnit, FlowUnitBox());
-  record.PutIndex(kDensityUnit, DensityUnitBox());
   record.PutFlag(kSecondary, secondaryPressure_);
   record.Put(kPressureKind, lbl差圧.Text());
   record.Put(kMaker, cboMaker.Text());
@@ -101,29 +95,22 @@ void frmCV::AddCV(int row) {
   record.Put(kMaterial, cbo配管材質.Text());
   record.PutIndex(kMaterialIndex, cbo配管材質);
   record.Put(kVelocityColour, std::to_string(lblVelocity.ForeColor()));
-  record.Put(shell::kKindColumn, Space().activeSheetKind);
-  Space().tags.tagModified = true;
 }
 
+/// The selections come before the entries, which a maker, a model or a material would fill.
 void frmCV::GetCV(int row) {
-  const shell::TagRow record = Space().tags.Row(row);
+  const shell::TagRow& record = Space().tags.Row(row);
   if (record[shell::kKindColumn] != kKind) return;
   ClearResults();
-  GetSelections(record);
-  GetValve(record);
-  GetEntries(record);
-  StoreEntries();
-  GetResults(record);
-}
-
-void frmCV::GetSelections(const shell::TagRow& record) {
   Select(cbo流体, record[kFluid]);
-  Select(FlowUnitBox(), record[kFlowUnit]);
-  Select(DensityUnitBox(), record[kDensityUnit]);
-  for (const auto& [column, box] : UnitColumns()) {
-    Select(*box, record[static_cast<std::size_t>(column)]);
-  }
+  const TagColumns columns = RecordColumns();
+  columns.GetSelections(record);
   ShowPressureKind(IsSet(record[kSecondary]));
+  GetValve(record);
+  columns.GetEntries(record);
+  StoreEntries();
+  columns.GetResults(record);
+  GetFindings(record);
 }
 
 /// A maker, model or material that is no longer listed keeps its text without a selection, and
@@ -145,25 +132,15 @@ void frmCV::GetValve(const shell::TagRow& record) {
   lblフランジ規格.SetText(flangeRating_);
 }
 
-/// After the selections: a maker, a model or a material would fill fields.
-void frmCV::GetEntries(const shell::TagRow& record) {
-  for (const auto& [column, box] : EntryColumns()) {
-    box->SetText(record[static_cast<std::size_t>(column)]);
-  }
-}
-
-void frmCV::GetResults(const shell::TagRow& record) {
+void frmCV::GetFindings(const shell::TagRow& record) {
   const Quiet quiet(*this);
-  for (const auto& [column, label] : ResultColumns()) {
-    label->SetText(record[static_cast<std::size_t>(column)]);
-  }
   lblVelocity.SetForeColor(common::IntIndex(Val(record[kVelocityColour])));
   Space().calcDone = !lblISA計算Cv.Text().empty();
   if (Space().calcDone) {
     RestoreFindings();
     // It reads as a calculation does, which fills defaults in; what was stored holds.
     GetValve(record);
-    GetEntries(record);
+    RecordColumns().GetEntries(record);
   }
   pic特性.Redraw();
 }

@@ -1,6 +1,7 @@
 #include "sheets/frm_cv_set.h"
 
 #include "common/text.h"
+#include "sheets/valve_targets.h"
 
 namespace sheets {
 

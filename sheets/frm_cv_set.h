@@ -7,17 +7,6 @@
 
 namespace sheets {
 
-/// A valve sheet that the table of trims can fill.
-class TrimTarget {
- public:
-  virtual ~TrimTarget() = default;
-  /// Positions in the valve catalogue, -1 for none.
-  virtual int MakerIndex() const = 0;
-  virtual int ModelIndex() const = 0;
-  /// The trim of this row of the model has been chosen.
-  virtual void TakeTrim(int row) = 0;
-};
-
 /// Trim sizes and rated Cv of the model chosen on the valve sheet on top.
 class frmCvSet : public forms::Form {
  public:

@@ -32,10 +32,6 @@ frmDuctList::frmDuctList(shell::Workspace& workspace)
   }));
 }
 
-frmCable* frmDuctList::Sheet() const {
-  return dynamic_cast<frmCable*>(workspace_.forms.Find(frmCable::kName));
-}
-
 void frmDuctList::ShowStore() {
   const Quiet quiet(*this);
   const shell::DuctStore& ducts = workspace_.ducts;
@@ -45,7 +41,7 @@ void frmDuctList::ShowStore() {
 }
 
 void frmDuctList::cmdAdd_Click() {
-  frmCable* const sheet = Sheet();
+  frmCable* const sheet = OpenCableSheet(workspace_);
   if (sheet == nullptr) {
     workspace_.Shown().Show("ケーブルダクトサイジングの画面が開かれていません。");
     return;
@@ -59,7 +55,7 @@ void frmDuctList::cmdSend_Click() {
   if (row < 0) return;
   shell::OpenSheet(workspace_, frmCable::kKind);
   workspace_.forms.Show(frmCable::kName);
-  if (frmCable* const sheet = Sheet()) sheet->Show(workspace_.ducts.Row(row));
+  if (frmCable* const sheet = OpenCableSheet(workspace_)) sheet->Show(workspace_.ducts.Row(row));
 }
 
 }  // namespace sheets

@@ -6,8 +6,6 @@
 
 namespace sheets {
 
-class frmCable;
-
 /// The ducts of the open duct file, with the commands that register, recall and arrange them.
 class frmDuctList : public forms::Form {
  public:
@@ -27,7 +25,6 @@ class frmDuctList : public forms::Form {
 
  private:
   void ShowStore();
-  frmCable* Sheet() const;
   void cmdAdd_Click();
   void cmdSend_Click();
 

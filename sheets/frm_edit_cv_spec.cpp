@@ -53,7 +53,7 @@ frmEditCVspec::frmEditCVspec(shell::Workspace& workspace)
   cmdDeleteMaker.onClick = [this] { cmdDeleteMaker_Click(); };
   cmdDeleteModel.onClick = [this] { cmdDeleteModel_Click(); };
   cmdDataSave.onClick = [this] { Save(); };
-  LayOut();
+  DeclareLayout();
 }
 
 void frmEditCVspec::HandleTrims() {
@@ -112,9 +112,7 @@ void frmEditCVspec::Changed() {
 }
 
 void frmEditCVspec::Load() {
-  std::vector<std::string> characteristics(valve::kCharacteristics.begin(),
-                                           valve::kCharacteristics.end());
-  cboCharact.SetItems(std::move(characteristics));
+  cboCharact.SetItems({valve::kCharacteristics.begin(), valve::kCharacteristics.end()});
   optMaker[0].Choose();
   ShowModified();
 }
@@ -222,7 +220,7 @@ void frmEditCVspec::Unload() {
   Sheet::Unload();
 }
 
-void frmEditCVspec::LayOut() {
+void frmEditCVspec::DeclareLayout() {
   // An empty slot is still told apart by its number.
   constexpr const char* kSlots[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
   forms::Line makers;

@@ -56,7 +56,7 @@ class frmEditCVspec : public shell::Sheet {
 
  private:
   void HandleTrims();
-  void LayOut();
+  void DeclareLayout();
 
   /// Trim that stands in a row of the page now.
   std::size_t TrimIn(int row) const;

@@ -98,12 +98,12 @@ frmEditPropData::frmEditPropData(shell::Workspace& workspace)
   }
   for (int plot = 0; plot < kPlots; ++plot) {
     picProperty[plot].onPaint = [this, plot](forms::DrawSurface& surface) {
-      DrawPropertyCurve(surface, picProperty[plot], curves_[static_cast<std::size_t>(plot)]);
+      DrawPropertyCurve(surface, picProperty[plot], common::At(curves_, plot));
     };
   }
   cmdDeleteProp.onClick = [this] { cmdDeleteProp_Click(); };
   cmdSaveProp.onClick = [this] { Save(); };
-  LayOut();
+  DeclareLayout();
 }
 
 void frmEditPropData::Load() {
@@ -276,7 +276,7 @@ void frmEditPropData::Unload() {
   Sheet::Unload();
 }
 
-void frmEditPropData::LayOut() {
+void frmEditPropData::DeclareLayout() {
   constexpr int kRows = kFields / kPlots;
   std::vector<forms::Block> columns;
   for (int plot = 0; plot < kPlots; ++plot) {

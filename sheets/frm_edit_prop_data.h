@@ -37,7 +37,7 @@ class frmEditPropData : public shell::Sheet {
   void Unload() override;
 
  private:
-  void LayOut();
+  void DeclareLayout();
 
   data::FluidTable& Table() const;
   bool IsShown() const { return fluid_ >= 0; }

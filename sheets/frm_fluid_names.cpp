@@ -1,5 +1,6 @@
 #include "sheets/frm_fluid_names.h"
 
+#include "common/text.h"
 #include "sheets/list_texts.h"
 
 namespace sheets {
@@ -33,8 +34,7 @@ void frm流体名表示::FluidsChanged() {
 }
 
 void frm流体名表示::Fill(bool all) {
-  const bool blank = lst物性推算.Text().find_first_not_of(' ') == std::string::npos;
-  if (lst物性推算.Index() < 0 || blank) {
+  if (lst物性推算.Index() < 0 || common::IsBlank(lst物性推算.Text())) {
     workspace_.Shown().Show("流体名が選択されていません", "物性推算");
     return;
   }

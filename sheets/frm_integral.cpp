@@ -12,16 +12,19 @@ using common::At;
 using common::Format;
 using common::NumberText;
 using common::Val;
+using data::kKpaPerMmH2O;
 
-constexpr double kKpaPerMmH2O = data::kKpaPerKgfCm2 / 10000;
 constexpr const char* kListKpa = "######0.00";
 constexpr const char* kListMm = "########0";
 constexpr const char* kDetailKpa = "#,###,##0.00";
 constexpr const char* kDetailMm = "###,###,##0";
 
-std::string Optional(const std::optional<Real>& value, const char* format) {
+std::string TextOf(const std::optional<Real>& value, const char* format) {
   return value ? Format(*value, format) : "";
 }
+
+/// Type of Reynolds number in which a group is rated.
+const char* ReynoldsKindOf(int group) { return group == 0 ? "(Red)" : "(ReD)"; }
 
 /// A bore of the list holds a note in place of a number.
 bool IsNote(const std::string& text) {
@@ -98,10 +101,9 @@ void frmIntegral::cmdデータ消去_Click() {
 
 void frmIntegral::ClearResults() {
   for (int i = 0; i < kRows; ++i) {
-    for (ResultLabel* label : {&lblDPkpa[i], &lblDPmm[i]}) {
-      label->SetText("");
-      label->SetForeColor(forms::kBlack);
-    }
+    lblDPkpa[i].SetText("");
+    lblDPmm[i].SetText("");
+    ColourBore(i, true);
   }
   {
     const Quiet quiet(*this);
@@ -187,6 +189,10 @@ void frmIntegral::ShowBore(int i, const flow::BoreRating& rating) {
   const bool usable = rating.note.empty();
   lblDPkpa[i].SetText(usable ? Format(rating.dP * kKpaPerMmH2O, kListKpa) : rating.note);
   lblDPmm[i].SetText(usable ? Format(rating.dP, kListMm) : rating.note);
+  ColourBore(i, usable);
+}
+
+void frmIntegral::ColourBore(int i, bool usable) {
   for (ResultLabel* label : {&lblDPkpa[i], &lblDPmm[i]}) {
     label->SetForeColor(usable ? forms::kBlack : forms::kRed);
   }
@@ -199,7 +205,7 @@ void frmIntegral::CautionGas() {
   for (int i = 0; i < kRows; ++i) {
     const std::string& text = lblDPmm[i].Text();
     if (text.empty() || IsNote(text)) continue;
-    if (Val(text) <= kSmallShare * 10000 * Process().pressureAbs) continue;
+    if (Val(text) <= kSmallShare * data::kMmH2OPerKgfCm2 * Process().pressureAbs) continue;
     lbl注意.SetForeColor(forms::kMagenta);
     lbl注意.SetText("差圧が圧力の 1 割を超える口径では、\n膨張補正がないため差圧が小さく出ます。");
     return;
@@ -218,12 +224,12 @@ void frmIntegral::ShowDetail(int i, const flow::BoreRating& rating) {
   const int group = Group();
   const Real loss = flow::IntegralPermanentLoss(Tables().integral, group, i, rating.dP);
   lblNorReynolds.SetText(Format(rating.re, "##,###,###,##0"));
-  lblReynoldsKind.SetText(group == 0 ? "(Red)" : "(ReD)");
-  lblKaf.SetText(Optional(rating.kaf, "#0.000"));
+  lblReynoldsKind.SetText(ReynoldsKindOf(group));
+  lblKaf.SetText(TextOf(rating.kaf, "#0.000"));
   lblα.SetText(rating.alpha ? NumberText(*rating.alpha) : "");
-  lbl膨張補正係数.SetText(Optional(rating.eps, "#0.0000"));
+  lbl膨張補正係数.SetText(TextOf(rating.eps, "#0.0000"));
   (IsLiquid() ? lbl水相当流量 : lbl空気相当流量)
-      .SetText(Optional(rating.equivalentFlow, "###,##0.000"));
+      .SetText(TextOf(rating.equivalentFlow, "###,##0.000"));
   lbl差圧結果[0].SetText(Format(rating.dP, kDetailMm));
   lbl差圧結果[1].SetText(Format(rating.dP * kKpaPerMmH2O, kDetailKpa));
   lbl永久圧損[0].SetText(Format(loss, kDetailMm));
@@ -290,27 +296,25 @@ void frmIntegral::GetDetail(const shell::TagRow& record) {
     const std::string text = lblDPmm[i].Text();
     const bool note = IsNote(text);
     lblDPkpa[i].SetText(note || text.empty() ? text : Format(Val(text) * kKpaPerMmH2O, kListKpa));
-    for (ResultLabel* label : {&lblDPkpa[i], &lblDPmm[i]}) {
-      label->SetForeColor(note ? forms::kRed : forms::kBlack);
-    }
+    ColourBore(i, !note);
   }
   CautionGas();
-  detailDP_ = sheets::At(record, kPlainDPColumn);
-  detailLoss_ = sheets::At(record, kPlainLossColumn);
-  const int bore = common::IntIndex(Val(sheets::At(record, kBoreColumn)));
+  detailDP_ = At(record, kPlainDPColumn);
+  detailLoss_ = At(record, kPlainLossColumn);
+  const int bore = common::IntIndex(Val(At(record, kBoreColumn)));
   {
     const Quiet quiet(*this);
     cboOrificeNo.SetIndex(bore);
   }
   if (bore < 0 || lblNorReynolds.Text().empty()) return;
-  lblReynoldsKind.SetText(Group() == 0 ? "(Red)" : "(ReD)");
+  lblReynoldsKind.SetText(ReynoldsKindOf(Group()));
   for (const auto& label : lbl差圧結果) label->SetForeColor(lblDPmm[bore].ForeColor());
 }
 
 /// The detail is that of the bore which was picked behind the calculation.
 std::vector<shell::Sheet::Calculation> frmIntegral::CalculationsOf(const shell::TagRow& record) {
-  if (sheets::At(record, kFirstBoreColumn).empty()) return {};
-  const int bore = common::IntIndex(Val(sheets::At(record, kBoreColumn)));
+  if (At(record, kFirstBoreColumn).empty()) return {};
+  const int bore = common::IntIndex(Val(At(record, kBoreColumn)));
   return {{"", [this, bore] {
              if (!Calculate(cmd計算)) return false;
              if (bore >= 0) cboOrificeNo.Pick(bore);

@@ -99,6 +99,7 @@ class frmIntegral : public ProcessSheet {
   /// Refuses a type that does not take steam, and a normal flow above scale.
   bool CheckInputs(const flow::IntegralInputs& inputs);
   void ShowBore(int i, const flow::BoreRating& rating);
+  void ColourBore(int i, bool usable);
   void ShowDetail(int i, const flow::BoreRating& rating);
   void CautionGas();
 

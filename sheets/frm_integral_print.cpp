@@ -8,6 +8,8 @@ namespace sheets {
 
 namespace {
 
+using common::PadLeftToBytes;
+
 constexpr const char* kTableHead1 = "   ｵﾘﾌｨｽ     　ｵﾘﾌｨｽ径　　　    　発生差圧       ";
 constexpr const char* kTableHead2 = "    型式      　(mm)　　    　(kPa)　     　(mmH2O)    ";
 
@@ -39,17 +41,15 @@ void frmIntegral::PrintEntries(CalculationPage& page) {
 
 /// A line a bore, below the heads of the table; what cannot be used is red, as on the sheet.
 void frmIntegral::PrintBores(CalculationPage& page, shell::PrintSurface& target) {
-  const auto right = [](const std::string& text, int bytes) {
-    return common::PadLeftToBytes(text, bytes);
-  };
   page.Text("計 器 型 式　：　" + cbo計器型式.Text());
   page.Text(kTableHead1);
   page.Text(kTableHead2);
   for (int i = 0; i < kRows; ++i) {
     if (lblOrificeDia[i].Text().empty()) continue;
     target.SetColor(lblDPmm[i].ForeColor());
-    page.Text(right(lblOrificeNo[i].Text(), 7) + right(lblOrificeDia[i].Text(), 15) +
-              right(lblDPkpa[i].Text(), 15) + right(lblDPmm[i].Text(), 16));
+    page.Text(PadLeftToBytes(lblOrificeNo[i].Text(), 7) +
+              PadLeftToBytes(lblOrificeDia[i].Text(), 15) + PadLeftToBytes(lblDPkpa[i].Text(), 15) +
+              PadLeftToBytes(lblDPmm[i].Text(), 16));
     target.SetColor(forms::kBlack);
   }
 }

@@ -26,7 +26,7 @@ void CheckStorable(const data::MaterialTable& table) {
 frmMaterial::frmMaterial(shell::Workspace& workspace)
     : Sheet(workspace, kKind, "材料データベース") {
   BindHandlers();
-  LayOut();
+  DeclareLayout();
 }
 
 std::array<frmMaterial::Cells*, data::MaterialTable::kRows> frmMaterial::Rows() {
@@ -113,10 +113,29 @@ void frmMaterial::Unload() {
   Sheet::Unload();
 }
 
-void frmMaterial::LayOut() {
+void frmMaterial::DeclareLayout() {
+  lblEquation.SetText("推算値 ＝ c0 ＋ c1･T ＋ c2･T^2 ＋ c3･T^3　（T：℃）");
+  SetLayout(forms::Column({
+      MaterialBlock(),
+      EquationBlock(),
+      forms::Buttons({lblEquation, {}, cmdDataSave}),
+  }));
+}
+
+forms::Block frmMaterial::MaterialBlock() {
   constexpr int kOptionsInLine = 4;
   // A nameless material is still told apart by its number.
   constexpr const char* kNumbers[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
+  std::vector<forms::Line> options(2);
+  for (int i = 0; i < optMaterial.Count(); ++i) {
+    forms::Line& line = common::At(options, i / kOptionsInLine);
+    line.emplace_back(kNumbers[i]);
+    line.emplace_back(optMaterial[i]);
+  }
+  return forms::Group("材料", forms::Table(std::move(options)));
+}
+
+forms::Block frmMaterial::EquationBlock() {
   const struct {
     const char* title;
     int characters;
@@ -124,12 +143,6 @@ void frmMaterial::LayOut() {
   // The units in which the sheets read the results.
   constexpr const char* kProperties[] = {"密度　kg/m3", "ヤング率　kgf/mm2", "許容応力　kgf/mm2",
                                          "線膨張係数　1e-6/℃"};
-  std::vector<forms::Line> options(2);
-  for (int i = 0; i < optMaterial.Count(); ++i) {
-    forms::Line& line = common::At(options, i / kOptionsInLine);
-    line.emplace_back(kNumbers[i]);
-    line.emplace_back(optMaterial[i]);
-  }
   std::vector<forms::Line> lines = {{{}, {}}};
   for (int column = 0; column < lblColumn.Count(); ++column) {
     lblColumn[column].SetText(kColumns[column].title);
@@ -137,27 +150,22 @@ void frmMaterial::LayOut() {
   }
   int row = 0;
   for (Cells* boxes : Rows()) {
+    const char* const property = kProperties[row / 2];
     const bool low = row % 2 == 0;
-    forms::Line line = {low ? forms::Cell(kProperties[row / 2]) : forms::Cell(),
-                        low ? "低温側" : "高温側"};
+    forms::Line line = {low ? forms::Cell(property) : forms::Cell(), low ? "低温側" : "高温側"};
     for (int column = 0; column < boxes->Count(); ++column) {
-      line.push_back(forms::Cell((*boxes)[column]).Wide(kColumns[column].characters));
-      (*boxes)[column].SetAccessibleName(std::string(kProperties[row / 2]) +
-                                         (low ? " 低温側 " : " 高温側 ") + kColumns[column].title);
+      forms::TextBox& box = (*boxes)[column];
+      line.push_back(forms::Cell(box).Wide(kColumns[column].characters));
+      box.SetAccessibleName(std::string(property) + (low ? " 低温側 " : " 高温側 ") +
+                            kColumns[column].title);
     }
     if (!low) (*boxes)[0].SetToolTip("推算には使用しません（低温側の上限が境界です）。");
     lines.push_back(std::move(line));
     ++row;
   }
-  lblEquation.SetText("推算値 ＝ c0 ＋ c1･T ＋ c2･T^2 ＋ c3･T^3　（T：℃）");
-  SetLayout(forms::Column({
-      forms::Group("材料", forms::Table(std::move(options))),
-      forms::Group("物性推算式の係数", forms::Column({
-                                           forms::Table({{lblMaterialName, txtMaterialName}}),
-                                           forms::Table(std::move(lines)),
-                                       })),
-      forms::Buttons({lblEquation, {}, cmdDataSave}),
-  }));
+  return forms::Group("物性推算式の係数",
+                      forms::Column({forms::Table({{lblMaterialName, txtMaterialName}}),
+                                     forms::Table(std::move(lines))}));
 }
 
 }  // namespace sheets

@@ -47,7 +47,9 @@ class frmMaterial : public shell::Sheet {
   data::MaterialTable& Table() const { return Space().tables.materials; }
   data::MaterialTable::Cells& TableCells() const { return common::At(Table().cells, material_); }
   void BindHandlers();
-  void LayOut();
+  void DeclareLayout();
+  forms::Block MaterialBlock();
+  forms::Block EquationBlock();
 
   void optMaterial_Click(int material);
   void txtMaterialName_Change();

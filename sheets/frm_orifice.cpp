@@ -13,10 +13,10 @@ using common::Format;
 using common::NumberText;
 using common::RoundDigits;
 using common::Val;
-using forms::Line;
 
 constexpr const char* kReynoldsFormat = "###,###,###,##0";
 constexpr const char* kExpansionUnit = "×10-6/℃";
+constexpr double kPerExpansionUnit = 1e6;
 /// Element and material that clearing the sheet selects.
 constexpr int kClearedElement = 10;
 constexpr int kClearedMaterial = 7;
@@ -44,8 +44,13 @@ std::string DifferentialText(Real mmH2O, int unit, const int (&decimals)[6]) {
 
 frmOrifice::frmOrifice(shell::Workspace& workspace)
     : ProcessSheet(workspace, kKind, "Orifice Plates, Nozzles, Venturi-Tubes Calculation") {
-  UseFields(
-      {&humidity, &base, &lbl偏差係数, &txt偏差係数, &lbl比熱比, &txt比熱比, &lbl常用流量単位});
+  UseFields({.humidity = &humidity,
+             .base = &base,
+             .deviationLabel = &lbl偏差係数,
+             .deviation = &txt偏差係数,
+             .kappaLabel = &lbl比熱比,
+             .kappa = &txt比熱比,
+             .secondFlowUnit = &lbl常用流量単位});
   FollowMaterials({&cbo絞り部材質, &cbo配管種類});
   BindHandlers();
   DeclareLayout();
@@ -142,14 +147,9 @@ void frmOrifice::SwitchMode() {
 
 void frmOrifice::FillExpansion(const ComboBox& material, TextBox& box) {
   StoreEntries();
-  if (material.Index() < 0) {
+  if (material.Index() < 0 || material.Text().empty()) {
     User().Show(material.Text().empty() ? "データベースに未登録です。"
                                         : "データベースに登録されていないオリフィス材質です");
-    box.SetText("");
-    return;
-  }
-  if (material.Text().empty()) {
-    User().Show("データベースに未登録です。");
     box.SetText("");
     return;
   }
@@ -165,11 +165,7 @@ void frmOrifice::TakePipe(double, double, double bore) { txt配管内径.SetText
 
 void frmOrifice::cmdデータ消去_Click() {
   {
-    // The selections must not look anything up for the fields that have just been emptied.
-    const Quiet quiet(*this);
-    for (forms::Control* control : Controls()) {
-      if (auto* const box = dynamic_cast<TextBox*>(control)) box->SetText("");
-    }
+    const Quiet quiet(*this);  // a material must not look its expansion up
     const auto select = [](ComboBox& box, int index) {
       if (index < box.Count()) box.SetIndex(index);
     };
@@ -178,10 +174,8 @@ void frmOrifice::cmdデータ消去_Click() {
     select(cbo配管種類, kClearedMaterial);
   }
   cbo絞り機構種類_Click();
-  if (cbo流体.Count() > 0) cbo流体.Pick(data::kLiquid);
   context_.extrapolationMark.clear();
-  ClearResults();
-  SetFocus(txtTagNo);
+  ClearData();
 }
 
 void frmOrifice::ClearResults() {
@@ -195,7 +189,6 @@ void frmOrifice::ClearResults() {
   lbl永久圧損R.SetToolTip("");
   lbl外挿.SetText("");
   Space().calcDone = false;
-  equationEdition_ = "1";
   pic断面.Redraw();
 }
 
@@ -211,8 +204,8 @@ bool frmOrifice::ReadInputs() {
   context_.p = process.pressureAbs;
   context_.t = process.temperatureC;
   context_.kappa = Val(txt比熱比.Text());
-  context_.aElem = Val(txt絞り部膨張率.Text()) / 1000000.0;
-  const Real aPipe = Val(txt配管線膨張率.Text()) / 1000000.0;
+  context_.aElem = Val(txt絞り部膨張率.Text()) / kPerExpansionUnit;
+  const Real aPipe = Val(txt配管線膨張率.Text()) / kPerExpansionUnit;
   context_.pipeBore20 = Val(txt配管内径.Text());
   process.pipeInnerDiameter = context_.pipeBore20;
   context_.pipeBore = flow::PipeBoreAtTemperature(context_.pipeBore20, aPipe, context_.t);
@@ -263,7 +256,6 @@ void frmOrifice::ShowResults(const flow::SizingResult& result) {
   lbl使用下限.SetText(NumberText(100 * result.useLow));
   lbl使用上限.SetText(result.useHigh ? NumberText(100 * *result.useHigh) : "");
   lbl外挿.SetText(context_.extrapolationMark);
-  equationEdition_ = "1";
   pic断面.Redraw();
 }
 

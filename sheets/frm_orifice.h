@@ -1,8 +1,6 @@
 #pragma once
 
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "flow/differential_pressure.h"
@@ -95,7 +93,7 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   bool PrintBody(shell::PrintSurface& target) override { return PrintOrifice(target); }
   /// Writes entries and results into a row of the tag store.
   void AddOrifice(int row);
-  /// Fills the sheet from a row of its kind: selections first, then texts, then results.
+  /// Fills the sheet from a row of its kind.
   void GetOrifice(int row);
   /// Prints entries and results as they stand on the sheet.
   bool PrintOrifice(shell::PrintSurface& target);
@@ -135,15 +133,11 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   /// What the picture shows: pipe and bore as far as they are entered or calculated.
   ElementSection Section() const;
 
-  /// Columns of the record that hold a text as it stands in a control.
-  std::vector<std::pair<int, forms::Control*>> EntryColumns();
-  std::vector<std::pair<int, Label*>> ResultColumns();
-  void GetSelections(const shell::TagRow& record);
-  void GetEntries(const shell::TagRow& record);
+  TagColumns RecordColumns();
+  /// What the record tells beside its columns.
   void GetResults(const shell::TagRow& record);
   void ShowUpstreamTapOf(const shell::TagRow& record);
 
-  std::string CitedDocument() const;
   void PrintConditions(CalculationPage& page);
   void PrintElement(CalculationPage& page);
   void PrintResults(CalculationPage& page);
@@ -151,8 +145,6 @@ class frmOrifice : public ProcessSheet, public PipeTarget {
   flow::Context context_;
   /// Normal density at the last reading, kg/m3; the operating one stands in the context.
   Real normalDensity_;
-  /// Which edition of the standard the printed sheet cites: "1" is that of 2007.
-  std::string equationEdition_ = "1";
 };
 
 }  // namespace sheets

@@ -42,16 +42,11 @@ bool frmOrifice::PrintOrifice(shell::PrintSurface& target) {
   return true;
 }
 
-std::string frmOrifice::CitedDocument() const {
-  if (cbo絞り機構種類.Index() == flow::kQuarterCircleOrifice) {
-    return "ROYAL DUTCH/SHELL-LABORATORY, Delft Report 1312M";
-  }
-  return equationEdition_ == "0" ? "JIS Z 8762-1995" : "JIS Z 8762-2007";
-}
-
 void frmOrifice::PrintConditions(CalculationPage& page) {
   const std::string flowUnit = FlowUnitBox().Text();
-  page.Line("準　拠　規　格　 ", CitedDocument());
+  const bool quarterCircle = cbo絞り機構種類.Index() == flow::kQuarterCircleOrifice;
+  page.Line("準　拠　規　格　 ",
+            quarterCircle ? "ROYAL DUTCH/SHELL-LABORATORY, Delft Report 1312M" : "JIS Z 8762-2007");
   page.Line("Ｔａｇ．　Ｎｏ． ", txtTagNo.Text());
   page.Line("用　   　　　　途", txt用途.Text());
   page.Line("絞り機構 の 種類 ", cbo絞り機構種類.Text() + context_.extrapolationMark);

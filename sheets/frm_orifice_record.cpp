@@ -11,31 +11,25 @@ namespace {
 using common::NumberText;
 using common::Val;
 
-/// Columns of the record. What is not named here is a text in the order of the tables below.
+/// Columns of the record that are more than a field of the sheet, or that are looked at by
+/// themselves.
 enum Column {
-  kElementType = 2,
   kFluid = 3,
-  kFlowUnit = 5,
-  kPressureUnit = 8,
-  kTemperatureUnit = 10,
-  kDensityUnit = 12,
-  kViscosityUnit = 14,
   kWetBase = 16,
-  kSaturationUnit = 18,
   kElementExpansion = 22,
   kPipeBore = 26,
   kPipeExpansion = 27,
   kDifferential = 28,
-  kDifferentialUnit = 29,
   kBore = 30,
-  kUnused1 = 31,
   kMaxReynolds = 32,
-  kDownstreamTap = 39,
   kOperatingDensity = 43,
   kNormalDensity = 44,
   kEquationEdition = 45,
-  kUnused2 = 46,
 };
+constexpr int kUnused[] = {31, 46};
+
+/// Edition of the standard whose equations stand here; a record of those of 1995 has "0".
+constexpr const char* kEdition2007 = "1";
 
 /// Digits behind the point.
 std::size_t Decimals(const std::string& number) {
@@ -45,115 +39,75 @@ std::size_t Decimals(const std::string& number) {
 
 }  // namespace
 
+TagColumns frmOrifice::RecordColumns() {
+  return {{{2, &cbo絞り機構種類},
+           {5, &FlowUnitBox()},
+           {8, &cbo圧力単位},
+           {10, &cbo温度単位},
+           {12, &DensityUnitBox()},
+           {14, &cbo粘性係数単位},
+           {18, &humidity.cbo飽和水蒸気圧単位},
+           {29, &cbo設計差圧単位}},
+          {{0, &txtTagNo},
+           {1, &txt用途},
+           {4, &txt目盛流量},
+           {6, &txt常用流量},
+           {7, &txt圧力},
+           {9, &txt温度},
+           {11, &txt密度},
+           {13, &txt粘性係数},
+           {15, &humidity.txt相対湿度},
+           {17, &humidity.txt飽和水蒸気圧},
+           {19, &txt偏差係数},
+           {20, &txt比熱比},
+           {21, &cbo絞り部材質},
+           {kElementExpansion, &txt絞り部膨張率},
+           {23, &cbo配管呼称径},
+           {24, &cbo配管種類},
+           {25, &cboSchedule},
+           {kPipeBore, &txt配管内径},
+           {kPipeExpansion, &txt配管線膨張率},
+           {kDifferential, &txt設計差圧},
+           {kBore, &txt絞り径}},
+          {{kMaxReynolds, &lblMaxReynolds},
+           {33, &lblNorReynolds},
+           {34, &lbl流出係数R},
+           {35, &lbl流量係数R},
+           {36, &lbl膨張補正係数R},
+           {37, &lbl表示β},
+           {38, &lbl四分円半径R},
+           {39, &lbl下流Tap位置},
+           {40, &lbl永久圧損R},
+           {41, &lbl使用下限},
+           {42, &lbl使用上限}}};
+}
+
 void frmOrifice::AddOrifice(int row) {
+  PutRecord(row, kFluid, RecordColumns());
   RecordWriter record(Space().tags, row);
-  record.PutTexts(EntryColumns());
-  record.PutTexts(ResultColumns());
-  record.PutIndex(kElementType, cbo絞り機構種類);
-  record.PutIndex(kFluid, cbo流体);
-  record.PutIndex(kFlowUnit, FlowUnitBox());
-  record.PutIndex(kPressureUnit, cbo圧力単位);
-  record.PutIndex(kTemperatureUnit, cbo温度単位);
-  record.PutIndex(kDensityUnit, DensityUnitBox());
-  record.PutIndex(kViscosityUnit, cbo粘性係数単位);
   record.PutFlag(kWetBase, base.optWetBase.Checked());
-  record.PutIndex(kSaturationUnit, humidity.cbo飽和水蒸気圧単位);
-  record.PutIndex(kDifferentialUnit, cbo設計差圧単位);
-  record.Put(kUnused1, "");
   record.Put(kOperatingDensity, NumberText(context_.rho));
   record.Put(kNormalDensity, NumberText(normalDensity_));
-  record.Put(kEquationEdition, equationEdition_);
-  record.Put(kUnused2, "");
-  record.Put(shell::kKindColumn, Space().activeSheetKind);
-  Space().tags.tagModified = true;
-}
-
-std::vector<std::pair<int, forms::Control*>> frmOrifice::EntryColumns() {
-  return {{0, &txtTagNo},
-          {1, &txt用途},
-          {4, &txt目盛流量},
-          {6, &txt常用流量},
-          {7, &txt圧力},
-          {9, &txt温度},
-          {11, &txt密度},
-          {13, &txt粘性係数},
-          {15, &humidity.txt相対湿度},
-          {17, &humidity.txt飽和水蒸気圧},
-          {19, &txt偏差係数},
-          {20, &txt比熱比},
-          {21, &cbo絞り部材質},
-          {kElementExpansion, &txt絞り部膨張率},
-          {23, &cbo配管呼称径},
-          {24, &cbo配管種類},
-          {25, &cboSchedule},
-          {kPipeBore, &txt配管内径},
-          {kPipeExpansion, &txt配管線膨張率},
-          {kDifferential, &txt設計差圧},
-          {kBore, &txt絞り径}};
-}
-
-std::vector<std::pair<int, Label*>> frmOrifice::ResultColumns() {
-  return {{kMaxReynolds, &lblMaxReynolds},
-          {33, &lblNorReynolds},
-          {34, &lbl流出係数R},
-          {35, &lbl流量係数R},
-          {36, &lbl膨張補正係数R},
-          {37, &lbl表示β},
-          {38, &lbl四分円半径R},
-          {kDownstreamTap, &lbl下流Tap位置},
-          {40, &lbl永久圧損R},
-          {41, &lbl使用下限},
-          {42, &lbl使用上限}};
+  record.Put(kEquationEdition, kEdition2007);
+  for (const int column : kUnused) record.Put(column, "");
 }
 
 void frmOrifice::GetOrifice(int row) {
-  const shell::TagRow record = Space().tags.Row(row);
-  if (record[shell::kKindColumn] != kKind) return;
-  ClearResults();
+  const shell::TagRow* const record = GetRecord(row, kFluid, [this] { return RecordColumns(); });
+  if (record == nullptr) return;
   context_.extrapolationMark.clear();
-  GetSelections(record);
-  GetEntries(record);
-  GetResults(record);
+  GetResults(*record);
   StoreEntries();
-}
-
-void frmOrifice::GetSelections(const shell::TagRow& record) {
-  Select(cbo絞り機構種類, record[kElementType]);
-  Select(cbo流体, record[kFluid]);
-  Select(FlowUnitBox(), record[kFlowUnit]);
-  Select(cbo圧力単位, record[kPressureUnit]);
-  Select(cbo温度単位, record[kTemperatureUnit]);
-  Select(DensityUnitBox(), record[kDensityUnit]);
-  Select(cbo粘性係数単位, record[kViscosityUnit]);
-  Select(humidity.cbo飽和水蒸気圧単位, record[kSaturationUnit]);
-  Select(cbo設計差圧単位, record[kDifferentialUnit]);
-  (IsSet(record[kWetBase]) ? base.optWetBase : base.optDryBase).SetChecked(true);
-}
-
-/// Material and pipe stand as texts, and finding them must not look anything up: what was stored
-/// holds. The humidity comes before the saturation pressure, whose field it switches on.
-void frmOrifice::GetEntries(const shell::TagRow& record) {
-  for (const auto& [column, control] : EntryColumns()) {
-    const std::string& text = record[static_cast<std::size_t>(column)];
-    if (dynamic_cast<ComboBox*>(control) != nullptr) {
-      const Quiet quiet(*this);
-      control->SetText(text);
-    } else {
-      control->SetText(text);
-    }
-  }
 }
 
 void frmOrifice::GetResults(const shell::TagRow& record) {
   const Quiet quiet(*this);
-  for (const auto& [column, label] : ResultColumns()) {
-    label->SetText(record[static_cast<std::size_t>(column)]);
-  }
+  (IsSet(At(record, kWetBase)) ? base.optWetBase : base.optDryBase).SetChecked(true);
   lbl絞り径結果R.SetText(txt絞り径.Text());
   lbl差圧結果R.SetText(txt設計差圧.Text());
   ShowUpstreamTapOf(record);
-  context_.rho = Val(record[kOperatingDensity]);
-  normalDensity_ = Val(record[kNormalDensity]);
+  context_.rho = Val(At(record, kOperatingDensity));
+  normalDensity_ = Val(At(record, kNormalDensity));
   const bool calculated = !lblMaxReynolds.Text().empty();
   Space().calcDone = calculated;
   if (calculated) CautionLoss();
@@ -168,7 +122,7 @@ void frmOrifice::ShowUpstreamTapOf(const shell::TagRow& record) {
       break;
     case flow::kDAndHalfDTapOrifice:
     case flow::kVenaContractaTapOrifice:
-      lbl上流Tap位置.SetText(record[kPipeBore]);
+      lbl上流Tap位置.SetText(At(record, kPipeBore));
       break;
     case flow::kCornerTapOrifice:
       lbl上流Tap位置.SetText("0");
@@ -180,7 +134,7 @@ void frmOrifice::ShowUpstreamTapOf(const shell::TagRow& record) {
 
 /// What was entered has few decimals, what was calculated those to which it is rounded.
 std::vector<shell::Sheet::Calculation> frmOrifice::CalculationsOf(const shell::TagRow& record) {
-  if (common::At(record, kMaxReynolds).empty()) return {};
+  if (At(record, kMaxReynolds).empty()) return {};
   const auto by = [this](OptionButton& mode) -> Calculation {
     return {mode.Text(), [this, &mode] {
               mode.Choose();
@@ -188,7 +142,7 @@ std::vector<shell::Sheet::Calculation> frmOrifice::CalculationsOf(const shell::T
             }};
   };
   std::vector<Calculation> ways = {by(opt差圧_絞り径), by(opt絞り径_差圧)};
-  if (Decimals(common::At(record, kDifferential)) > Decimals(common::At(record, kBore))) {
+  if (Decimals(At(record, kDifferential)) > Decimals(At(record, kBore))) {
     std::swap(ways[0], ways[1]);
   }
   return ways;

@@ -9,7 +9,7 @@ namespace sheets {
 /// Turns a flange rating and the body size of the valve sheet on top into the bore of the valve.
 class frmRating : public forms::Form {
  public:
-  static constexpr const char* kName = kRatingForm;
+  static constexpr const char* kName = "frmRating";
 
   forms::Label lblRating{*this, "lblRating", "フランジ規格"};
   forms::ListBox lstRating{*this, "lstRating", 16};

@@ -188,7 +188,7 @@ bool frmRO::ReadInputs(flow::RestrictionInputs& inputs) {
   inputs.p = process.pressureAbs;
   inputs.temperatureK = process.temperatureK;
   inputs.dP = Differential();
-  process.differentialPressure = inputs.dP * 10000;  // mmH2O
+  process.differentialPressure = inputs.dP * data::kMmH2OPerKgfCm2;
   inputs.z = process.compressibilityZ;
   inputs.kappa = Val(txt比熱比.Text());
   inputs.q = data::FlowToMass(process, Val(txt流量.Text()));

@@ -14,7 +14,6 @@ using common::NumberText;
 using common::RoundDigits;
 using common::Val;
 
-constexpr double kKpaPerMmH2O = data::kKpaPerKgfCm2 / 10000;
 constexpr const char* kRange = "###0.0";
 constexpr const char* kCavitation = "Cavitation";
 
@@ -141,7 +140,7 @@ void frmVortex::ShowSize(int i) {
   const flow::VortexRating& rating = common::At(chart_.ratings, i);
   lblMeterSize[i].SetText(common::At(chart_.sizes, i));
   lblRange[i].SetText(Format(rating.rangeLow, kRange) + "～" + Format(rating.rangeHigh, kRange));
-  lblDPkpa[i].SetText(Format(rating.pressureLoss * kKpaPerMmH2O, "###,##0.00"));
+  lblDPkpa[i].SetText(Format(rating.pressureLoss * data::kKpaPerMmH2O, "###,##0.00"));
   lblDPmm[i].SetText(Format(rating.pressureLoss, "###,##0"));
   lblHz[i].SetText(Format(rating.frequency, "##,##0.0"));
   lblRemarks[i].SetText(rating.cavitates ? kCavitation : "");
@@ -150,14 +149,16 @@ void frmVortex::ShowSize(int i) {
 
 /// What the list itself does not say.
 void frmVortex::CautionResults() {
-  const bool any = flow::RecommendedSize(chart_.ratings) >= 0;
   const bool noLowerLimit = std::any_of(
       chart_.ratings.begin(), chart_.ratings.end(),
       [](const flow::VortexRating& rating) { return rating.listed && rating.rangeLow == 0; });
   std::string note;
-  if (!any) note = "このメーカーに適用できるサイズはありません。";
-  if (noLowerLimit)
+  if (flow::RecommendedSize(chart_.ratings) < 0) {
+    note = "このメーカーに適用できるサイズはありません。";
+  }
+  if (noLowerLimit) {
     note = "密度が低く、測定下限を決める式がありません\n（下限 0 は目安になりません）。";
+  }
   lbl注意.SetForeColor(forms::kMagenta);
   lbl注意.SetText(note);
 }

@@ -11,12 +11,15 @@ namespace sheets {
 
 namespace {
 
+using common::PadLeftToBytes;
+using common::PadToBytes;
+
 constexpr const char* kTableHead1 =
     "サイズ         測定範囲        圧力損失   公称周波数　 　備  考  ";
 constexpr const char* kTableHead2 =
     "                (%FS)           (kPa)       (Hz)                ";
-constexpr double kKgfPerKpa = 0.0101972;
-constexpr double kPictureGap = 200;  // twips
+constexpr double kKgfCm2PerKpa = 0.0101972;  // rounded, and meant so
+constexpr double kPictureGap = 200;          // twips
 
 /// The longest labels of this page set the column of all values.
 constexpr int kLabelBytes = 24;
@@ -30,7 +33,7 @@ bool frmVortex::PrintVortex(shell::PrintSurface& target) {
   PrintEntries(page);
   page.Gap();
   page.Section("計 算 結 果");
-  page.Line(common::PadToBytes("メーカー   ", kLabelBytes), cboMaker.Text());
+  page.Line(PadToBytes("メーカー   ", kLabelBytes), cboMaker.Text());
   page.Text(kTableHead1);
   page.Text(kTableHead2);
   for (int i = 0; i < kSizes; ++i) {
@@ -46,7 +49,7 @@ bool frmVortex::PrintVortex(shell::PrintSurface& target) {
 void frmVortex::PrintEntries(CalculationPage& page) {
   const auto line = [&page](const char* label, const std::string& value,
                             const std::string& unit = {}) {
-    page.Line(common::PadToBytes(label, kLabelBytes), value, unit);
+    page.Line(PadToBytes(label, kLabelBytes), value, unit);
   };
   const std::string flowUnit = FlowUnitBox().Text();
   const std::string& vapourPressure = vapour.txt飽和蒸気圧.Text();
@@ -68,17 +71,15 @@ void frmVortex::PrintEntries(CalculationPage& page) {
 
 /// Below the heads of the table: size, range, loss, frequency, remark.
 std::string frmVortex::PageLine(int i) const {
-  const auto right = [](const std::string& text, int bytes) {
-    return common::PadLeftToBytes(text, bytes);
-  };
   const std::string& range = lblRange[i].Text();
   const std::string mark = "～";
   const auto middle = range.find(mark);
-  std::string line = right(lblMeterSize[i].Text(), 5) + right(range.substr(0, middle), 13) + mark +
-                     common::PadToBytes(range.substr(middle + mark.size()), 7) +
-                     right(lblDPkpa[i].Text(), 11) + right(lblHz[i].Text(), 11);
+  std::string line = PadLeftToBytes(lblMeterSize[i].Text(), 5) +
+                     PadLeftToBytes(range.substr(0, middle), 13) + mark +
+                     PadToBytes(range.substr(middle + mark.size()), 7) +
+                     PadLeftToBytes(lblDPkpa[i].Text(), 11) + PadLeftToBytes(lblHz[i].Text(), 11);
   std::string remark = lblRemarks[i].Text();
-  if (GroupedNumber(lblDPkpa[i].Text()) * kKgfPerKpa > Process().pressureAbs) {
+  if (GroupedNumber(lblDPkpa[i].Text()) * kKgfCm2PerKpa > Process().pressureAbs) {
     remark += (remark.empty() ? "" : " ") + std::string("(Excessive ⊿P)");
   }
   return line + (remark.empty() ? "" : "      " + remark);

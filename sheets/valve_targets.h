@@ -6,12 +6,6 @@
 
 namespace sheets {
 
-/// Form names of the dialogues of the valve sheet, to be opened over it.
-inline constexpr const char* kRatingForm = "frmRating";
-inline constexpr const char* k本山微少弁Form = "frm本山微少弁";
-inline constexpr const char* k山武微少弁Form = "frm山武微少弁";
-inline constexpr const char* kCv計算補正Form = "frmCv計算補正";
-
 /// A valve sheet whose bore the flange rating dialogue can fill.
 class RatingTarget {
  public:
@@ -23,6 +17,17 @@ class RatingTarget {
   /// A rating has been chosen for the body size: the rating's line in the list and the bore in mm
   /// as the bore table has it.
   virtual void TakeRating(const std::string& rating, const std::string& bore) = 0;
+};
+
+/// A valve sheet that the table of trims can fill.
+class TrimTarget {
+ public:
+  virtual ~TrimTarget() = default;
+  /// Positions in the valve catalogue, -1 for none.
+  virtual int MakerIndex() const = 0;
+  virtual int ModelIndex() const = 0;
+  /// The trim of this row of the model has been chosen.
+  virtual void TakeTrim(int row) = 0;
 };
 
 /// A valve sheet that can tell how its last sizing was corrected.

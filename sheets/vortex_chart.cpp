@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "shell/print_surface.h"
+
 namespace sheets {
 
 namespace {
 
-constexpr const char* kFont = "ＭＳ ゴシック";
 constexpr double kLetterSize = 9;          // points
 constexpr forms::Color kFaint = 0xA8A8A8;  // lines of the chart
 constexpr double kLeft = 620;              // room for the sizes, twips
@@ -19,13 +20,13 @@ constexpr double kRowUnits = 10;  // units from row to row
 constexpr double kFirstTop = 2;   // top of the first bar
 constexpr double kBarUnits = 6;
 
-class Chart {
+class Drawing {
  public:
-  Chart(const VortexChart& chart, forms::DrawSurface& surface, double width, double height)
+  Drawing(const VortexChart& chart, forms::DrawSurface& surface, double width, double height)
       : chart_(chart), surface_(surface), width_(width), height_(height) {}
 
   void Draw() {
-    surface_.SetFont(kFont, kLetterSize);
+    surface_.SetFont(shell::kGothic, kLetterSize);
     surface_.SetLineWidth(1);
     DrawScale();
     for (std::size_t i = 0; i < chart_.ratings.size(); ++i) DrawRow(i);
@@ -46,7 +47,7 @@ class Chart {
     surface_.SetColor(kFaint);
     surface_.SetLineWidth(0.5);
     surface_.Rectangle(X(0), kTop, X(kEnd), end);
-    for (int percent = 0; percent <= 120; percent += 20) {
+    for (int percent = 0; percent <= kEnd; percent += 20) {
       surface_.SetColor(kFaint);
       surface_.Line(X(percent), kTop, X(percent), end);
       const std::string text = std::to_string(percent);
@@ -65,10 +66,10 @@ class Chart {
     const double bottom = Y(kRowUnits * static_cast<double>(i) + kFirstTop + kBarUnits);
     const bool missing = chart_.calculated && !rating.made;
     surface_.SetColor(missing ? kFaint : forms::kBlack);
-    surface_.SetFont(kFont, kLetterSize, rating.listed);
+    surface_.SetFont(shell::kGothic, kLetterSize, rating.listed);
     surface_.Text(kLeft - surface_.TextWidth(chart_.sizes[i]) - 80,
                   (top + bottom - surface_.TextHeight()) / 2, chart_.sizes[i]);
-    surface_.SetFont(kFont, kLetterSize, false);
+    surface_.SetFont(shell::kGothic, kLetterSize, false);
     if (!rating.made || rating.rangeLow >= 100) return;
     surface_.SetColor(forms::kBlue);
     surface_.FilledRectangle(X(rating.rangeLow), top, X(rating.rangeHigh), bottom);
@@ -102,7 +103,7 @@ class Chart {
 
 void DrawVortexChart(const VortexChart& chart, forms::DrawSurface& surface, double width,
                      double height) {
-  Chart(chart, surface, width, height).Draw();
+  Drawing(chart, surface, width, height).Draw();
 }
 
 }  // namespace sheets

@@ -6,6 +6,7 @@
 #include "sheets/frm_cable.h"
 #include "sheets/frm_cv.h"
 #include "sheets/frm_cv_correction.h"
+#include "sheets/frm_cv_set.h"
 #include "sheets/frm_duct_list.h"
 #include "sheets/frm_edit_cv_spec.h"
 #include "sheets/frm_edit_prop_data.h"

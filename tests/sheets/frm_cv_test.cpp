@@ -1,9 +1,7 @@
 #include "sheets/frm_cv.h"
 
-#include <cmath>
 #include <sstream>
 
-#include "common/number.h"
 #include "shell/tag_commands.h"
 #include "tests/sheets/sheet_test.h"
 
@@ -30,6 +28,7 @@ class CvTest : public SheetTest {
   }
   bool Visible(const std::string& name) { return Find(name).Visible(); }
   shell::Workspace& Space() { return bench.Space(); }
+  frmCV& Sheet() { return dynamic_cast<frmCV&>(*bench.Forms().Active()); }
 
   /// 50 m3/h of water from 10 to 8 kgf/cm2 absolute (mmHg, 4, has no atmosphere to lose).
   void EnterWater() {
@@ -166,7 +165,7 @@ TEST_F(CvTest, MarksFlashingAndChokedFlow) {
   EXPECT_TRUE(Visible("lblCritical"));  // 0.5 FL^2 p1 = 4.05
   Click("cmdSizingData消去");
   EXPECT_FALSE(Visible("lblCritical"));  // the Cv stage knows no FL
-  dynamic_cast<frmCV&>(*bench.Forms().Active()).GetCV(1);
+  Sheet().GetCV(1);
   EXPECT_TRUE(Visible("lblFlash") && Visible("lblCritical"));  // not stored, but known
 }
 
@@ -419,8 +418,7 @@ TEST_F(CvTest, CorrectionOpensTheFormOfTheValve) {
   EXPECT_EQ(bench.Forms().Active()->Name(), "frmCV");
   Rate();
   EXPECT_LT(Number("lblISA計算Cv"), Number("lblSizingCv"));
-  const auto& sheet = dynamic_cast<frmCV&>(*bench.Forms().Active());
-  const valve::CorrectionDetail detail = sheet.Correction();
+  const valve::CorrectionDetail detail = Sheet().Correction();
   EXPECT_NEAR(Number("lblISA計算Cv") / *detail.fr, Number("lblSizingCv"), 0.02);
   EXPECT_NE(Text("lbl注意").find("危険側"), std::string::npos);
   Click("lblSizingCv");
@@ -453,12 +451,11 @@ TEST_F(CvTest, RecalledTagWithoutAFlowMissesData) {
   Rate();
   shell::RegisterTag(Space());
   Space().tags.SetText(1, 3, "");
-  auto& sheet = dynamic_cast<frmCV&>(*bench.Forms().Active());
   for (const char* model : {"", "06-M 微少流量弁"}) {
     SCOPED_TRACE(model);
     Space().tags.SetText(1, 25, "本山（標準値）");
     Space().tags.SetText(1, 27, model);
-    sheet.GetCV(1);
+    Sheet().GetCV(1);
     Click("cmdSizing");
     EXPECT_EQ(TakeTexts(), kMissing);
   }
@@ -476,10 +473,9 @@ TEST_F(CvTest, RecallOfAValveThatIsNoLongerListed) {
   tags.SetText(1, 7, "0");
   tags.SetText(1, 28, "");
   Click("cmdAllData消去");
-  auto& sheet = dynamic_cast<frmCV&>(*bench.Forms().Active());
-  sheet.GetCV(1);
+  Sheet().GetCV(1);
   EXPECT_EQ(Text("cboMaker") + Text("cboValveModel"), "廃業メーカー旧形弁");
-  EXPECT_EQ(sheet.MakerIndex(), -1);
+  EXPECT_EQ(Sheet().MakerIndex(), -1);
   EXPECT_EQ(Text("txtFL"), "0.9");
   EXPECT_EQ(Text("txtCvv"), "99");
   EXPECT_EQ(Text("lblSizingCv"), "41.26");
@@ -487,9 +483,9 @@ TEST_F(CvTest, RecallOfAValveThatIsNoLongerListed) {
   Click("cmdSizing");
   EXPECT_EQ(Text("lblSizingCv"), "41.26");
   tags.SetText(1, 29, "");  // an entry that a calculation would fill with its default
-  sheet.GetCV(1);
+  Sheet().GetCV(1);
   EXPECT_EQ(Text("txtFL"), "");
-  sheet.AddCV(1);
+  Sheet().AddCV(1);
   EXPECT_EQ(tags.Text(1, 25), "廃業メーカー");
   // A maker typed by hand brings his models.
   Find<forms::ComboBox>("cboMaker").SetText(Find<forms::ComboBox>("cboMaker").Items()[4]);

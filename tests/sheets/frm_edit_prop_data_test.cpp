@@ -1,7 +1,6 @@
 #include "sheets/frm_edit_prop_data.h"
 
 #include "common/file.h"
-#include "common/number.h"
 #include "shell/page_recorder.h"
 #include "tests/sheets/sheet_test.h"
 #include "tests/support/data_folder.h"

@@ -1,7 +1,5 @@
-#include <cmath>
 #include <functional>
 
-#include "common/number.h"
 #include "tests/sheets/sheet_test.h"
 
 namespace sheets {
