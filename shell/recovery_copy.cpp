@@ -103,6 +103,13 @@ RecoveryCopy Read(std::string_view bytes) {
   return copy;
 }
 
+/// FNV-1a, 64 bits, and the length.
+std::string FingerprintOf(std::string_view bytes) {
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  return std::to_string(hash) + "-" + std::to_string(bytes.size());
+}
+
 }  // namespace
 
 std::string EncodeRecovery(const RecoveryCopy& copy) {
@@ -120,13 +127,6 @@ std::optional<RecoveryCopy> ParseRecovery(std::string_view bytes) {
   } catch (const RuntimeFault&) {
     return std::nullopt;
   }
-}
-
-/// FNV-1a, 64 bits, and the length.
-std::string FingerprintOf(std::string_view bytes) {
-  std::uint64_t hash = 14695981039346656037U;
-  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
-  return std::to_string(hash) + "-" + std::to_string(bytes.size());
 }
 
 std::string FileFingerprint(const std::string& path) {
