@@ -18,7 +18,6 @@ namespace {
 
 constexpr const char* kUser = "User";
 constexpr const char* kScreen = "ExeScrn";
-constexpr int kFirstUserButton = 29;
 
 /// A stored number, or the default when it is missing or damaged.
 int NumberSetting(const Workspace& workspace, const char* key, int byDefault) {
