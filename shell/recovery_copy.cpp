@@ -1,10 +1,10 @@
 #include "shell/recovery_copy.h"
 
-#include <charconv>
 #include <utility>
 
 #include "common/fault.h"
 #include "common/file.h"
+#include "common/parse.h"
 
 namespace shell {
 
@@ -41,14 +41,11 @@ void Require(bool holds) {
   if (!holds) throw RuntimeFault(Fault::kFileAccess);
 }
 
-/// A whole number that fills the text.
 template <class Number>
 Number NumberIn(std::string_view text) {
-  Number number = 0;
-  const auto end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number);
-  Require(result.ec == std::errc() && result.ptr == end);
-  return number;
+  const auto number = common::ParseNumber<Number>(text);
+  Require(number.has_value());
+  return *number;
 }
 
 /// Takes texts off the bytes; raises kFileAccess where there is none.
