@@ -244,7 +244,7 @@ void Viewport::Resize(double width, double height) {
 }
 
 void Viewport::Wheel(int lines) {
-  if (onWheel) Owner().RunEvent(this, [&] { onWheel(lines); });
+  if (onWheel) Fire([&] { onWheel(lines); });
 }
 
 ScrollBar::ScrollBar(Form& form, std::string name, Direction direction, int maximum)

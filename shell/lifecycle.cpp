@@ -74,7 +74,7 @@ void RestoreDucts(Workspace& workspace, const std::string& wanted) {
 }
 
 void RestoreFile(Workspace& workspace, const std::string& wanted) {
-  const std::string last = workspace.settings.Get(kScreen, "zephaFile");
+  const std::string last = workspace.settings.Get(kScreen, "ZephaFile");
   const std::string& path = wanted.empty() ? last : wanted;
   std::error_code error;
   // The last tag is one of the last file.

@@ -30,6 +30,7 @@ void TellNotPrinted(const Workspace& workspace) {
 /// One page: the frame, then the body of the sheet, if it has one. False if it has none.
 bool PrintPage(const Workspace& workspace, Sheet* sheet, forms::DrawSurface& target) {
   PrintSurface surface(target, workspace.printScale);
+  // The one sheet whose own part has no line for its tag number.
   const bool named = sheet != nullptr && workspace.activeSheetKind == "物性推算";
   PrintPageFrame(workspace, named ? sheet->TagNumber() : std::string(), surface);
   const PageGeometry page;
