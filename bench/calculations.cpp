@@ -1,6 +1,6 @@
 #include <benchmark/benchmark.h>
 
-#include "common/file.h"
+#include "bench.h"
 #include "data/steam.h"
 #include "data/units.h"
 #include "flow/differential_pressure.h"
@@ -12,12 +12,6 @@
 #include "valve/sizing.h"
 
 namespace {
-
-/// A user who agrees to everything.
-class Agreeing : public common::Messages {
- public:
-  common::Answer Present(const common::Message&) override { return common::Answer::kYes; }
-};
 
 const shell::Tables& Tables() {
   static const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
@@ -65,7 +59,7 @@ common::Real ReNor(const flow::Context& context) {
 }
 
 void SolveBore(benchmark::State& state, flow::Context context) {
-  Agreeing user;
+  bench::Agreeing user;
   const common::Real reNor = ReNor(context);
   for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(flow::SolveBore(context, Tables().orifice, reNor, user));
@@ -78,7 +72,7 @@ BENCHMARK_CAPTURE(SolveBore, water, Water());
 BENCHMARK_CAPTURE(SolveBore, gas, Compressible(flow::kGas));
 
 void SolveDifferentialForSteam(benchmark::State& state) {
-  Agreeing user;
+  bench::Agreeing user;
   flow::Context context = Compressible(flow::kSteam);
   context.boreToDifferential = true;
   const common::Real reNor = ReNor(context);
@@ -199,7 +193,7 @@ BENCHMARK_CAPTURE(SizeValve, liquid, data::kLiquid);
 BENCHMARK_CAPTURE(SizeValve, steam, data::kSteam);
 
 void ValveNoise(benchmark::State& state) {
-  Agreeing user;
+  bench::Agreeing user;
   valve::Service service = ValveService(data::kSteam);
   const valve::SelectedValve valve = FourInchValve();
   for ([[maybe_unused]] auto _ : state) {
@@ -223,7 +217,7 @@ BENCHMARK_CAPTURE(TemperatureOfOutput, pt100, temperature::kPt100, 175.86);
 
 /// A straight 16 mm well in 2 m/s of water.
 void AnalyseThermowell(benchmark::State& state) {
-  Agreeing user;
+  bench::Agreeing user;
   temperature::Thermowell well;
   well.totalLength = 0.25;
   well.insertionLength = 0.15;

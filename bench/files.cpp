@@ -4,34 +4,22 @@
 #include <cstdio>
 #include <string>
 
-#include "common/file.h"
+#include "bench.h"
 #include "shell/instrument_file.h"
 #include "shell/recovery.h"
 #include "shell/tables.h"
 
 namespace {
 
-/// Says nothing and agrees.
-class Silent : public common::Messages {
- public:
-  common::Answer Present(const common::Message&) override { return common::Answer::kYes; }
-};
-
 std::string TemporaryPath() { return "/tmp/zepha-bench-" + std::to_string(getpid()) + ".zph"; }
 
-/// 300 tags as the differential-pressure sheet writes them, from the sample plant.
+/// 300 tags of the sample plant.
 shell::TagStore FullStore(const shell::Tables& tables) {
-  Silent user;
+  bench::Agreeing user;
   shell::TagStore sample;
   shell::OpenInstrumentFile(sample, ZEPHA_SOURCE_DIR "/samples/plant.zph", tables.pipes,
                             tables.lists, user);
-  std::vector<shell::TagRow> rows = {sample.Row(0)};
-  for (int i = 0; i < shell::kMaxTags; ++i) {
-    rows.push_back(sample.Row(1 + i % sample.TagCount()));
-    rows.back()[0] = "FE-" + std::to_string(1000 + i);
-  }
-  shell::TagStore store;
-  store.TakeRows(std::move(rows));
+  shell::TagStore store = bench::FullStore(sample);
   store.zephaFileName = TemporaryPath();
   return store;
 }
@@ -39,7 +27,7 @@ shell::TagStore FullStore(const shell::Tables& tables) {
 void SaveFullStore(benchmark::State& state) {
   const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   shell::TagStore store = FullStore(tables);
-  Silent user;
+  bench::Agreeing user;
   for ([[maybe_unused]] auto _ : state) {
     if (!shell::SaveInstrumentFile(store, user)) state.SkipWithError("not saved");
   }
@@ -50,7 +38,7 @@ BENCHMARK(SaveFullStore)->Unit(benchmark::kMillisecond);
 void OpenFullStore(benchmark::State& state) {
   const shell::Tables tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   shell::TagStore store = FullStore(tables);
-  Silent user;
+  bench::Agreeing user;
   shell::SaveInstrumentFile(store, user);
   for ([[maybe_unused]] auto _ : state) {
     const bool opened =

@@ -2,16 +2,15 @@
 // against the whole workbench, each in processes of their own, in turn.
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QProcess>
 #include <QTimer>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "bench.h"
 #include "desktop/application.h"
 #include "desktop/main_window.h"
 #include "desktop/presenter.h"
@@ -52,16 +51,7 @@ int ShowWorkbench(QApplication& application, EndAtFirstPaint& end) {
 
 /// Milliseconds that a process of this program takes to its first paint.
 double TimeOf(const QString& program, const QString& what) {
-  QElapsedTimer timer;
-  timer.start();
-  QProcess::execute(program, {what});
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                   values.end());
-  return values[values.size() / 2];
+  return bench::MillisecondsOf([&] { QProcess::execute(program, {what}); });
 }
 
 int Compare(const QString& program) {
@@ -73,7 +63,8 @@ int Compare(const QString& program) {
     workbench.push_back(TimeOf(program, "workbench"));
   }
   std::printf("empty Qt main window %.1f ms, workbench %.1f ms, ratio %.2f (medians of %d)\n",
-              Median(empty), Median(workbench), Median(workbench) / Median(empty), kRuns);
+              bench::Median(empty), bench::Median(workbench),
+              bench::Median(workbench) / bench::Median(empty), kRuns);
   return 0;
 }
 

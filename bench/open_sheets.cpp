@@ -2,12 +2,11 @@
 // the button until the results are painted, on a tag of the sample plant. Medians.
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <vector>
 
+#include "bench.h"
 #include "desktop/application.h"
 #include "desktop/main_window.h"
 #include "desktop/presenter.h"
@@ -25,17 +24,12 @@ class Agreeing : public desktop::QtPresenter {
   common::Answer Present(const common::Message&) override { return common::Answer::kYes; }
 };
 
+/// Until all is painted.
 double MillisecondsOf(const std::function<void()>& work) {
-  QElapsedTimer timer;
-  timer.start();
-  work();
-  QApplication::processEvents();
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
+  return bench::MillisecondsOf([&work] {
+    work();
+    QApplication::processEvents();
+  });
 }
 
 /// The first tag of a kind, 0 for none.
@@ -56,7 +50,7 @@ double MedianOfCalculation(shell::Workspace& space, int row) {
     QApplication::processEvents();
     times.push_back(MillisecondsOf([&] { calculate->Click(); }));
   }
-  return Median(times);
+  return bench::Median(times);
 }
 
 }  // namespace
@@ -82,10 +76,10 @@ int main(int count, char** arguments) {
       if (run + 1 < kRuns) space.forms.Unload(*space.forms.ActiveSheet());
       QApplication::processEvents();
     }
-    std::printf("| %s | %.1f |", entry.form.c_str(), Median(opened));
+    std::printf("| %s | %.1f |", entry.form.c_str(), bench::Median(opened));
     const int row = RowOf(space.tags, entry.kind);
-    if (row > 0) std::printf(" %.2f |\n", MedianOfCalculation(space, row));
-    if (row == 0) std::printf(" |\n");
+    if (row > 0) std::printf(" %.2f", MedianOfCalculation(space, row));
+    std::printf(" |\n");
     std::fflush(stdout);
   }
   presenter.CloseAll();

@@ -1,17 +1,15 @@
 // 300 tags to one PDF, a page each, against the same texts and lines drawn on a PDF writer with
 // nothing of ours between: several runs in turn, medians.
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <variant>
 #include <vector>
 
+#include "bench.h"
 #include "desktop/paper/document.h"
 #include "desktop/paper/fonts.h"
 #include "headless/script_presenter.h"
@@ -22,7 +20,7 @@
 
 namespace {
 
-constexpr int kTags = 300;
+constexpr int kTags = shell::kMaxTags;
 constexpr int kRuns = 7;
 
 /// Pages that are kept as items.
@@ -81,18 +79,6 @@ void DrawBare(const std::vector<std::unique_ptr<shell::PageRecorder>>& pages, co
   }
 }
 
-double MillisecondsOf(const std::function<void()>& work) {
-  QElapsedTimer timer;
-  timer.start();
-  work();
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -105,11 +91,7 @@ int main(int count, char** arguments) {
   workbench.Start();
   shell::Workspace& space = workbench.Space();
   shell::OpenFileNamed(space, ZEPHA_SOURCE_DIR "/samples/plant.zph");
-  std::vector<shell::TagRow> rows = {space.tags.Row(0)};
-  for (int row = 0; row < kTags; ++row) {
-    rows.push_back(space.tags.Row(1 + row % space.tags.TagCount()));
-  }
-  space.tags.TakeRows(std::move(rows));
+  space.tags = bench::FullStore(space.tags);
 
   std::vector<std::unique_ptr<shell::PageRecorder>> pages;
   Print(space, std::make_unique<RecordingJob>(pages));
@@ -118,14 +100,15 @@ int main(int count, char** arguments) {
   std::vector<double> made;
   for (int run = 0; run < kRuns; ++run) {
     const QString path = folder.filePath(QStringLiteral("pages.pdf"));
-    ours.push_back(MillisecondsOf([&] { Print(space, desktop::StartPdf(path.toStdString())); }));
-    bare.push_back(MillisecondsOf([&] { DrawBare(pages, path); }));
-    made.push_back(MillisecondsOf([&] {
+    ours.push_back(
+        bench::MillisecondsOf([&] { Print(space, desktop::StartPdf(path.toStdString())); }));
+    bare.push_back(bench::MillisecondsOf([&] { DrawBare(pages, path); }));
+    made.push_back(bench::MillisecondsOf([&] {
       std::vector<std::unique_ptr<shell::PageRecorder>> again;
       Print(space, std::make_unique<RecordingJob>(again));
     }));
   }
   std::printf("%d pages to PDF: %.0f ms; bare toolkit: %.0f ms; sheets alone, no PDF: %.0f ms\n",
-              kTags, Median(ours), Median(bare), Median(made));
+              kTags, bench::Median(ours), bench::Median(bare), bench::Median(made));
   return 0;
 }

@@ -4,12 +4,10 @@
 #include <unistd.h>
 #include <xlsxwriter.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <vector>
 
+#include "bench.h"
 #include "shell/hidden_sheets.h"
 #include "shell/instrument_file.h"
 #include "shell/workbook_export.h"
@@ -17,7 +15,7 @@
 
 namespace {
 
-constexpr int kTags = 300;
+constexpr int kTags = shell::kMaxTags;
 constexpr int kRuns = 21;
 
 using shell::workbook::CellValue;
@@ -78,18 +76,6 @@ void WriteBare(const std::vector<Rows>& sheets, const std::string& path) {
   if (workbook_close(workbook) != LXW_NO_ERROR) std::fprintf(stderr, "not written\n");
 }
 
-double MillisecondsOf(const std::function<void()>& work) {
-  const auto begin = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
-      .count();
-}
-
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main() {
@@ -99,23 +85,18 @@ int main() {
   space.tables = shell::LoadTables(ZEPHA_BUILD_DIR);
   shell::OpenInstrumentFile(space.tags, ZEPHA_SOURCE_DIR "/samples/plant.zph", space.tables.pipes,
                             space.tables.lists, user);
-  std::vector<shell::TagRow> rows = {space.tags.Row(0)};
-  for (int i = 0; i < kTags; ++i) {
-    rows.push_back(space.tags.Row(1 + i % space.tags.TagCount()));
-    rows.back()[shell::kTagNumberColumn] = "TAG-" + std::to_string(1000 + i);
-  }
-  space.tags.TakeRows(std::move(rows));
+  space.tags = bench::FullStore(space.tags);
 
   const std::vector<Rows> cells = CellsOf(space);
   const std::string path = "/tmp/zepha-bench-" + std::to_string(getpid()) + ".xlsx";
   std::vector<double> ours;
   std::vector<double> bare;
   for (int run = 0; run < kRuns; ++run) {
-    ours.push_back(MillisecondsOf([&] { shell::WriteWorkbook(space, path); }));
-    bare.push_back(MillisecondsOf([&] { WriteBare(cells, path); }));
+    ours.push_back(bench::MillisecondsOf([&] { shell::WriteWorkbook(space, path); }));
+    bare.push_back(bench::MillisecondsOf([&] { WriteBare(cells, path); }));
   }
   std::remove(path.c_str());
   std::printf("%d tags to a workbook: %.1f ms; bare library: %.1f ms; ratio %.2f\n", kTags,
-              Median(ours), Median(bare), Median(ours) / Median(bare));
+              bench::Median(ours), bench::Median(bare), bench::Median(ours) / bench::Median(bare));
   return 0;
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/color.h"
@@ -36,21 +37,21 @@ class Control {
   virtual void SetText(std::string text);
 
   bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled);
+  void SetEnabled(bool enabled) { Change(enabled_, enabled); }
   bool Visible() const { return visible_; }
-  void SetVisible(bool visible);
+  void SetVisible(bool visible) { Change(visible_, visible); }
   /// Whether the user can act on it now.
   bool Usable() const { return enabled_ && visible_; }
   Color ForeColor() const { return foreColor_; }
-  void SetForeColor(Color color);
+  void SetForeColor(Color color) { Change(foreColor_, color); }
   Color BackColor() const { return backColor_; }
-  void SetBackColor(Color color);
+  void SetBackColor(Color color) { Change(backColor_, color); }
   const std::string& ToolTip() const { return toolTip_; }
-  void SetToolTip(std::string text);
+  void SetToolTip(std::string text) { Change(toolTip_, std::move(text)); }
   /// What the field wants: meaning, usual range, gestures. It is shown where the system's own tool
   /// tip has nothing to say, and below that. The unit is put behind its first sentence.
   const std::string& Hint() const { return hint_; }
-  void SetHint(std::string text);
+  void SetHint(std::string text) { Change(hint_, std::move(text)); }
 
   /// A name of its own for a screen reader; without one it is called by its place in the layout.
   const std::string& AccessibleName() const { return accessibleName_; }
@@ -75,8 +76,16 @@ class Control {
   void Fire(const std::function<void()>& handler);
   /// Tells whoever shows the form that this control looks different now.
   void TellChanged();
+  /// Gives a part of the state another value and tells it; false if it had that value already.
+  template <class T>
+  bool Change(T& part, T value) {
+    if (part == value) return false;
+    part = std::move(value);
+    TellChanged();
+    return true;
+  }
   /// Sets the text without an event; false if it stood there already.
-  bool ReplaceText(std::string text);
+  bool ReplaceText(std::string text) { return Change(text_, std::move(text)); }
 
  private:
   Form& form_;

@@ -22,50 +22,7 @@ void Control::TellChanged() {
   if (form_.Shown() != nullptr) form_.Shown()->ControlChanged(*this);
 }
 
-bool Control::ReplaceText(std::string text) {
-  if (text_ == text) return false;
-  text_ = std::move(text);
-  TellChanged();
-  return true;
-}
-
 void Control::SetText(std::string text) { ReplaceText(std::move(text)); }
-
-void Control::SetEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  enabled_ = enabled;
-  TellChanged();
-}
-
-void Control::SetVisible(bool visible) {
-  if (visible_ == visible) return;
-  visible_ = visible;
-  TellChanged();
-}
-
-void Control::SetForeColor(Color color) {
-  if (foreColor_ == color) return;
-  foreColor_ = color;
-  TellChanged();
-}
-
-void Control::SetBackColor(Color color) {
-  if (backColor_ == color) return;
-  backColor_ = color;
-  TellChanged();
-}
-
-void Control::SetToolTip(std::string text) {
-  if (toolTip_ == text) return;
-  toolTip_ = std::move(text);
-  TellChanged();
-}
-
-void Control::SetHint(std::string text) {
-  if (hint_ == text) return;
-  hint_ = std::move(text);
-  TellChanged();
-}
 
 Label::Label(Form& form, std::string name, std::string text, LabelStyle style)
     : Control(form, std::move(name)), style_(style) {
@@ -73,10 +30,7 @@ Label::Label(Form& form, std::string name, std::string text, LabelStyle style)
 }
 
 TextBox::TextBox(Form& form, std::string name, KeyFilter acceptsKey, int byteLimit)
-    : Control(form, std::move(name)),
-      acceptsKey_(acceptsKey),
-      byteLimit_(byteLimit),
-      numeric_(acceptsKey != AnyKey) {}
+    : Control(form, std::move(name)), acceptsKey_(acceptsKey), byteLimit_(byteLimit) {}
 
 void TextBox::SetText(std::string text) {
   if (!ReplaceText(std::move(text))) return;
@@ -144,25 +98,6 @@ void ListControl::SetItems(std::vector<std::string> items) {
 void ListControl::SetItem(int index, std::string text) {
   common::At(items_, index) = std::move(text);
   if (index == index_) ReplaceText(items_[static_cast<std::size_t>(index)]);
-  TellChanged();
-}
-
-void ListControl::InsertItem(int index, std::string text) {
-  if (index < 0 || index > Count()) common::RaiseFault(common::Fault::kIndexOutOfRange);
-  items_.insert(items_.begin() + index, std::move(text));
-  if (index_ >= index) ++index_;
-  TellChanged();
-}
-
-void ListControl::RemoveItem(int index) {
-  common::At(items_, index);
-  items_.erase(items_.begin() + index);
-  if (index_ == index) {
-    index_ = -1;
-    ReplaceText({});
-  } else if (index_ > index) {
-    --index_;
-  }
   TellChanged();
 }
 
@@ -254,16 +189,8 @@ CheckControl::CheckControl(Form& form, std::string name, std::string text)
   ReplaceText(std::move(text));
 }
 
-void CheckControl::Mark(bool checked) {
-  if (checked_ == checked) return;
-  checked_ = checked;
-  TellChanged();
-}
-
 void CheckControl::SetChecked(bool checked) {
-  if (checked_ == checked) return;
-  Mark(checked);
-  Fire(onClick);
+  if (Mark(checked)) Fire(onClick);
 }
 
 OptionButton::OptionButton(Form& form, std::string name, std::string text, std::string group)
@@ -317,7 +244,7 @@ void Viewport::Resize(double width, double height) {
 }
 
 void Viewport::Wheel(int lines) {
-  if (onWheel) Owner().RunEvent(this, [&] { onWheel(lines); });
+  if (onWheel) Fire([&] { onWheel(lines); });
 }
 
 ScrollBar::ScrollBar(Form& form, std::string name, Direction direction, int maximum)
@@ -340,11 +267,7 @@ void ScrollBar::SetSmallChange(int step) {
 }
 
 void ScrollBar::SetValue(int value) {
-  value = std::clamp(value, 0, maximum_);
-  if (value == value_) return;
-  value_ = value;
-  TellChanged();
-  Fire(onChange);
+  if (Change(value_, std::clamp(value, 0, maximum_))) Fire(onChange);
 }
 
 Grid::Grid(Form& form, std::string name, std::vector<Column> columns, int visibleRows)

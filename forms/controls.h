@@ -59,9 +59,7 @@ class TextBox : public Control {
   void Undo();
 
   /// Whether the field holds a number, which stands to the right.
-  bool IsNumeric() const { return numeric_; }
-  /// The field's key filter.
-  KeyFilter AcceptsKey() const { return acceptsKey_; }
+  bool IsNumeric() const { return acceptsKey_ != AnyKey; }
 
   std::function<void()> onChange;
   /// Enter pressed; without a handler the focus walks to the next field.
@@ -71,7 +69,6 @@ class TextBox : public Control {
  private:
   KeyFilter acceptsKey_;
   int byteLimit_;
-  bool numeric_;
   std::optional<std::string> undoText_;
 };
 
@@ -87,8 +84,6 @@ class ListControl : public Control {
   void SetItems(std::vector<std::string> items);
   /// Replaces one entry in place.
   void SetItem(int index, std::string text);
-  void InsertItem(int index, std::string text);
-  void RemoveItem(int index);
 
   /// Selected entry from 0, -1 for none.
   int Index() const { return index_; }
@@ -194,7 +189,8 @@ class CheckControl : public Control {
   virtual void Choose() = 0;
 
  protected:
-  void Mark(bool checked);
+  /// Sets the mark without an event; false if it stood there already.
+  bool Mark(bool checked) { return Change(checked_, checked); }
 
  private:
   bool checked_ = false;

@@ -12,6 +12,8 @@ namespace forms {
 /// twips (56.7 a millimetre) from the top left corner, y downwards.
 class DrawSurface {
  public:
+  using Points = std::vector<std::pair<double, double>>;
+
   DrawSurface() = default;
   DrawSurface(const DrawSurface&) = delete;
   DrawSurface& operator=(const DrawSurface&) = delete;
@@ -25,8 +27,8 @@ class DrawSurface {
 
   virtual void Line(double x1, double y1, double x2, double y2) = 0;
   virtual void DashedLine(double x1, double y1, double x2, double y2) = 0;
-  virtual void Polyline(const std::vector<std::pair<double, double>>& points) = 0;
-  virtual void FilledPolygon(const std::vector<std::pair<double, double>>& points) = 0;
+  virtual void Polyline(const Points& points) = 0;
+  virtual void FilledPolygon(const Points& points) = 0;
   virtual void Rectangle(double x1, double y1, double x2, double y2) = 0;
   virtual void FilledRectangle(double x1, double y1, double x2, double y2) = 0;
   virtual void Ellipse(double centreX, double centreY, double radiusX, double radiusY) = 0;

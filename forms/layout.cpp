@@ -1,5 +1,7 @@
 #include "forms/layout.h"
 
+#include <utility>
+
 namespace forms {
 
 namespace {

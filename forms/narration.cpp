@@ -168,8 +168,8 @@ class Narration::TableReader {
   /// The unit of the field in front, and of those before it that have none.
   void ReadUnit(const Cell& cell) {
     for (Control* field : withoutUnit_) {
-      for (Words& words : WordsOf(cell))
-        narration_.places_[field].units.push_back(std::move(words));
+      std::vector<Words>& units = narration_.places_[field].units;
+      for (Words& words : WordsOf(cell)) units.push_back(std::move(words));
     }
     if (!withoutUnit_.empty()) {
       for (const Control* selector : cell.Controls()) {

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "forms/draw_surface.h"
 
@@ -26,12 +24,8 @@ class PlacedSurface : public DrawSurface {
   void DashedLine(double x1, double y1, double x2, double y2) override {
     target_.DashedLine(X(x1), Y(y1), X(x2), Y(y2));
   }
-  void Polyline(const std::vector<std::pair<double, double>>& points) override {
-    target_.Polyline(Placed(points));
-  }
-  void FilledPolygon(const std::vector<std::pair<double, double>>& points) override {
-    target_.FilledPolygon(Placed(points));
-  }
+  void Polyline(const Points& points) override { target_.Polyline(Placed(points)); }
+  void FilledPolygon(const Points& points) override { target_.FilledPolygon(Placed(points)); }
   void Rectangle(double x1, double y1, double x2, double y2) override {
     target_.Rectangle(X(x1), Y(y1), X(x2), Y(y2));
   }
@@ -52,9 +46,8 @@ class PlacedSurface : public DrawSurface {
  private:
   double X(double x) const { return x_ + x * scale_; }
   double Y(double y) const { return y_ + y * scale_; }
-  std::vector<std::pair<double, double>> Placed(
-      const std::vector<std::pair<double, double>>& points) const {
-    std::vector<std::pair<double, double>> placed;
+  Points Placed(const Points& points) const {
+    Points placed;
     placed.reserve(points.size());
     for (const auto& [x, y] : points) placed.emplace_back(X(x), Y(y));
     return placed;

@@ -1,21 +1,7 @@
-#include <algorithm>
-#include <string>
-#include <vector>
-
 #include "fuzz/fuzz.h"
 #include "shell/duct_file.h"
 
-namespace {
-
 using fuzz::Require;
-
-bool HasQuote(const std::vector<shell::DuctRow>& rows) {
-  return std::any_of(rows.begin(), rows.end(), [](const shell::DuctRow& row) {
-    return std::any_of(row.begin(), row.end(), fuzz::HasQuote);
-  });
-}
-
-}  // namespace
 
 /// Whatever the bytes, there are at most 20 ducts; they can be listed and saved, and are read back
 /// unchanged.
@@ -27,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   store.MoveDown();
   store.MoveUp();
   const std::string saved = shell::EncodeDuctFile(store);
-  if (HasQuote(read.rows)) return 0;
+  if (fuzz::AnyHasQuote(read.rows)) return 0;
   const shell::DuctFileContents again = shell::ParseDuctFile(saved);
   Require(!again.fault && again.rows == read.rows);
   return 0;

@@ -1,11 +1,11 @@
 #include "headless/driver.h"
 
 #include <algorithm>
-#include <charconv>
 #include <exception>
 #include <filesystem>
 #include <utility>
 
+#include "common/parse.h"
 #include "common/text.h"
 #include "forms/controls.h"
 #include "headless/states.h"
@@ -34,14 +34,6 @@ std::string TakeWord(std::string& line) {
 /// The rest of a line as one text, blanks and all.
 std::string WholeLine(const std::string& object, const std::string& text) {
   return text.empty() ? object : object + " " + text;
-}
-
-std::optional<int> WholeNumber(const std::string& text) {
-  int value = 0;
-  const char* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return value;
 }
 
 std::vector<std::string> ControlNames(const forms::Form& form) {
@@ -132,6 +124,14 @@ void Driver::Run(const std::string& line, Json& answer) {
   (this->*action->second)(object, rest, answer);
 }
 
+void Driver::RunGuarded(const std::function<void()>& command) {
+  try {
+    command();
+  } catch (const common::RuntimeFault& fault) {
+    presenter_.Show(fault.Text(), {}, common::Icon::kWarning);
+  }
+}
+
 void Driver::Misunderstand(std::string sentence) {
   misunderstood_ = true;
   throw Refusal{std::move(sentence)};
@@ -217,7 +217,7 @@ void Driver::Menu(const std::string& object, const std::string&, Json&) {
 }
 
 void Driver::PressButton(const std::string& object, const std::string&, Json&) {
-  const std::optional<int> number = WholeNumber(object);
+  const std::optional<int> number = common::ParseNumber<int>(object);
   const shell::ToolButton* const button = number ? workbench_.Window().Button(*number) : nullptr;
   if (button == nullptr) Misunderstand("There is no tool bar button " + object + ".");
   if (button->separator) return;
@@ -277,7 +277,7 @@ void Driver::Pick(const std::string& object, const std::string& text, Json&) {
     list->Pick(index);
     return;
   }
-  const std::optional<int> index = WholeNumber(text);
+  const std::optional<int> index = common::ParseNumber<int>(text);
   if (!index) Misunderstand("\"" + text + "\" is neither an entry's number nor =TEXT.");
   const auto checkRange = [&](int first, std::size_t count) {
     if (*index < first || *index >= static_cast<int>(count)) {
@@ -361,24 +361,17 @@ void Driver::TellWorkspace(const std::string&, const std::string&, Json& answer)
   answer.update(StateOf(workbench_.Space()));
 }
 
-void Driver::RunGuarded(const std::function<void()>& command) {
-  try {
-    command();
-  } catch (const common::RuntimeFault& fault) {
-    presenter_.Show(fault.Text(), {}, common::Icon::kWarning);
-  }
-}
-
 void Driver::Row(const std::string& object, const std::string&, Json& answer) {
-  const std::optional<int> row = WholeNumber(object);
+  const std::optional<int> row = common::ParseNumber<int>(object);
   if (!row || *row < 0 || *row > shell::kMaxTags) Misunderstand("There is no row " + object + ".");
   answer["row"] = workbench_.Space().tags.Row(*row);
 }
 
 void Driver::DuctRow(const std::string& object, const std::string&, Json& answer) {
-  const std::optional<int> row = WholeNumber(object);
-  if (!row || *row < 0 || *row >= shell::kMaxDucts)
+  const std::optional<int> row = common::ParseNumber<int>(object);
+  if (!row || *row < 0 || *row >= shell::kMaxDucts) {
     Misunderstand("There is no row " + object + ".");
+  }
   answer["row"] = workbench_.Space().ducts.Row(*row);
 }
 
@@ -390,7 +383,7 @@ void Driver::Register(const std::string&, const std::string&, Json& answer) {
 
 void Driver::Recall(const std::string& object, const std::string&, Json&) {
   shell::Workspace& space = workbench_.Space();
-  const std::optional<int> row = WholeNumber(object);
+  const std::optional<int> row = common::ParseNumber<int>(object);
   if (!row || *row < 1 || *row > space.tags.TagCount()) {
     Misunderstand("There is no tag " + object + ".");
   }
@@ -483,23 +476,6 @@ void Driver::Export(const std::string& object, const std::string& text, Json& an
   answer["tags"] = std::max(space.tags.TagCount(), 0);
 }
 
-/// The copy as it is after the command before.
-void Driver::TellRecovery(const std::string&, const std::string&, Json& answer) {
-  const shell::Recovery& recovery = workbench_.Space().recovery;
-  answer["folder"] = recovery.Folder();
-  answer["copy"] = StateOf(recovery.Kept());
-  answer["trouble"] = recovery.Trouble();
-}
-
-void Driver::CloseForm(const std::string&, const std::string&, Json&) {
-  workbench_.Forms().Unload(ActiveForm());
-}
-
-void Driver::Quit(const std::string&, const std::string&, Json&) {
-  Close();
-  ended_ = true;
-}
-
 void Driver::Recalculate(const std::string& object, const std::string& text, Json& answer) {
   const std::string what = WholeLine(object, text);
   if (!what.empty() && what != "write") Misunderstand("recalculate knows \"write\" alone.");
@@ -519,6 +495,23 @@ void Driver::Recalculate(const std::string& object, const std::string& text, Jso
     answer["notes"].push_back({{"row", note.row}, {"tag", note.tag}, {"text", note.text}});
   }
   if (what == "write") recalculator.Write(recalculator.ChangedRows());
+}
+
+/// The copy as it is after the command before.
+void Driver::TellRecovery(const std::string&, const std::string&, Json& answer) {
+  const shell::Recovery& recovery = workbench_.Space().recovery;
+  answer["folder"] = recovery.Folder();
+  answer["copy"] = StateOf(recovery.Kept());
+  answer["trouble"] = recovery.Trouble();
+}
+
+void Driver::CloseForm(const std::string&, const std::string&, Json&) {
+  workbench_.Forms().Unload(ActiveForm());
+}
+
+void Driver::Quit(const std::string&, const std::string&, Json&) {
+  Close();
+  ended_ = true;
 }
 
 }  // namespace headless

@@ -82,10 +82,10 @@ class Driver {
   void Print(const std::string& object, const std::string& text, Json& answer);
   void PrintAll(const std::string& object, const std::string& text, Json& answer);
   void Export(const std::string& object, const std::string& text, Json& answer);
+  void Recalculate(const std::string& object, const std::string& text, Json& answer);
   void TellRecovery(const std::string& object, const std::string& text, Json& answer);
   void CloseForm(const std::string& object, const std::string& text, Json& answer);
   void Quit(const std::string& object, const std::string& text, Json& answer);
-  void Recalculate(const std::string& object, const std::string& text, Json& answer);
 
   ScriptPresenter presenter_;
   ScriptPlatform platform_{presenter_};

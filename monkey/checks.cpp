@@ -43,6 +43,21 @@ constexpr std::array kGoodReasons = {
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
+/// Whether a text holds "nan", "inf" or "infinity" as a word of its own.
+bool HoldsNoNumber(const std::string& text) {
+  constexpr std::array kWords = {std::string_view("nan"), std::string_view("inf"),
+                                 std::string_view("infinity")};
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!IsLetter(text[i])) continue;
+    std::string word;
+    for (; i < text.size() && IsLetter(text[i]); ++i) {
+      if (word.size() < 9) word += static_cast<char>(text[i] | 0x20);
+    }
+    if (std::find(kWords.begin(), kWords.end(), word) != kWords.end()) return true;
+  }
+  return false;
+}
+
 void CheckText(const std::string& text, const std::string& where) {
   if (HoldsNoNumber(text)) throw Finding{"no number in " + where + ": " + text};
 }
@@ -132,20 +147,6 @@ void CompareRows(const Row& kept, const Row& read, const std::string& where) {
 }
 
 }  // namespace
-
-bool HoldsNoNumber(const std::string& text) {
-  constexpr std::array kWords = {std::string_view("nan"), std::string_view("inf"),
-                                 std::string_view("infinity")};
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!IsLetter(text[i])) continue;
-    std::string word;
-    for (; i < text.size() && IsLetter(text[i]); ++i) {
-      if (word.size() < 9) word += static_cast<char>(text[i] | 0x20);
-    }
-    if (std::find(kWords.begin(), kWords.end(), word) != kWords.end()) return true;
-  }
-  return false;
-}
 
 void CheckAnswer(const Json& answer) {
   try {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "headless/driver.h"
 
@@ -11,9 +10,6 @@ namespace monkey {
 struct Finding {
   std::string what;
 };
-
-/// Whether a text holds "nan", "inf" or "infinity" as a word of its own.
-bool HoldsNoNumber(const std::string& text);
 
 /// What the driver answered: valid text throughout, finite numbers, and a refusal only for the
 /// reasons that a refusal may have.

@@ -2,11 +2,13 @@
 // events each run in processes and folders of their own, from the shipped data and the sample
 // plant; everything in them follows from the seed. What is found is shrunk to a short script.
 
+#include <algorithm>
 #include <chrono>
-#include <cstdint>
+#include <cinttypes>
 #include <cstdio>
-#include <fstream>
+#include <exception>
 #include <iostream>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -72,31 +74,25 @@ void Add(const monkey::Tally& from, monkey::Tally& to) {
 }
 
 void Tell(const monkey::TrialPlan& plan, const monkey::TrialResult& result) {
-  std::printf("FOUND with --seed %llu --trial %llu, event %zu: %s\n",
-              static_cast<unsigned long long>(plan.seed),
-              static_cast<unsigned long long>(plan.number), result.lines.size(),
-              result.finding.c_str());
+  std::printf("FOUND with --seed %" PRIu64 " --trial %" PRIu64 ", event %zu: %s\n", plan.seed,
+              plan.number, result.lines.size(), result.finding.c_str());
   std::printf("%s", result.report.substr(0, 6000).c_str());
   const std::vector<std::string> lines = monkey::Shrunk(plan, result);
   for (const std::string& line : lines) std::printf("  %s\n", line.c_str());
   const std::string folder = monkey::KeepForTheDriver(plan, lines).string();
   std::printf(
       "  cd %s && %s/zepha-headless --install-dir %s --settings %s script\n"
-      "  (lines behind #monkey: zepha-monkey --seed %llu --trial %llu --script %s/script)\n",
-      folder.c_str(), ZEPHA_BUILD_DIR, monkey::kDataFolder, monkey::kSettingsFile,
-      static_cast<unsigned long long>(plan.seed), static_cast<unsigned long long>(plan.number),
-      folder.c_str());
+      "  (lines behind #monkey: zepha-monkey --seed %" PRIu64 " --trial %" PRIu64
+      " --script %s/script)\n",
+      folder.c_str(), ZEPHA_BUILD_DIR, monkey::kDataFolder, monkey::kSettingsFile, plan.seed,
+      plan.number, folder.c_str());
   std::fflush(stdout);
 }
 
 /// One trial, told line by line.
 int RunOne(const Arguments& arguments, monkey::TrialPlan plan) {
   plan.number = *arguments.trial;
-  std::vector<std::string> lines;
-  if (!arguments.script.empty()) {
-    std::ifstream file(arguments.script);
-    for (std::string line; std::getline(file, line);) lines.push_back(line);
-  }
+  const std::vector<std::string> lines = monkey::LinesOf(arguments.script);
   const monkey::TrialResult result =
       monkey::RunOnDriver(plan, arguments.script.empty() ? nullptr : &lines);
   for (const std::string& line : result.lines) std::printf("%s\n", line.c_str());
@@ -155,9 +151,9 @@ int Run(const Arguments& arguments, monkey::TrialPlan plan) {
   for (const auto& [name, count] : tally.faults) std::printf("  %6ld  %s\n", count, name.c_str());
   std::printf("Slowest event: %.3f s of processor time: %.120s\n", tally.slowestSeconds,
               tally.slowestLine.c_str());
-  std::printf("%ld events in %.1f s, %.0f a second; %ld trials of %llu failed.\n", tally.events,
-              seconds.count(), static_cast<double>(tally.events) / seconds.count(), failures,
-              static_cast<unsigned long long>(plan.number));
+  std::printf("%ld events in %.1f s, %.0f a second; %ld trials of %" PRIu64 " failed.\n",
+              tally.events, seconds.count(), static_cast<double>(tally.events) / seconds.count(),
+              failures, plan.number);
   return failures == 0 ? 0 : 1;
 }
 

@@ -76,10 +76,8 @@ std::string Monkey::Next() {
   return line;
 }
 
-const forms::Form* Monkey::Front() const { return player_.Bench().Forms().Active(); }
-
 void Monkey::ThinkUp() {
-  const forms::Form* const front = Front();
+  const forms::Form* const front = player_.Bench().Forms().Active();
   if (front == nullptr) {
     if (random_.Percent(30)) UseWindow();
     OpenSomething();

@@ -38,7 +38,6 @@ class Monkey {
   std::string NewText(const std::string& present, bool plausible);
   std::string PickIndex(int count, bool plausible);
   const forms::Control* RarelyTouched(const forms::Form& form);
-  const forms::Form* Front() const;
 
   Player& player_;
   Tally& tally_;

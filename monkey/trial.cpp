@@ -59,13 +59,6 @@ void ReadResult(const std::string& text, TrialResult& result) {
   read.at("line").get_to(result.tally.slowestLine);
 }
 
-std::vector<std::string> LinesOf(const fs::path& path) {
-  std::vector<std::string> lines;
-  std::ifstream file(path);
-  for (std::string line; std::getline(file, line);) lines.push_back(line);
-  return lines;
-}
-
 /// The trial's own process, in the trial's folder.
 [[noreturn]] void Play(Random& random, bool sound,
                        const std::function<void(const TrialStage&)>& perform) {
@@ -104,6 +97,13 @@ std::string KindOf(const std::string& finding) {
 }
 
 }  // namespace
+
+std::vector<std::string> LinesOf(const fs::path& path) {
+  std::vector<std::string> lines;
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) lines.push_back(line);
+  return lines;
+}
 
 TrialResult RunTrial(const TrialPlan& plan, const std::function<void(const TrialStage&)>& perform) {
   const tests::TemporaryFolder own(BaseFolder());

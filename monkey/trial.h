@@ -40,6 +40,9 @@ struct TrialStage {
   std::function<void(const std::string& line)> note;
 };
 
+/// The lines of a text file; none when it cannot be read.
+std::vector<std::string> LinesOf(const std::filesystem::path& path);
+
 /// Runs a trial in a process and a folder of its own. perform throws a Finding to end it.
 TrialResult RunTrial(const TrialPlan& plan,
                      const std::function<void(const TrialStage& stage)>& perform);

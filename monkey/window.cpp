@@ -14,7 +14,10 @@
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
+#include <algorithm>
+#include <cinttypes>
 #include <cstdio>
+#include <exception>
 #include <iostream>
 #include <string>
 
@@ -261,6 +264,17 @@ void Perform(const monkey::TrialStage& stage) {
   presenter.CloseAll();
 }
 
+void Tell(const monkey::TrialPlan& plan, const monkey::TrialResult& result) {
+  std::printf("FOUND with --seed %" PRIu64 " in trial %" PRIu64 ": %s\n%s\nThe last events:\n",
+              plan.seed, plan.number, result.finding.c_str(),
+              result.report.substr(0, 6000).c_str());
+  const std::size_t first = result.lines.size() - std::min<std::size_t>(result.lines.size(), 25);
+  for (std::size_t i = first; i < result.lines.size(); ++i) {
+    std::printf("  %s\n", result.lines[i].c_str());
+  }
+  std::fflush(stdout);
+}
+
 }  // namespace
 
 int main(int count, char** values) {
@@ -282,17 +296,9 @@ int main(int count, char** values) {
     const monkey::TrialResult result = monkey::RunTrial(plan, Perform);
     if (result.finding.empty()) continue;
     ++failures;
-    std::printf("FOUND with --seed %llu in trial %llu: %s\n%s\nThe last events:\n",
-                static_cast<unsigned long long>(plan.seed),
-                static_cast<unsigned long long>(plan.number), result.finding.c_str(),
-                result.report.substr(0, 6000).c_str());
-    const std::size_t first = result.lines.size() - std::min<std::size_t>(result.lines.size(), 25);
-    for (std::size_t i = first; i < result.lines.size(); ++i) {
-      std::printf("  %s\n", result.lines[i].c_str());
-    }
-    std::fflush(stdout);
+    Tell(plan, result);
   }
-  std::printf("%ld events on the windows, %d trials of %llu failed.\n", events, failures,
-              static_cast<unsigned long long>(plan.number));
+  std::printf("%ld events on the windows, %d trials of %" PRIu64 " failed.\n", events, failures,
+              plan.number);
   return failures == 0 ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-# Shared by run and test: progress, clear failures, packages, build.
+# Shared by run, test and the scripts: the top folder, progress, clear failures, packages.
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 

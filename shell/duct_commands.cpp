@@ -5,6 +5,7 @@
 #include "shell/duct_file.h"
 #include "shell/file_questions.h"
 #include "shell/instrument_file.h"
+#include "shell/record_text.h"
 #include "shell/recovery_commands.h"
 #include "shell/tag_commands.h"
 #include "shell/workspace.h"
@@ -84,16 +85,8 @@ void SaveDuctListAs(Workspace& workspace) {
 void SaveDuctListNamed(Workspace& workspace, const std::string& path) {
   DuctStore& ducts = workspace.ducts;
   if (!HasDuctsToSave(ducts, workspace.Shown())) return;
-  const bool modified = ducts.ductModified;
-  const std::string before = std::exchange(ducts.ductFileName, WithExtension(path, kDuctExtension));
-  try {
-    SaveDuctFile(ducts, workspace.Shown());
-  } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file, unless it has that name already.
-    if (before != ducts.ductFileName) ducts.ductModified = modified;
-    ducts.ductFileName = before;
-    throw;
-  }
+  SaveUnderName(WithExtension(path, kDuctExtension), ducts.ductFileName, ducts.ductModified,
+                [&] { SaveDuctFile(ducts, workspace.Shown()); });
   KeepRecovery(workspace);
   RememberFile(workspace, ducts.ductFileName);
   ducts.CaptionList();

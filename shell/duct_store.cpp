@@ -24,13 +24,9 @@ std::vector<std::string> DuctStore::Lines() const {
   return lines;
 }
 
-std::string DuctStore::DuctFileTitle() const {
-  const std::string title = FileTitle(ductFileName);
-  return title.empty() ? "New File" : title;
-}
-
 void DuctStore::CaptionList(const std::string& colon) {
-  listCaption_ = "Duct List" + colon + DuctFileTitle();
+  const std::string title = FileTitle(ductFileName);
+  listCaption_ = "Duct List" + colon + (title.empty() ? "New File" : title);
 }
 
 void DuctStore::Select(int row) {

@@ -12,7 +12,7 @@ inline constexpr int kDuctFields = 153;
 inline constexpr int kMaxDucts = 20;
 inline constexpr int kDuctCables = 20;
 
-/// Fields of a duct. Between kSpan and kSumArea stand seven for each cable, see CableField.
+/// Fields of a duct. Between kDuctSpan and kDuctSumArea stand seven for each cable, see CableField.
 enum DuctField {
   kDuctName = 0,
   kDuctSpan = 1,
@@ -60,9 +60,8 @@ class DuctStore {
   const DuctRow& Row(int row) const;
   /// Names of the ducts.
   std::vector<std::string> Lines() const;
-  /// "New File", or the file's name without its extension.
-  std::string DuctFileTitle() const;
-  /// What stands above the list: the title of the file as it was when the list was last captioned.
+  /// What stands above the list: "New File", or the name without its extension of the file that was
+  /// open when the list was last captioned.
   const std::string& ListCaption() const { return listCaption_; }
   /// colon: the menu command that shows the list has one of its own.
   void CaptionList(const std::string& colon = "：");

@@ -5,6 +5,14 @@
 
 namespace shell {
 
+namespace {
+
+void Activate(forms::Form& form) {
+  form.RunEvent(nullptr, [&form] { form.Activate(); });
+}
+
+}  // namespace
+
 FormManager::~FormManager() = default;
 
 void FormManager::Provide(const std::string& name, Factory factory) {
@@ -15,6 +23,11 @@ std::vector<std::string> FormManager::KnownNames() const {
   std::vector<std::string> names;
   for (const auto& [name, factory] : factories_) names.push_back(name);
   return names;
+}
+
+FormManager::Forms::iterator FormManager::PlaceOf(const forms::Form& form) {
+  return std::find_if(open_.begin(), open_.end(),
+                      [&](const auto& other) { return other.get() == &form; });
 }
 
 forms::Form* FormManager::Find(const std::string& name) const {
@@ -37,10 +50,10 @@ forms::Form& FormManager::Show(const std::string& name) {
     form->SetPresenter(presenter_);
     form->RunEvent(nullptr, [&] { form->Load(); });
     presenter_->ShowForm(*form);
-    form->RunEvent(nullptr, [&] { form->Activate(); });
+    Activate(*form);
   } else {
     // One that is in front already is shown anew all the same: what it lists may have changed.
-    if (form == Active()) form->RunEvent(nullptr, [&] { form->Activate(); });
+    if (form == Active()) Activate(*form);
     MakeActive(*form);
     presenter_->RaiseForm(*form);
   }
@@ -48,22 +61,18 @@ forms::Form& FormManager::Show(const std::string& name) {
 }
 
 void FormManager::MakeActive(forms::Form& form) {
-  const auto found = std::find_if(open_.begin(), open_.end(),
-                                  [&](const auto& other) { return other.get() == &form; });
-  if (found == open_.end() || found + 1 == open_.end()) return;
-  std::rotate(found, found + 1, open_.end());
-  form.RunEvent(nullptr, [&] { form.Activate(); });
+  const auto place = PlaceOf(form);
+  if (place == open_.end() || place + 1 == open_.end()) return;
+  std::rotate(place, place + 1, open_.end());
+  Activate(form);
 }
 
 void FormManager::Unload(forms::Form& form) {
-  const auto found = std::find_if(open_.begin(), open_.end(),
-                                  [&](const auto& other) { return other.get() == &form; });
-  if (found == open_.end()) return;
+  if (PlaceOf(form) == open_.end()) return;
   form.RunEvent(nullptr, [&] { form.Unload(); });
   const bool wasInFront = Active() == &form;
   // Unload may have closed other forms, so the place is looked up again.
-  const auto place = std::find_if(open_.begin(), open_.end(),
-                                  [&](const auto& other) { return other.get() == &form; });
+  const auto place = PlaceOf(form);
   if (place == open_.end()) return;
   closed_.push_back(std::move(*place));
   open_.erase(place);
@@ -72,9 +81,7 @@ void FormManager::Unload(forms::Form& form) {
   if (!wasInFront || open_.empty()) return;
   // The sheet now on top takes the workspace over, even when a tool window stands before it.
   forms::Form* const sheet = ActiveSheet();
-  if (form.Role() == forms::FormRole::kSheet && sheet != nullptr) {
-    sheet->RunEvent(nullptr, [&] { sheet->Activate(); });
-  }
+  if (form.Role() == forms::FormRole::kSheet && sheet != nullptr) Activate(*sheet);
   presenter_->RaiseForm(*open_.back());
 }
 

@@ -69,11 +69,16 @@ class FormManager {
   };
 
  private:
+  using Forms = std::vector<std::unique_ptr<forms::Form>>;
+
+  /// Its place among the open forms, or their end.
+  Forms::iterator PlaceOf(const forms::Form& form);
+
   forms::Presenter* presenter_;
   std::map<std::string, Factory> factories_;
   /// The last one is in front.
-  std::vector<std::unique_ptr<forms::Form>> open_;
-  std::vector<std::unique_ptr<forms::Form>> closed_;
+  Forms open_;
+  Forms closed_;
 };
 
 }  // namespace shell

@@ -18,7 +18,6 @@ namespace {
 
 constexpr const char* kUser = "User";
 constexpr const char* kScreen = "ExeScrn";
-constexpr int kFirstUserButton = 29;
 
 /// A stored number, or the default when it is missing or damaged.
 int NumberSetting(const Workspace& workspace, const char* key, int byDefault) {
@@ -75,7 +74,7 @@ void RestoreDucts(Workspace& workspace, const std::string& wanted) {
 }
 
 void RestoreFile(Workspace& workspace, const std::string& wanted) {
-  const std::string last = workspace.settings.Get(kScreen, "zephaFile");
+  const std::string last = workspace.settings.Get(kScreen, "ZephaFile");
   const std::string& path = wanted.empty() ? last : wanted;
   std::error_code error;
   // The last tag is one of the last file.

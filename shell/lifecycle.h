@@ -21,7 +21,10 @@ void WorkspaceEnd(Workspace& workspace);
 /// The main window at its first place and size, with the sheet on top alone.
 void InitialisePlacement(Workspace& workspace);
 
-/// Starts the user's program behind a tool bar button (0 to 2); nothing happens without a command.
+/// The tool bar button of the first user program; the others follow.
+inline constexpr int kFirstUserButton = 29;
+
+/// Starts the user's program of an index (0 to 2); nothing happens without a command.
 void StartUserProgram(Workspace& workspace, int index);
 
 /// Shows the captions of the user programs on their buttons.

@@ -195,8 +195,8 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(26, "材料データベース", "material", menu.Opener("Material"));
   menu.SeparatorButton(27);
   menu.SeparatorButton(28);
-  for (int i = 0; i < 3; ++i) {
-    menu.Button(29 + i, "", "user-program",
+  for (int i = 0; i < static_cast<int>(UserPrograms().size()); ++i) {
+    menu.Button(kFirstUserButton + i, "", "user-program",
                 menu.Calls([i](Workspace& workspace) { StartUserProgram(workspace, i); }));
   }
 }

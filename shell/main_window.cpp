@@ -50,10 +50,10 @@ const Command* MainWindow::Find(const std::string& name) const {
   return found == commands_.end() ? nullptr : &*found;
 }
 
-Command* MainWindow::Edit(const std::string& name) {
+Command& MainWindow::Edit(const std::string& name) {
   const Command* const command = Find(name);
   if (command == nullptr) throw std::logic_error("no command " + name);
-  return &commands_[static_cast<std::size_t>(command - commands_.data())];
+  return commands_[static_cast<std::size_t>(command - commands_.data())];
 }
 
 const ToolButton* MainWindow::Button(int number) const {
@@ -64,13 +64,13 @@ const ToolButton* MainWindow::Button(int number) const {
 }
 
 void MainWindow::SetCommandEnabled(const std::string& name, bool enabled) {
-  Command& command = *Edit(name);
+  Command& command = Edit(name);
   command.enabled = enabled && command.run;
   TellChanged();
 }
 
 void MainWindow::SetChecked(const std::string& name, bool checked) {
-  Command& command = *Edit(name);
+  Command& command = Edit(name);
   command.checkable = true;
   command.checked = checked;
   TellChanged();
@@ -105,10 +105,6 @@ void MainWindow::Place(const WindowPlacement& placement) {
   if (onPlace) onPlace(placement);
 }
 
-void MainWindow::DropFile(const std::string& path) const {
-  if (onFileDropped) RunGuarded([&] { onFileDropped(path); });
-}
-
 void MainWindow::RunGuarded(const std::function<void()>& run) const {
   const auto copy = run;  // the command may rebuild the menus
   try {
@@ -130,6 +126,10 @@ bool MainWindow::Press(int number) {
   if (button == nullptr || !button->enabled || !button->run) return false;
   RunGuarded(button->run);
   return true;
+}
+
+void MainWindow::DropFile(const std::string& path) const {
+  if (onFileDropped) RunGuarded([&] { onFileDropped(path); });
 }
 
 void MainWindow::SetTitle(std::string title) {

@@ -25,7 +25,6 @@ struct MenuEntry {
   std::string name;
   std::string caption;
   std::vector<MenuEntry> entries;
-  bool IsSubmenu() const { return !entries.empty(); }
   bool IsSeparator() const { return name.empty(); }
 };
 
@@ -77,6 +76,8 @@ class MainWindow {
   /// Runs a command or presses a button; false if it is unknown, disabled or empty.
   bool Run(const std::string& name);
   bool Press(int number);
+  /// The user has dropped a file on the window.
+  void DropFile(const std::string& path) const;
 
   /// Where the window stands; whoever shows it keeps this up to date.
   const WindowPlacement& Placement() const { return placement_; }
@@ -98,12 +99,10 @@ class MainWindow {
   /// A command ended in a fault.
   std::function<void(const common::RuntimeFault&)> onFault;
 
-  /// The user has dropped a file on the window.
-  void DropFile(const std::string& path) const;
-
  private:
   void RunGuarded(const std::function<void()>& run) const;
-  Command* Edit(const std::string& name);
+  /// The command of that name; an unknown name is our own mistake and throws.
+  Command& Edit(const std::string& name);
   void TellChanged() const;
 
   std::vector<MenuEntry> menus_;

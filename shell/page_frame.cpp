@@ -26,6 +26,14 @@ void PrintDateBox(const Workspace& workspace, const PageGeometry& page, double w
   target.Write(LongDate(workspace.today()));
 }
 
+/// At the foot, so that it ends at the right edge whatever its characters.
+void PrintIssuerName(const std::string& name, const PageGeometry& page, PrintSurface& target) {
+  constexpr double kSize = 14;
+  target.SetFontSize(kSize * target.PrintScale());
+  target.MoveTo(page.right - target.TextWidth(name), 2 * page.charHeight + 264 * kTwipsPerMm);
+  target.Write(name);
+}
+
 }  // namespace
 
 std::chrono::year_month_day LocalDate() {
@@ -56,20 +64,10 @@ void PrintPageFrame(const Workspace& workspace, const std::string& tagNumber,
     target.Write(tagNumber);
   }
   PrintDateBox(workspace, page, width, target);
-  if (!workspace.issuerName.empty()) PrintIssuerName(workspace.issuerName, target);
+  if (!workspace.issuerName.empty()) PrintIssuerName(workspace.issuerName, page, target);
   target.SetFontName(kMincho);
   target.SetBold(false);
-  target.SetFontSize(kBodySize * static_cast<double>(target.PrintScale()));
-}
-
-void PrintIssuerName(const std::string& name, PrintSurface& target) {
-  constexpr double kSize = 14;
-  const double scale = static_cast<double>(target.PrintScale());
-  const PageGeometry page;
-  target.SetFontSize(kSize * scale);
-  target.MoveTo(page.right - target.TextWidth(name), 2 * page.charHeight + 264 * kTwipsPerMm);
-  target.Write(name);
-  target.SetFontSize(kBodySize * scale);
+  target.SetFontSize(kBodySize * target.PrintScale());
 }
 
 }  // namespace shell

@@ -27,7 +27,4 @@ struct PageGeometry {
 /// none. Leaves the font of the body.
 void PrintPageFrame(const Workspace& workspace, const std::string& tagNumber, PrintSurface& target);
 
-/// The issuer's name at the foot, so that it ends at the right edge whatever its characters.
-void PrintIssuerName(const std::string& name, PrintSurface& target);
-
 }  // namespace shell

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -13,8 +12,6 @@ namespace shell {
 /// and the tests look at it. Widths and heights of texts are those of the fixed-pitch fonts.
 class PageRecorder : public forms::DrawSurface {
  public:
-  using Points = std::vector<std::pair<double, double>>;
-
   struct Pen {
     forms::Color color = forms::kBlack;
     double width = 1;

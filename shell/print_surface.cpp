@@ -21,7 +21,7 @@ double FixedTextWidth(const std::string& text, double size) {
 
 double FixedTextHeight(double size) { return size * kTwipsPerPoint; }
 
-PrintSurface::PrintSurface(forms::DrawSurface& target, float printScale)
+PrintSurface::PrintSurface(forms::DrawSurface& target, double printScale)
     : target_(target), printScale_(printScale), fontSize_(kBodySize * printScale) {
   TellFont();
 }
@@ -52,17 +52,13 @@ void PrintSurface::MoveTo(double x, double y) {
 
 void PrintSurface::Tab(int column) { x_ = (column - 1) * FixedTextWidth("A", kBodySize); }
 
-double PrintSurface::CharHeight() const { return FixedTextHeight(PaperSize()); }
-
-double PrintSurface::CharWidth() const { return FixedTextWidth("A", PaperSize()); }
-
 double PrintSurface::TextWidth(const std::string& text) const {
   return FixedTextWidth(text, PaperSize());
 }
 
 void PrintSurface::Print(const std::string& text) {
   Write(text);
-  MoveTo(0, y_ + CharHeight());
+  MoveTo(0, y_ + FixedTextHeight(PaperSize()));
 }
 
 void PrintSurface::Write(const std::string& text) {
@@ -86,8 +82,7 @@ void PrintSurface::FilledRectangle(double x1, double y1, double x2, double y2) {
 
 void PrintSurface::Draw(const forms::Picture& picture, double x, double y, double width) {
   if (!picture.onPaint || picture.Width() <= 0) return;
-  forms::PlacedSurface placed(target_, x, y, width / picture.Width(),
-                              static_cast<double>(printScale_));
+  forms::PlacedSurface placed(target_, x, y, width / picture.Width(), printScale_);
   placed.SetFont(kGothic, kPictureSize, false);
   picture.onPaint(placed);
   TellFont();
@@ -95,10 +90,9 @@ void PrintSurface::Draw(const forms::Picture& picture, double x, double y, doubl
 }
 
 void PrintLineFeed(PrintSurface& target, double n) {
-  const double scale = static_cast<double>(target.PrintScale());
-  target.SetFontSize(n * scale);
+  target.SetFontSize(n * target.PrintScale());
   target.Print({});
-  target.SetFontSize(kBodySize * scale);
+  target.SetFontSize(kBodySize * target.PrintScale());
 }
 
 }  // namespace shell

@@ -34,11 +34,10 @@ double FixedTextHeight(double size);
 /// preview breaks where the paper does.
 class PrintSurface {
  public:
-  PrintSurface(forms::DrawSurface& target, float printScale);
+  /// Starts with the letters of the body.
+  PrintSurface(forms::DrawSurface& target, double printScale);
 
-  float PrintScale() const { return printScale_; }
-  /// The surface below, for pictures; letters on it are PrintScale times those on paper.
-  forms::DrawSurface& Target() { return target_; }
+  double PrintScale() const { return printScale_; }
 
   void SetFontName(std::string name);
   /// points, PrintScale times the size on paper.
@@ -52,11 +51,8 @@ class PrintSurface {
   /// Moves to a column (from 1) of the body's letters, counted from the left edge of the page.
   void Tab(int column);
 
-  /// The letter "A" of the current font on paper, twips.
-  double CharHeight() const;
-  double CharWidth() const;
+  /// Width of a text in the current font on paper, twips.
   double TextWidth(const std::string& text) const;
-  double TextHeight() const { return CharHeight(); }
 
   /// Prints a text at the position and goes on to the beginning of the next line.
   void Print(const std::string& text);
@@ -71,11 +67,11 @@ class PrintSurface {
   void Draw(const forms::Picture& picture, double x, double y, double width);
 
  private:
-  double PaperSize() const { return fontSize_ / static_cast<double>(printScale_); }
+  double PaperSize() const { return fontSize_ / printScale_; }
   void TellFont();
 
   forms::DrawSurface& target_;
-  float printScale_;
+  double printScale_;
   std::string fontName_ = kMincho;
   double fontSize_;
   bool bold_ = false;

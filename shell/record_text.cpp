@@ -1,6 +1,7 @@
 #include "shell/record_text.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/fault.h"
 #include "common/file.h"
@@ -62,6 +63,19 @@ void SaveUserFile(const std::string& path, const std::function<std::string()>& e
                                  ? "保存先のフォルダが見つかりません。\n" + path
                                  : fault.Text();
     throw RuntimeFault(fault.Number(), text + "\nデータは保存されていません。");
+  }
+}
+
+void SaveUnderName(std::string name, std::string& fileName, bool& modified,
+                   const std::function<void()>& save) {
+  const bool modifiedBefore = modified;
+  const std::string before = std::exchange(fileName, std::move(name));
+  try {
+    save();
+  } catch (const RuntimeFault&) {
+    if (before != fileName) modified = modifiedBefore;
+    fileName = before;
+    throw;
   }
 }
 

@@ -30,6 +30,12 @@ common::RuntimeFault CutShort();
 /// touched. What fails is raised with a sentence that ends in "データは保存されていません。".
 void SaveUserFile(const std::string& path, const std::function<std::string()>& encode);
 
+/// Makes `name` that of the open file and saves. When that fails, what could not be written is not
+/// the open file, unless it has that name already: the fault is raised with `fileName` and
+/// `modified`, the mark of unsaved changes, as they were.
+void SaveUnderName(std::string name, std::string& fileName, bool& modified,
+                   const std::function<void()>& save);
+
 /// Whether a flag of a tag record is set; one of an old file may also be a number.
 bool IsSet(const std::string& text);
 

@@ -1,10 +1,10 @@
 #include "shell/recovery_copy.h"
 
-#include <charconv>
 #include <utility>
 
 #include "common/fault.h"
 #include "common/file.h"
+#include "common/parse.h"
 
 namespace shell {
 
@@ -41,14 +41,11 @@ void Require(bool holds) {
   if (!holds) throw RuntimeFault(Fault::kFileAccess);
 }
 
-/// A whole number that fills the text.
 template <class Number>
 Number NumberIn(std::string_view text) {
-  Number number = 0;
-  const auto end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number);
-  Require(result.ec == std::errc() && result.ptr == end);
-  return number;
+  const auto number = common::ParseNumber<Number>(text);
+  Require(number.has_value());
+  return *number;
 }
 
 /// Takes texts off the bytes; raises kFileAccess where there is none.
@@ -103,6 +100,13 @@ RecoveryCopy Read(std::string_view bytes) {
   return copy;
 }
 
+/// FNV-1a, 64 bits, and the length.
+std::string FingerprintOf(std::string_view bytes) {
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  return std::to_string(hash) + "-" + std::to_string(bytes.size());
+}
+
 }  // namespace
 
 std::string EncodeRecovery(const RecoveryCopy& copy) {
@@ -120,13 +124,6 @@ std::optional<RecoveryCopy> ParseRecovery(std::string_view bytes) {
   } catch (const RuntimeFault&) {
     return std::nullopt;
   }
-}
-
-/// FNV-1a, 64 bits, and the length.
-std::string FingerprintOf(std::string_view bytes) {
-  std::uint64_t hash = 14695981039346656037U;
-  for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
-  return std::to_string(hash) + "-" + std::to_string(bytes.size());
 }
 
 std::string FileFingerprint(const std::string& path) {

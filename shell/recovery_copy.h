@@ -35,6 +35,8 @@ struct RecoveryCopy {
   bool Empty() const { return !tags && !ducts; }
   int TagCount() const { return tags ? static_cast<int>(tags->rows.size()) - 1 : 0; }
   int DuctCount() const { return ducts ? static_cast<int>(ducts->rows.size()) : 0; }
+
+  bool operator==(const RecoveryCopy&) const = default;
 };
 
 /// The bytes of a recovery file: its name and version on the first line, then every text on a line
@@ -45,9 +47,7 @@ std::string EncodeRecovery(const RecoveryCopy& copy);
 /// Nothing when the bytes are not exactly a whole recovery file.
 std::optional<RecoveryCopy> ParseRecovery(std::string_view bytes);
 
-/// A text that tells contents apart.
-std::string FingerprintOf(std::string_view bytes);
-/// The same of a file, "" when there is none or it cannot be read.
+/// A text that tells the contents of files apart; "" when there is none or it cannot be read.
 std::string FileFingerprint(const std::string& path);
 
 }  // namespace shell

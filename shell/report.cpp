@@ -15,10 +15,6 @@ namespace {
 
 constexpr const char* kNothingToPrint = "印刷対象がありません。";
 
-Sheet* SheetOnTop(const Workspace& workspace) {
-  return dynamic_cast<Sheet*>(workspace.forms.ActiveSheet());
-}
-
 /// Whether there is a sheet on top; tells the user otherwise.
 bool HasSheet(const Workspace& workspace, const char* title) {
   if (!workspace.activeSheetKind.empty()) return true;
@@ -34,8 +30,7 @@ void TellNotPrinted(const Workspace& workspace) {
 /// One page: the frame, then the body of the sheet, if it has one. False if it has none.
 bool PrintPage(const Workspace& workspace, Sheet* sheet, forms::DrawSurface& target) {
   PrintSurface surface(target, workspace.printScale);
-  surface.SetFontName(kMincho);
-  surface.SetFontSize(kBodySize * static_cast<double>(workspace.printScale));
+  // The one sheet whose own part has no line for its tag number.
   const bool named = sheet != nullptr && workspace.activeSheetKind == "物性推算";
   PrintPageFrame(workspace, named ? sheet->TagNumber() : std::string(), surface);
   const PageGeometry page;

@@ -13,6 +13,7 @@
 
 #include "common/fault.h"
 #include "common/file.h"
+#include "common/parse.h"
 
 namespace shell {
 
@@ -202,10 +203,7 @@ std::string DefaultSettingsPath() {
 }
 
 int RowNumberSetting(const std::string& text) {
-  std::int16_t number = 0;
-  const auto end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number);
-  return result.ec == std::errc() && result.ptr == end ? number : 0;
+  return common::ParseNumber<std::int16_t>(text).value_or(0);
 }
 
 }  // namespace shell

@@ -45,6 +45,10 @@ std::vector<int> Sheet::LookUpAnew() { return {}; }
 
 bool Sheet::PrintBody(PrintSurface&) { return false; }
 
+Sheet* SheetOnTop(const Workspace& workspace) {
+  return dynamic_cast<Sheet*>(workspace.forms.ActiveSheet());
+}
+
 bool HasData(const Workspace& workspace, const std::vector<std::string>& fileNames) {
   std::string missing;
   for (const std::string& name : fileNames) {

@@ -66,4 +66,7 @@ class Sheet : public forms::Form {
   const SheetEntry& entry_;
 };
 
+/// The sheet in front of the other sheets, or null.
+Sheet* SheetOnTop(const Workspace& workspace);
+
 }  // namespace shell

@@ -9,6 +9,7 @@
 #include "shell/duct_commands.h"
 #include "shell/file_questions.h"
 #include "shell/instrument_file.h"
+#include "shell/record_text.h"
 #include "shell/recovery_commands.h"
 #include "shell/sheet.h"
 #include "shell/sheet_registry.h"
@@ -22,10 +23,6 @@ constexpr const char* kFilter = "ZEPHAデータ(*.zph)|*.zph";
 constexpr const char* kExtension = ".zph";
 constexpr const char* kRecentSection = "Recent";
 constexpr int kRecentFiles = 8;
-
-Sheet* SheetOnTop(Workspace& workspace) {
-  return dynamic_cast<Sheet*>(workspace.forms.ActiveSheet());
-}
 
 std::string RecentKey(int number) { return "File" + std::to_string(number); }
 
@@ -174,20 +171,12 @@ void SaveFileAs(Workspace& workspace) {
 }
 
 void SaveFileNamed(Workspace& workspace, const std::string& path) {
-  if (!HasTagsToSave(workspace.tags, workspace.Shown())) return;
-  const bool modified = workspace.tags.tagModified;
-  const std::string before =
-      std::exchange(workspace.tags.zephaFileName, WithExtension(path, kExtension));
-  try {
-    SaveInstrumentFile(workspace.tags, workspace.Shown());
-  } catch (const common::RuntimeFault&) {
-    // What could not be written is not the open file, unless it has that name already.
-    if (before != workspace.tags.zephaFileName) workspace.tags.tagModified = modified;
-    workspace.tags.zephaFileName = before;
-    throw;
-  }
+  TagStore& tags = workspace.tags;
+  if (!HasTagsToSave(tags, workspace.Shown())) return;
+  SaveUnderName(WithExtension(path, kExtension), tags.zephaFileName, tags.tagModified,
+                [&] { SaveInstrumentFile(tags, workspace.Shown()); });
   KeepRecovery(workspace);
-  RememberFile(workspace, workspace.tags.zephaFileName);
+  RememberFile(workspace, tags.zephaFileName);
   ShowTitle(workspace);
 }
 

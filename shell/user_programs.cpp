@@ -6,7 +6,7 @@
 #include "common/fields.h"
 #include "common/file.h"
 #include "common/text.h"
-#include "shell/instrument_file.h"
+#include "shell/record_text.h"
 
 namespace shell {
 

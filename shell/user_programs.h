@@ -9,6 +9,8 @@ namespace shell {
 struct UserProgram {
   std::string caption;
   std::string command;
+
+  bool operator==(const UserProgram&) const = default;
 };
 using UserPrograms = std::array<UserProgram, 3>;
 

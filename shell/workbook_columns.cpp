@@ -1,11 +1,12 @@
 #include "shell/workbook_columns.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 #include <string_view>
 #include <utility>
 
+#include "common/parse.h"
 #include "data/process_state.h"
 #include "forms/color.h"
 #include "shell/record_text.h"
@@ -53,11 +54,7 @@ std::optional<double> NumberOf(std::string_view stored) {
   if (!TakeCommas(plain)) return std::nullopt;
   std::string_view text = plain;
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  double value = 0;
-  const char* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return value;
+  return common::ParseNumber<double>(text);
 }
 
 /// Whether a text shows nothing: blanks, full-width ones too, and control characters.
@@ -117,11 +114,8 @@ std::string_view Part(std::string_view text, int n) {
 int ListPosition(const std::string& text) {
   const std::string_view trimmed = Trimmed(text);
   if (trimmed.empty()) return -1;
-  int position = 0;
-  const char* const end = trimmed.data() + trimmed.size();
-  const auto result = std::from_chars(trimmed.data(), end, position);
-  if (result.ec != std::errc() || result.ptr != end) return kNoPosition;
-  return position < 0 ? -1 : position;
+  const std::optional<int> position = common::ParseNumber<int>(trimmed);
+  return position ? std::max(*position, -1) : kNoPosition;
 }
 
 CellSource Text(int column) {

@@ -19,9 +19,6 @@
 
 namespace shell {
 
-/// What a calculation left to be told with its results.
-inline constexpr const char* kExtrapolated = "（外挿計算）";
-
 /// Today's date where the user is.
 std::chrono::year_month_day LocalDate();
 
@@ -80,7 +77,7 @@ struct Workspace {
   bool calcFailed = false;
   /// Results stand on the sheet.
   bool calcDone = false;
-  /// "" or kExtrapolated.
+  /// What the calculation left to be told with its results: "" or "（外挿計算）".
   std::string calcNote;
 
   MainWindow window;

@@ -118,18 +118,17 @@ TEST(ComboBox, EditableTakesAnyTextAndFindsTheEntryOfIt) {
   EXPECT_EQ(form.cboUnit.Index(), -1);
 }
 
-TEST(Lists, KeepTheirSelectionThroughEdits) {
+TEST(Lists, SelectionFollowsTheirTexts) {
   LogForm form;
   form.lstItems.SetItems({"a", "b", "c"});
   form.lstItems.SetIndex(1);
-  form.lstItems.InsertItem(0, "new");
-  EXPECT_EQ(form.lstItems.Index(), 2);
-  EXPECT_EQ(form.lstItems.Text(), "b");
-  form.lstItems.RemoveItem(2);
+  form.lstItems.SetItem(1, "new");
+  EXPECT_EQ(form.lstItems.Text(), "new");
+  form.lstItems.SetItems({"a", "b"});
   EXPECT_EQ(form.lstItems.Index(), -1);
   EXPECT_EQ(form.lstItems.Text(), "");
-  EXPECT_THROW(form.lstItems.SetIndex(3), common::RuntimeFault);
-  EXPECT_THROW(form.lstItems.RemoveItem(-1), common::RuntimeFault);
+  EXPECT_THROW(form.lstItems.SetIndex(2), common::RuntimeFault);
+  EXPECT_THROW(form.lstItems.SetItem(-1, "x"), common::RuntimeFault);
 }
 
 TEST(TextBox, FiltersKeysWithABeep) {

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <algorithm>
 
 #include "tests/support/program.h"
+#include "tests/support/temporary_folder.h"
 
 namespace headless {
 namespace {
@@ -21,6 +22,7 @@ class DriverTest : public testing::Test {
     return answer;
   }
 
+  tests::TemporaryFolder folder;
   shell::MemorySettings settings;
   Driver driver{ZEPHA_BUILD_DIR, settings};
 };
@@ -127,7 +129,7 @@ TEST_F(DriverTest, TellsThePageOfTheSheetOnTop) {
 }
 
 TEST_F(DriverTest, PdfReadsBackAsTextWithItsFonts) {
-  const std::string pdf = testing::TempDir() + "page.pdf";
+  const std::string pdf = folder / "page.pdf";
   Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
   Do("recall 8");
   ASSERT_EQ(Do("print " + pdf)["ok"], true);
@@ -143,7 +145,7 @@ TEST_F(DriverTest, PdfReadsBackAsTextWithItsFonts) {
 }
 
 TEST_F(DriverTest, PrintsEveryTagIntoOneFile) {
-  const std::string pdf = testing::TempDir() + "all.pdf";
+  const std::string pdf = folder / "all.pdf";
   Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
   const int tags = Do("workspace")["TagCount"];
   const Json answer = Do("printall " + pdf);
@@ -158,7 +160,7 @@ TEST_F(DriverTest, PrintsEveryTagIntoOneFile) {
 }
 
 TEST_F(DriverTest, FilesAreThoseOfTheDuctsWhileTheirSheetIsOnTop) {
-  const std::string path = testing::TempDir() + "zepha-driver.dct";
+  const std::string path = folder / "a.dct";
   Do("open CableDuct");
   EXPECT_EQ(Do("load " ZEPHA_SOURCE_DIR "/samples/ducts.dct")["DuctCount"], 4);
   const Json row = Do("ductrow 1")["row"];
@@ -175,11 +177,10 @@ TEST_F(DriverTest, FilesAreThoseOfTheDuctsWhileTheirSheetIsOnTop) {
   EXPECT_EQ(workspace["DuctCount"], 3);
   EXPECT_EQ(workspace["DuctFileName"], path);
   EXPECT_EQ(workspace["TagCount"], 0);
-  std::remove(path.c_str());
 }
 
 TEST_F(DriverTest, RecalculatesAndWritesWhenItIsTold) {
-  Do(std::string("load ") + ZEPHA_SOURCE_DIR + "/samples/plant.zph");
+  Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
   Json answer = Do("recalculate");
   EXPECT_EQ(answer["tags"], 61);
   EXPECT_EQ(answer["changes"], Json::array());

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -147,11 +147,10 @@ TEST_F(Guide, MessagesStandInTheProgram) {
   std::string program;
   for (const char* layer : {"common", "data", "flow", "valve", "temperature", "piping", "ducts",
                             "forms", "shell", "sheets", "desktop"}) {
-    for (const fs::path& file : FilesOf(std::string(ZEPHA_SOURCE_DIR "/") + layer, ".cpp")) {
-      program += common::ReadFile(file);
-    }
-    for (const fs::path& file : FilesOf(std::string(ZEPHA_SOURCE_DIR "/") + layer, ".h")) {
-      program += common::ReadFile(file);
+    for (const char* extension : {".cpp", ".h"}) {
+      for (const fs::path& file : FilesOf(std::string(ZEPHA_SOURCE_DIR "/") + layer, extension)) {
+        program += common::ReadFile(file);
+      }
     }
   }
   program = std::regex_replace(program, std::regex("\"\\s*\n\\s*\""), "");

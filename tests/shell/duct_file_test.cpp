@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "common/file.h"
 #include "common/text.h"
 #include "shell/duct_commands.h"
 #include "shell/lifecycle.h"
 #include "shell/main_menu.h"
+#include "shell/tag_commands.h"
 #include "shell/workspace.h"
+#include "tests/support/fault_of.h"
 #include "tests/support/recording_presenter.h"
 #include "tests/support/temporary_folder.h"
 
@@ -201,9 +201,8 @@ TEST_F(DuctFile, DamagedFilesKeepTheirCompleteDuctsAndNoName) {
     SCOPED_TRACE(damaged.name);
     messages.shown.clear();
     DuctStore store = StoreOf(5);
-    EXPECT_EQ(Open(store, damaged.bytes), damaged.text.empty());
+    EXPECT_FALSE(Open(store, damaged.bytes));
     EXPECT_EQ(store.DuctCount(), damaged.ducts);
-    if (damaged.text.empty()) continue;
     EXPECT_EQ(messages.Texts(), Texts({damaged.text + "\n" + path}));
     EXPECT_EQ(store.ductFileName, "");
     EXPECT_EQ(store.ductModified, damaged.ducts > 0);
@@ -237,13 +236,9 @@ TEST_F(DuctFile, FailedSaveTouchesNothing) {
     row[kDuctSpan] = text;
     store.TakeRows({row});
     store.ductModified = true;
-    try {
-      SaveDuctFile(store, messages);
-      FAIL();
-    } catch (const common::RuntimeFault& fault) {
-      EXPECT_TRUE(fault.Text().starts_with("ダクト「D」"));
-      EXPECT_TRUE(fault.Text().ends_with("データは保存されていません。"));
-    }
+    const std::string told = tests::FaultOf([&] { SaveDuctFile(store, messages); }).value().Text();
+    EXPECT_TRUE(told.starts_with("ダクト「D」")) << told;
+    EXPECT_TRUE(told.ends_with("データは保存されていません。")) << told;
     EXPECT_TRUE(store.ductModified);
     EXPECT_EQ(common::ReadFile(path), "old");
   }
@@ -252,20 +247,15 @@ TEST_F(DuctFile, FailedSaveTouchesNothing) {
 /// A workspace with the sheet on top as far as the commands see it.
 class DuctCommands : public DuctFile {
  protected:
-  class List : public forms::Form {
-   public:
-    List() : Form(kDuctListForm, "", forms::FormRole::kTool) {}
-  };
-  class TagList : public forms::Form {
-   public:
-    TagList() : Form("frmTagList", "", forms::FormRole::kTool) {}
-  };
+  DuctCommands() { Prepare(space); }
 
-  DuctCommands() {
-    space.forms.Provide(kDuctListForm, [] { return std::make_unique<List>(); });
-    space.forms.Provide("frmTagList", [] { return std::make_unique<TagList>(); });
-    BuildMainMenu(space);
-    space.activeSheetKind = "CableDuct";
+  static void Prepare(Workspace& workspace) {
+    for (const char* name : {kDuctListForm, kTagListForm}) {
+      workspace.forms.Provide(
+          name, [name] { return std::make_unique<forms::Form>(name, "", forms::FormRole::kTool); });
+    }
+    BuildMainMenu(workspace);
+    workspace.activeSheetKind = kDuctSheet;
   }
   tests::RecordingPresenter presenter;
   MemorySettings settings;
@@ -303,7 +293,7 @@ TEST_F(DuctCommands, FileCommandsWorkOnTheDucts) {
   EXPECT_EQ(space.ducts.ListCaption(), "Duct List:plant");
   space.activeSheetKind = "CV";
   space.window.Press(5);
-  EXPECT_NE(space.forms.Find("frmTagList"), nullptr);
+  EXPECT_NE(space.forms.Find(kTagListForm), nullptr);
 }
 
 TEST_F(DuctCommands, NewFileAsksAboutTheDuctsAndSavesTheTags) {
@@ -325,14 +315,10 @@ TEST_F(DuctCommands, NewFileAsksAboutTheDuctsAndSavesTheTags) {
     tests::RecordingPresenter user;
     user.messages.always = row.answer;
     Workspace work{user, settings, nullptr};
-    work.forms.Provide(kDuctListForm, [] { return std::make_unique<List>(); });
-    BuildMainMenu(work);
-    work.activeSheetKind = "CableDuct";
+    Prepare(work);
     const std::string tags = row.zephaFile.empty() ? "" : folder / row.zephaFile;
     work.tags.zephaFileName = tags;
-    if (row.hasTags) {
-      work.tags.Register("FE-1", "CV", messages, [](int) {});
-    }
+    if (row.hasTags) work.tags.Register("FE-1", "CV", messages, [](int) {});
     work.ducts.TakeRows(Ducts(2));
     work.ducts.ductFileName = path;
     work.ducts.ductModified = true;

@@ -2,16 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include "common/fault.h"
 #include "common/file.h"
 #include "common/text.h"
 #include "tests/data/shipped_data.h"
+#include "tests/support/fault_of.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/temporary_folder.h"
 
 namespace shell {
 namespace {
 
+using tests::FaultOf;
 using tests::ScriptedMessages;
 using Texts = std::vector<std::string>;
 
@@ -86,15 +87,6 @@ std::string Replaced(std::string text, const std::string& what, const std::strin
     text.replace(at, what.size(), with);
   }
   return text;
-}
-
-std::string FaultText(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const common::RuntimeFault& fault) {
-    return fault.Text();
-  }
-  return "no fault";
 }
 
 TEST_F(InstrumentFile, IsQuotedCp932InLinesOfCrLf) {
@@ -363,7 +355,8 @@ TEST_F(InstrumentFile, RefusesTextsThatTheFileCannotHold) {
     store.SetText(2, 20, row.text);
     store.zephaFileName = path;
     store.tagModified = true;
-    EXPECT_EQ(FaultText([&] { SaveInstrumentFile(store, messages); }), row.sentence + lost);
+    EXPECT_EQ(FaultOf([&] { SaveInstrumentFile(store, messages); }).value().Text(),
+              row.sentence + lost);
     EXPECT_EQ(common::ReadFile(path), "old");
     EXPECT_TRUE(store.tagModified);
     EXPECT_EQ(store.TagCount(), 3);
@@ -400,10 +393,9 @@ TEST_F(InstrumentFile, NewAsksWhetherToSave) {
     store.tagModified = row.modified;
     ScriptedMessages user;
     user.always = row.answer;
-    const bool fails = !row.named;
     bool went = false;
-    const std::string fault = FaultText([&] { went = NewInstrumentFile(store, user); });
-    EXPECT_EQ(fault != "no fault", fails);
+    const auto fault = FaultOf([&] { went = NewInstrumentFile(store, user); });
+    EXPECT_EQ(fault.has_value(), !row.named);
     EXPECT_EQ(went, row.emptied);
     EXPECT_EQ(store.TagCount(), row.emptied ? 0 : row.tags);
     EXPECT_EQ(store.Lines().empty(), row.emptied);

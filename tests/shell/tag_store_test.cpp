@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "common/fault.h"
 #include "common/text.h"
+#include "tests/support/fault_of.h"
 #include "tests/support/scripted_messages.h"
 
 namespace shell {
 namespace {
 
+using tests::FaultOf;
 using tests::ScriptedMessages;
 using Texts = std::vector<std::string>;
 
@@ -41,31 +42,20 @@ Texts LinesOfRows(const TagStore& store) {
   return lines;
 }
 
-common::Fault FaultOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const common::RuntimeFault& fault) {
-    return fault.Number();
-  }
-  ADD_FAILURE() << "no fault";
-  return common::Fault::kFileAccess;
-}
+const common::Fault kOutside = common::Fault::kIndexOutOfRange;
 
 TEST(TagStore, RaisesOutsideItsTable) {
   TagStore store;
   store.SetText(300, 50, "last");
   EXPECT_EQ(store.Text(300, 50), "last");
   const struct { int row, column; } outside[] = {{-1, 0}, {301, 0}, {0, -1}, {0, 51}};
-  for (const auto& [row, column] : outside) {
-    SCOPED_TRACE(std::to_string(row) + ", " + std::to_string(column));
-    EXPECT_EQ(FaultOf([&, r = row, c = column] { store.SetText(r, c, "x"); }),
-              common::Fault::kIndexOutOfRange);
-    EXPECT_EQ(FaultOf([&, r = row, c = column] { store.Text(r, c); }),
-              common::Fault::kIndexOutOfRange);
+  for (const auto& at : outside) {
+    SCOPED_TRACE(std::to_string(at.row) + ", " + std::to_string(at.column));
+    EXPECT_EQ(FaultOf([&] { store.SetText(at.row, at.column, "x"); }).value().Number(), kOutside);
+    EXPECT_EQ(FaultOf([&] { store.Text(at.row, at.column); }).value().Number(), kOutside);
   }
-  EXPECT_EQ(FaultOf([&] { store.TakeRows(std::vector<TagRow>(302)); }),
-            common::Fault::kIndexOutOfRange);
-  EXPECT_EQ(FaultOf([&] { store.SelectLine(0); }), common::Fault::kIndexOutOfRange);
+  EXPECT_EQ(FaultOf([&] { store.TakeRows(std::vector<TagRow>(302)); }).value().Number(), kOutside);
+  EXPECT_EQ(FaultOf([&] { store.SelectLine(0); }).value().Number(), kOutside);
 }
 
 // The list uses a fixed-pitch font, in which a full-width character takes two columns.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "common/fault.h"
 #include "common/file.h"
 #include "common/text.h"
@@ -35,16 +37,13 @@ TEST(UserPrograms, ReadsWhatIsThere) {
       {"no line ends", "\"電卓\",\"/opt/my tools/calc\",\"電卓\",\"/opt/my tools/calc\"", 2},
   };
   const tests::TemporaryFolder folder;
-  EXPECT_EQ(ReadUserPrograms(folder.Path())[0].caption, "") << "no file";
+  EXPECT_TRUE(ReadUserPrograms(folder.Path()) == UserPrograms()) << "no file";
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     common::WriteFile(folder / "UserProgram.dat", common::ToCp932(row.text));
-    const UserPrograms programs = ReadUserPrograms(folder.Path());
-    for (int i = 0; i < 3; ++i) {
-      const UserProgram& program = programs[static_cast<std::size_t>(i)];
-      EXPECT_EQ(program.caption, i < row.records ? "電卓" : "");
-      EXPECT_EQ(program.command, i < row.records ? "/opt/my tools/calc" : "");
-    }
+    UserPrograms expected;
+    std::fill_n(expected.begin(), row.records, UserProgram{"電卓", "/opt/my tools/calc"});
+    EXPECT_TRUE(ReadUserPrograms(folder.Path()) == expected);
   }
 }
 
@@ -57,11 +56,7 @@ TEST(UserPrograms, WritesCp932AndStripsCommandsAlone) {
   EXPECT_EQ(
       common::ReadFile(folder / "UserProgram.dat"),
       "\"\x95\x5C\",\"C:\\my tools\\\x95\x5C.exe\"\r\n\"\",\"\"\r\n\"b, c\",\"/bin/b -c\"\r\n");
-  const UserPrograms read = ReadUserPrograms(folder.Path());
-  for (std::size_t i = 0; i < read.size(); ++i) {
-    EXPECT_EQ(read[i].caption, programs[i].caption);
-    EXPECT_EQ(read[i].command, programs[i].command);
-  }
+  EXPECT_TRUE(ReadUserPrograms(folder.Path()) == programs);
 }
 
 TEST(UserPrograms, RefusesWhatTheFileCannotHoldAndKeepsIt) {
