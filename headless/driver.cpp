@@ -381,14 +381,15 @@ void Driver::Register(const std::string&, const std::string&, Json& answer) {
   answer["CurrentTag"] = workbench_.Space().tags.currentTag;
 }
 
-void Driver::Recall(const std::string& object, const std::string&, Json&) {
+/// A tag by its number or by its place in the list, from 1.
+void Driver::Recall(const std::string& object, const std::string& text, Json&) {
   shell::Workspace& space = workbench_.Space();
-  const std::optional<int> row = common::ParseNumber<int>(object);
-  if (!row || *row < 1 || *row > space.tags.TagCount()) {
-    Misunderstand("There is no tag " + object + ".");
-  }
+  const std::string tag = WholeLine(object, text);
+  int row = space.tags.RowOf(tag);
+  if (row == 0) row = common::ParseNumber<int>(tag).value_or(0);
+  if (row < 1 || row > space.tags.TagCount()) Misunderstand("There is no tag " + tag + ".");
   RunGuarded([&] {
-    space.tags.SelectLine(*row - 1);
+    space.tags.SelectLine(row - 1);
     shell::RecallSelectedTag(space);
   });
 }

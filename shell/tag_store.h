@@ -45,6 +45,8 @@ class TagStore {
   const std::string& Text(int row, int column) const;
   void SetText(int row, int column, std::string text);
   const TagRow& Row(int row) const;
+  /// Row of a tag, 0 for none.
+  int RowOf(const std::string& tagNumber) const;
 
   /// Number of tags; -1 after a file without any record was opened.
   int TagCount() const { return tagCount_; }
@@ -105,7 +107,6 @@ class TagStore {
 
  private:
   int CountedTags() const { return tagCount_ < 0 ? 0 : tagCount_; }
-  int RowOf(const std::string& tagNumber) const;
   bool Insert(const std::string& tagNumber, const std::string& kind, common::Messages& messages);
   void Select(int line);
   void Exchange(int line, int neighbour);

@@ -1,11 +1,11 @@
 // Takes pictures of the workbench in states that a script describes:
 //   take_picture [OUT.png] [--size WIDTHxHEIGHT] [--dark] [--form NAME] [--script FILE] [< SCRIPT]
-// Lines of the script: load PATH, recall ROW, menu NAME, open FORM, close FORM, reset (closes all
-// forms), type CONTROL TEXT, pick CONTROL N or =TEXT, choose, click, dblclick, rclick, focus
-// CONTROL, where CONTROL may be FORM!CONTROL; size WIDTHxHEIGHT of the window, place TOOL X Y WIDTH
-// HEIGHT over it; picture PATH [FORM] of the window, or of that form alone, desk PATH of the window
-// and the tools over it. --form takes the last picture of that form's own window alone. What a user
-// would be told ends the program: nobody is there to read it.
+// Lines of the script: load PATH, recall TAG (its number or place in the list), menu NAME, open
+// FORM, close FORM, reset (closes all forms), type CONTROL TEXT, pick CONTROL N or =TEXT, choose,
+// click, dblclick, rclick, focus CONTROL, where CONTROL may be FORM!CONTROL; size WIDTHxHEIGHT of
+// the window, place TOOL X Y WIDTH HEIGHT over it; picture PATH [FORM] of the window, or of that
+// form alone, desk PATH of the window and the tools over it. --form takes the last picture of that
+// form's own window alone. What a user would be told ends the program: nobody is there to read it.
 #include <QApplication>
 #include <QEventLoop>
 #include <QPainter>
@@ -128,7 +128,9 @@ bool Camera::RunOnWindow(const std::string& verb, const std::string& object,
   } else if (verb == "load") {
     shell::OpenFileOfItsKind(workbench_.Space(), object);
   } else if (verb == "recall") {
-    workbench_.Space().tags.SelectLine(common::IntIndex(common::Val(object)) - 1);
+    shell::TagStore& tags = workbench_.Space().tags;
+    const int row = tags.RowOf(object);
+    tags.SelectLine((row > 0 ? row : common::IntIndex(common::Val(object))) - 1);
     shell::RecallSelectedTag(workbench_.Space());
   } else if (verb == "open") {
     forms.Show(object);

@@ -131,7 +131,8 @@ TEST_F(DriverTest, TellsThePageOfTheSheetOnTop) {
 TEST_F(DriverTest, PdfReadsBackAsTextWithItsFonts) {
   const std::string pdf = folder / "page.pdf";
   Do("load " ZEPHA_SOURCE_DIR "/samples/plant.zph");
-  Do("recall 8");
+  EXPECT_EQ(Do("recall FE-9999")["error"], "There is no tag FE-9999.");
+  Do("recall FE-1204");
   ASSERT_EQ(Do("print " + pdf)["ok"], true);
   const std::string text = OutputOf("pdftotext -layout " + pdf + " -");
   for (const char* part : {"入 力 デ ー タ", "JIS Z 8762-2007", "FE-1204", "燃焼用空気（湿り）",

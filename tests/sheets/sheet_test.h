@@ -77,9 +77,7 @@ class SheetTest : public testing::Test {
   shell::Workspace& Space() { return bench.Space(); }
   shell::TagStore& Tags() { return bench.Space().tags; }
   int RowOf(const std::string& tag) {
-    for (int row = 1; row <= Tags().TagCount(); ++row) {
-      if (Tags().Text(row, shell::kTagNumberColumn) == tag) return row;
-    }
+    if (const int row = Tags().RowOf(tag); row > 0) return row;
     throw std::out_of_range("no tag " + tag);
   }
 
