@@ -63,9 +63,8 @@ class Style : public QProxyStyle {
 void PrepareApplication(QApplication& application) {
   std::setlocale(LC_NUMERIC, "C");
   const Theme& theme = Theme::Current();
-  // The application owns its style, which the analyzer cannot see.
   QApplication::setStyle(new Style);
-  QApplication::setPalette(PaletteOf(theme));  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+  QApplication::setPalette(PaletteOf(theme));
   QApplication::setFont(UiFont(kBaseLetterPixels));
   QApplication::setApplicationName(QStringLiteral("ZEPHA"));
   QGuiApplication::setDesktopFileName(QStringLiteral("zepha"));

@@ -70,7 +70,7 @@ std::string NewWorkbookPath(const std::string& instrumentFile) {
   for (int number = 1;; ++number) {
     std::string name = title;
     if (number > 1) name.append("(").append(std::to_string(number)).append(")");
-    const std::string path = common::JoinPath(common::TemporaryFolder(), name + ".xlsx");
+    std::string path = common::JoinPath(common::TemporaryFolder(), name + ".xlsx");
     // "x" creates the file or fails, so that no other program gets the same name.
     if (std::FILE* const file = std::fopen(path.c_str(), "wbx")) {
       std::fclose(file);

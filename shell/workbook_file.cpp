@@ -79,7 +79,8 @@ double NumberWidth(double value, int decimals) {
   }
   const double rounded = std::max(std::fabs(value), 1.0);
   const int whole = static_cast<int>(std::floor(std::log10(rounded) + 1e-9)) + 1;
-  return whole + (whole - 1) / 3 + (decimals > 0 ? decimals + 1 : 0) + (value < 0 ? 1 : 0) + 1;
+  const int commas = (whole - 1) / 3;
+  return whole + commas + (decimals > 0 ? decimals + 1 : 0) + (value < 0 ? 1 : 0) + 1;
 }
 
 const char* FormatText(int decimals) {

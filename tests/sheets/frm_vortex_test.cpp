@@ -61,8 +61,8 @@ TEST_F(VortexTest, MakersDifferInTheirSizes) {
     Pick("cboMaker", maker);
     EXPECT_EQ(Text("lblScale"), "");
     Click("cmd計算");
-    EXPECT_EQ(Text("lblMeterSize(8)") != "", maker != 3);  // 250 mm; maker 3 ends at 200
-    EXPECT_EQ(Text("lbl注意") != "", maker == 3);
+    EXPECT_EQ(Text("lblMeterSize(8)").empty(), maker == 3);  // 250 mm; maker 3 ends at 200
+    EXPECT_EQ(Text("lbl注意").empty(), maker != 3);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "shell/recalculation.h"
 
+#include <cmath>
 #include <functional>
 #include <map>
 #include <set>
@@ -117,7 +118,7 @@ TEST_F(RecalculationTest, AnEditedDatabaseConcernsItsTagsAlone) {
       {"wall of 26 in",
        [](auto& tables) {
          for (auto& row : tables.pipes.rows) {
-           if (row[0] > 660 && row[0] < 661) row[0] += 1;
+           if (std::lround(row[0]) == 660) row[0] += 1;
          }
        },
        {},

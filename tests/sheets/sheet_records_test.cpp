@@ -33,7 +33,8 @@ class SheetRecords : public SheetTest {
     for (std::size_t column = 0; column < found.size(); ++column) {
       const std::string& stored = Tags().Row(row)[column];
       if (stored == found[column]) continue;
-      columns += std::to_string(column) + ": " + stored + "/" + found[column] + "\n";
+      columns.append(std::to_string(column)).append(": ").append(stored);
+      columns.append("/").append(found[column]).append("\n");
     }
     return columns;
   }

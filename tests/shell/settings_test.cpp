@@ -126,7 +126,8 @@ TEST(Settings, DefaultPath) {
   const auto set = [](const char* name, const char* value) {
     value != nullptr ? setenv(name, value, 1) : unsetenv(name);
   };
-  const std::string home = std::getenv("HOME") != nullptr ? std::getenv("HOME") : "";
+  const char* const before = std::getenv("HOME");
+  const std::string home = before != nullptr ? before : "";
   for (const auto& row : rows) {
     set("XDG_CONFIG_HOME", row.config);
     set("HOME", row.home);

@@ -299,6 +299,7 @@ class WorkbookTest : public testing::Test {
 
 TEST_F(WorkbookTest, EveryColumnOfEveryKindHasItsTitleFormatAndValue) {
   std::vector<TagRow> records;
+  records.reserve(Expected().size());
   for (const ExpectedSheet& sheet : Expected()) records.push_back(RecordOf(sheet));
   std::reverse(records.begin(), records.end());  // the order of the worksheets is fixed
   SetTags(records);
@@ -357,6 +358,7 @@ TEST_F(WorkbookTest, AnUnknownKindEndsItAtItsRowAndLeavesTheFileAlone) {
 
 TEST_F(WorkbookTest, ATagBecomesNeitherFormulaNorDamage) {
   const std::string wide = "　";
+  constexpr std::size_t kMostBytes = std::size_t{3} * 32767;  // a cell holds 32,767 characters
   std::string longest;
   for (int i = 0; i < 40000; ++i) longest += "弁";
   const struct {
@@ -384,7 +386,7 @@ TEST_F(WorkbookTest, ATagBecomesNeitherFormulaNorDamage) {
       {"\xFF", "\uFFFD", "\uFFFD"},
       {"\uFFFF", "\uFFFD", "\uFFFD"},
       {wide + " \r\n", nullptr, nullptr},
-      {longest, longest.substr(0, 3 * 32767), longest.substr(0, 3 * 32767)},
+      {longest, longest.substr(0, kMostBytes), longest.substr(0, kMostBytes)},
   };
   std::vector<Asked> questions;
   for (const auto& row : rows) {
@@ -416,6 +418,7 @@ TEST_F(WorkbookTest, PositionsOutsideTheirListGiveNothingAndTextsStand) {
       {{"TW", 39, "0", "判定"}, "判定出来ず"},
   };
   std::vector<Asked> questions;
+  questions.reserve(rows.size());
   for (const auto& [asked, value] : rows) questions.push_back(asked);
   const std::vector<json> cells = CellsOf(questions);
   for (std::size_t i = 0; i < rows.size(); ++i) {
