@@ -65,8 +65,10 @@ void frmOrifice::BindHandlers() {
   cbo設計差圧単位.onClick = [this] { cbo設計差圧単位_Click(); };
   opt差圧_絞り径.onClick = [this] { SwitchMode(); };
   opt絞り径_差圧.onClick = [this] { SwitchMode(); };
-  OfferEntry(lbl絞り部膨張率, txt絞り部膨張率, [this] { txt絞り部膨張率_DblClick(); });
-  OfferEntry(lbl配管線膨張率, txt配管線膨張率, [this] { txt配管線膨張率_DblClick(); });
+  OfferEntry(
+      lbl絞り部膨張率, txt絞り部膨張率, [this] { txt絞り部膨張率_DblClick(); }, kFromMaterial);
+  OfferEntry(
+      lbl配管線膨張率, txt配管線膨張率, [this] { txt配管線膨張率_DblClick(); }, kFromMaterial);
   OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
   for (ComboBox* box : {&cbo絞り部材質, &cbo配管種類}) {
     box->onChange = [this] { ClearResults(); };

@@ -50,8 +50,10 @@ void frmRO::BindHandlers() {
     lbl最大応力単位.SetText(cbo許容応力単位.Text());
     ClearResults();
   };
-  OfferEntry(lblヤング率, txtヤング率, [this] { txtヤング率_DblClick(); });
-  OfferEntry(lbl許容応力, txt許容応力, [this] { txt許容応力_DblClick(); });
+  OfferEntry(
+      lblヤング率, txtヤング率, [this] { txtヤング率_DblClick(); }, kFromMaterial);
+  OfferEntry(
+      lbl許容応力, txt許容応力, [this] { txt許容応力_DblClick(); }, kFromMaterial);
   OfferPipe(lbl配管内径, cbo配管呼称径, cboSchedule, txt配管内径);
   cboRO材質.onChange = [this] { ClearResults(); };
   cboRO材質.onClick = [this] {

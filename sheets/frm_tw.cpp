@@ -24,8 +24,6 @@ constexpr double kNewtonPerKgf = 9.80665;
 constexpr double kMm2PerM2 = 1000000;
 constexpr double kMmPerM = 1000;
 
-constexpr const char* kMaterialHint = "ダブルクリックで材質と温度から入力します。";
-
 /// What stands for an amplitude that cannot be calculated.
 constexpr const char* kNoAmplitude = "xxxx ";
 
@@ -97,10 +95,12 @@ void frmTW::BindHandlers() {
     if (cbo保護管材質.Index() >= 0) FillMaterial();
   };
   cbo保護管材質.onChange = [this] { ClearResults(); };
-  OfferEntry(lbl保護管密度, txt保護管密度, [this] { FillDensity(); });
-  OfferEntry(lblヤング率, txtヤング率, [this] { FillYoungsModulus(); });
-  OfferEntry(lbl許容応力, txt許容応力, [this] { FillAllowableStress(); });
-  for (TextBox* box : {&txt保護管密度, &txtヤング率, &txt許容応力}) box->SetToolTip(kMaterialHint);
+  OfferEntry(
+      lbl保護管密度, txt保護管密度, [this] { FillDensity(); }, kFromMaterial);
+  OfferEntry(
+      lblヤング率, txtヤング率, [this] { FillYoungsModulus(); }, kFromMaterial);
+  OfferEntry(
+      lbl許容応力, txt許容応力, [this] { FillAllowableStress(); }, kFromMaterial);
   txt温度.onLostFocus = [this] { RefillMaterial(); };
   cbo温度単位.onClick = [this] {
     StoreEntries();
@@ -109,9 +109,9 @@ void frmTW::BindHandlers() {
   };
   cboヤング率単位.onClick = [this] { ClearResults(); };
   cbo許容応力単位.onClick = cboヤング率単位.onClick;
-  OfferEntry(lbl応力集中係数, txt応力集中係数, [this] { Space().forms.Show(frm形状係数::kName); });
-  txt応力集中係数.SetToolTip("ダブルクリックで面取り半径から求めます。");
-  lbl応力集中係数.SetToolTip("クリックで面取り半径から求めます。");
+  OfferEntry(
+      lbl応力集中係数, txt応力集中係数, [this] { Space().forms.Show(frm形状係数::kName); },
+      "面取り半径から求めます。");
   txt臨界減衰率.SetToolTip("空気中の値。空欄では応力振幅を計算できません。");
   for (forms::Control* control :
        std::initializer_list<forms::Control*>{&lbl固有振動数, &lblVr, &lblCn, &cmd振動数}) {

@@ -18,7 +18,7 @@ namespace {
 using common::NumberText;
 using common::Val;
 
-constexpr const char* kEstimateHint = "ダブルクリックで推算値を入力します。";
+std::string DoubleClickTip(const std::string& does) { return "ダブルクリックで" + does; }
 
 /// Runs a conversion of an entry that may not be complete yet; a fault leaves 0.
 template <class Conversion>
@@ -102,7 +102,7 @@ void ProcessSheet::UseFields(const OptionalFields& fields) {
     TextBox& kappa = *fields_.kappa;
     OfferProperty(*fields_.kappaLabel, kappa, "比熱比");
     kappa.onChange = [changed = kappa.onChange, &kappa] {
-      kappa.SetToolTip(kEstimateHint);  // a caution belongs to the value that has gone
+      kappa.SetToolTip(DoubleClickTip(kEstimates));  // a caution belongs to the value that has gone
       changed();
     };
   }
@@ -134,13 +134,14 @@ void ProcessSheet::Watch(ComboBox& box) {
   box.onChange = box.onClick;
 }
 
-void ProcessSheet::OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill) {
+void ProcessSheet::OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill,
+                              const std::string& does) {
   box.onDblClick = [&box, fill] {
     if (box.Usable()) fill();
   };
   label.onClick = box.onDblClick;
-  box.SetToolTip(kEstimateHint);
-  label.SetToolTip("クリックで推算値を入力します。");
+  box.SetToolTip(DoubleClickTip(does));
+  label.SetToolTip("クリックで" + does);
 }
 
 void ProcessSheet::OfferProperty(Label& label, TextBox& box, const char* word) {
@@ -219,7 +220,7 @@ void ProcessSheet::FillPipeBore(const ComboBox& size, const ComboBox& schedule, 
 
 void ProcessSheet::OfferPipe(Label& label, ComboBox& size, ComboBox& schedule, TextBox& bore) {
   const auto fill = [this, &size, &schedule, &bore] { FillPipeBore(size, schedule, bore); };
-  OfferEntry(label, bore, fill);
+  OfferEntry(label, bore, fill, "呼称径とスケジュールから入力します。");
   bore.onRightClick = [this] { Space().forms.Show(frmPipeDia::kName); };
   for (ComboBox* box : {&size, &schedule}) {
     box->onChange = [this] { ClearResults(); };
@@ -530,7 +531,7 @@ void ProcessSheet::WriteProperty(const std::string& word, std::optional<Real> va
   if (word != "比熱比") return;
   const bool doubtful = value && !data::IsPhysicalIsentropicExponent(*value);
   box->SetForeColor(doubtful ? forms::kMagenta : forms::kBlack);
-  box->SetToolTip(doubtful ? kUnphysicalExponent : kEstimateHint);
+  box->SetToolTip(doubtful ? kUnphysicalExponent : DoubleClickTip(kEstimates));
 }
 
 void ProcessSheet::FillProperty(const std::string& word, int fluidIndex) {

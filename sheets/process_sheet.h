@@ -169,8 +169,14 @@ class ProcessSheet : public shell::Sheet, public PropertyTarget, public Material
   /// Entry that calls ClearResults and stores the panel when it changes.
   void Watch(TextBox& box);
   void Watch(ComboBox& box);
-  /// Makes a double click on the field and a click on its label run the same automatic entry.
-  void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill);
+  /// What a double click does where the equations or the fluid list give the value, and where the
+  /// data of a material do.
+  static constexpr const char* kEstimates = "推算値を入力します。";
+  static constexpr const char* kFromMaterial = "材質と温度から入力します。";
+  /// Makes a double click on the field and a click on its label run the same automatic entry; the
+  /// tips of both tell what it does.
+  void OfferEntry(Label& label, TextBox& box, const std::function<void()>& fill,
+                  const std::string& does = kEstimates);
   /// An entry that the steam equations or the fluid list can fill by the word of its property.
   void OfferProperty(Label& label, TextBox& box, const char* word);
 
