@@ -64,6 +64,25 @@ class LabelField : public Clickable<QLabel, forms::Label> {
     Clickable::Clicked();
   }
 
+  void PressEnter() override { Clicked(); }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() != Qt::Key_Space) return Clickable::keyPressEvent(event);
+    Clicked();
+    event->accept();
+  }
+
+  /// The focus is a frame within the label, so that nothing moves.
+  void paintEvent(QPaintEvent* event) override {
+    constexpr int kLine = 2;
+    Clickable::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(
+        {QBrush(Theme::Current().accent), kLine, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
+    painter.drawRect(rect().adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2));
+  }
+
  private:
   int leastWidth_ = 0;
 };
@@ -308,6 +327,7 @@ Bound Bind(forms::Label& label, QWidget& parent) {
   SetLook(*widget, LookOf(label.Style()));
   widget->setTextFormat(Qt::PlainText);
   widget->setAttribute(Qt::WA_Hover);
+  if (label.TabStop()) widget->setFocusPolicy(Qt::TabFocus);
   if (label.Style() == forms::LabelStyle::kResult) {
     const auto* const result = dynamic_cast<const forms::ResultLabel*>(&label);
     const bool words = result != nullptr && result->HoldsWords();

@@ -45,6 +45,45 @@ bool IsCaption(const forms::Cell& cell) {
   return Is<forms::Label>(cell.Controls().front()) && !IsResult(cell.Controls().front());
 }
 
+/// Whether the cell shows figures, which stand at its right end.
+bool HoldsNumber(const forms::Cell& cell) {
+  if (cell.Controls().empty()) return false;
+  const forms::Control* const control = cell.Controls().front();
+  if (const auto* const box = dynamic_cast<const forms::TextBox*>(control)) return box->IsNumeric();
+  const auto* const result = dynamic_cast<const forms::ResultLabel*>(control);
+  return result != nullptr && !result->HoldsWords();
+}
+
+/// The cell over this column of a line, or null.
+const forms::Cell* CellOver(const forms::Line& line, int column) {
+  for (const forms::Cell& cell : line) {
+    column -= cell.Columns();
+    if (column < 0) return &cell;
+  }
+  return nullptr;
+}
+
+bool HoldsHeadings(const forms::Line& line) {
+  return std::all_of(line.begin(), line.end(), IsCaption);
+}
+
+/// Whether what stands in this column above that line heads figures.
+bool IsOverNumbers(const std::vector<forms::Line>& lines, std::size_t line, int column) {
+  for (; line < lines.size(); ++line) {
+    const forms::Cell* const cell = CellOver(lines[line], column);
+    const bool empty = cell == nullptr || cell->What() == forms::Cell::Kind::kEmpty;
+    if (!empty && !HoldsHeadings(lines[line])) return HoldsNumber(*cell);
+  }
+  return false;
+}
+
+/// Headings stand where the figures below them do: at the right end of their column, in the middle
+/// of several.
+Qt::Alignment AlignmentOf(const std::vector<forms::Line>& lines, std::size_t line, int column) {
+  if (!HoldsHeadings(lines[line]) || !IsOverNumbers(lines, line + 1, column)) return Qt::AlignLeft;
+  return CellOver(lines[line], column)->Columns() > 1 ? Qt::AlignHCenter : Qt::AlignRight;
+}
+
 /// Whether the cell gains from more room in both directions.
 bool IsArea(const forms::Cell& cell) {
   return std::any_of(cell.Controls().begin(), cell.Controls().end(),
@@ -174,18 +213,22 @@ QWidget* LayoutBuilder::BuildTable(const forms::Block& block) {
     grid->setHorizontalSpacing(scale.Em(kBetweenColumns));
     grid->setVerticalSpacing(scale.Em(kBetweenLines));
   });
-  int row = 0;
-  for (const forms::Line& line : block.lines) AddLine(*grid, row++, line);
+  for (std::size_t line = 0; line < block.lines.size(); ++line) AddLine(*grid, line, block.lines);
   StretchColumns(*grid, block.lines);
   StretchRows(*grid, block.lines);
   return table;
 }
 
-void LayoutBuilder::AddLine(QGridLayout& grid, int row, const forms::Line& line) {
+void LayoutBuilder::AddLine(QGridLayout& grid, std::size_t line,
+                            const std::vector<forms::Line>& lines) {
   int column = 0;
-  for (const forms::Cell& cell : line) {
+  for (const forms::Cell& cell : lines[line]) {
     if (QWidget* const widget = BuildCell(cell)) {
-      grid.addWidget(widget, row, column, 1, cell.Columns());
+      grid.addWidget(widget, static_cast<int>(line), column, 1, cell.Columns());
+      auto* const text = qobject_cast<QLabel*>(widget);
+      if (text != nullptr && IsCaption(cell)) {
+        text->setAlignment(Qt::AlignVCenter | AlignmentOf(lines, line, column));
+      }
     }
     column += cell.Columns();
   }

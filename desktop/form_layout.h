@@ -43,7 +43,7 @@ class LayoutBuilder {
   QWidget* BuildGroup(const forms::Block& block);
   QWidget* BuildButtons(const forms::Block& block);
 
-  void AddLine(QGridLayout& grid, int row, const forms::Line& line);
+  void AddLine(QGridLayout& grid, std::size_t line, const std::vector<forms::Line>& lines);
   QWidget* BuildCell(const forms::Cell& cell);
   QWidget* BuildOneOf(const forms::Cell& cell);
   QWidget* BuildSide(const forms::Cell& cell);

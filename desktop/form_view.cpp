@@ -107,8 +107,8 @@ void FormView::JoinCaptions(const std::vector<LayoutBuilder::Caption>& texts) {
 void FormView::OrderTabs() {
   QWidget* before = nullptr;
   for (const forms::Control* control : form_.TabOrder()) {
-    QWidget* const widget = control->TakesFocus() ? WidgetOf(*control) : nullptr;
-    if (widget == nullptr) continue;
+    QWidget* const widget = WidgetOf(*control);
+    if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
     if (before != nullptr) setTabOrder(before, widget);
     before = widget;
   }
@@ -117,7 +117,10 @@ void FormView::OrderTabs() {
 void FormView::FocusOn(const forms::Control& control) {
   QWidget* const widget = WidgetOf(control);
   if (widget == nullptr) return;
-  if (window()->focusWidget() != widget) {
+  QWidget* const before = window()->focusWidget();
+  if (before != widget) {
+    // A window in the background does not tell the field that it has lost the focus.
+    if (auto* const edit = qobject_cast<QLineEdit*>(before)) edit->deselect();
     widget->setFocus(Qt::OtherFocusReason);
     if (auto* const edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
   } else if (QGuiApplication::mouseButtons() != Qt::NoButton) {

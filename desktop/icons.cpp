@@ -45,12 +45,33 @@ class LineIcon : public QIconEngine {
   QColor color_;
 };
 
+/// The menu bar places the icon of a maximised sheet by the pixels of its picture, which would cut
+/// off one that has two for each of the window's.
+class SheetIcon : public LineIcon {
+ public:
+  using LineIcon::LineIcon;
+
+  QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state,
+                       qreal scale) override {
+    return pixmap(size / scale, mode, state);
+  }
+
+  QIconEngine* clone() const override { return new SheetIcon(*this); }
+};
+
+template <class Engine>
+QIcon Load(const std::string& name, const QColor& color) {
+  QFile file(QStringLiteral(":/icons/%1.svg").arg(QString::fromStdString(name)));
+  if (name.empty() || !file.open(QIODevice::ReadOnly)) return {};
+  return QIcon(new Engine(file.readAll(), color));
+}
+
 }  // namespace
 
 QIcon IconNamed(const std::string& name, const QColor& color) {
-  QFile file(QStringLiteral(":/icons/%1.svg").arg(QString::fromStdString(name)));
-  if (name.empty() || !file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new LineIcon(file.readAll(), color));
+  return Load<LineIcon>(name, color);
 }
+
+QIcon IconOfSheets() { return Load<SheetIcon>("app", {}); }
 
 }  // namespace desktop

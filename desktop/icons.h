@@ -10,4 +10,7 @@ namespace desktop {
 /// that colour, or in the text colour of the theme. An unknown name gives an empty icon.
 QIcon IconNamed(const std::string& name, const QColor& color = {});
 
+/// The icon of the sheets, in their title bars and in the menu bar.
+QIcon IconOfSheets();
+
 }  // namespace desktop

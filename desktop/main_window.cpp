@@ -46,7 +46,7 @@ const shell::MenuEntry* FindEntry(const std::vector<shell::MenuEntry>& entries,
 QString InstrumentFileIn(const QMimeData& data) {
   const auto urls = data.urls();
   for (const QUrl& url : urls) {
-    const QString path = url.toLocalFile();
+    QString path = url.toLocalFile();
     if (path.endsWith(QLatin1String(".zph"), Qt::CaseInsensitive)) return path;
   }
   return {};
@@ -200,9 +200,9 @@ void MainWindow::ShowState() {
   }
   for (const auto& [number, action] : buttons_) {
     const shell::ToolButton& button = *commands_.Button(number);
-    const QString tip = QString::fromStdString(button.toolTip);
+    const QString tip = QString::fromStdString(button.Told());
     action->setEnabled(button.enabled && button.run);
-    action->setText(CaptionOf(button.toolTip));
+    action->setText(CaptionOf(button.Told()));
     action->setToolTip(tip.toHtmlEscaped());
     action->setStatusTip(tip);
   }

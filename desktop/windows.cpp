@@ -54,7 +54,7 @@ QRect PlaceOf(const forms::Form& form, const QSize& size, const QRect& owner) {
 
 SheetWindow::SheetWindow(FormView& view) {
   setWidget(&view);
-  setWindowIcon(IconNamed("app"));
+  setWindowIcon(IconOfSheets());
   setAttribute(Qt::WA_DeleteOnClose, false);
 }
 

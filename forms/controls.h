@@ -20,9 +20,14 @@ class Label : public Control {
         LabelStyle style = LabelStyle::kCaption);
   const char* Kind() const override { return "label"; }
   LabelStyle Style() const { return style_; }
+  /// Whether Tab comes by, because no key elsewhere does what a click on the label does. Enter still
+  /// walks past it.
+  bool TabStop() const { return tabStop_; }
+  void SetTabStop() { tabStop_ = true; }
 
  private:
   LabelStyle style_;
+  bool tabStop_ = false;
 };
 
 /// A result label: empty at first, on a calm ground; a number stands to the right, words to the

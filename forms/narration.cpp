@@ -267,7 +267,12 @@ std::string Narration::UnitOf(const Control& control) const {
 std::string Narration::NameOf(const Control& control) const {
   std::string name = control.AccessibleName();
   if (!name.empty()) return name;
-  if (dynamic_cast<const Button*>(&control) != nullptr) return WithoutWideBlanks(control.Text());
+  const auto* const label = dynamic_cast<const Label*>(&control);
+  const bool pressed =
+      label != nullptr && label->TabStop() && label->Style() == LabelStyle::kCaption;
+  if (pressed || dynamic_cast<const Button*>(&control) != nullptr) {
+    return WithoutWideBlanks(control.Text());
+  }
   const Place* const place = PlaceOf(control);
   if (place == nullptr) return {};
   if (place->unitOf != nullptr) return NameOf(*place->unitOf) + "の単位";

@@ -71,6 +71,9 @@ void frmCV::BindHandlers() {
   lblSizingCv.onClick = [this] { lblSizingCv_Click(); };
   lblSizingCv.SetToolTip("クリックで補正の内訳を表示します。");
   lblNoise.onClick = [this] { lblNoise_Click(); };
+  lbl差圧.SetTabStop();
+  lblSizingCv.SetTabStop();
+  lblNoise.SetTabStop();
   cmdCv計算.onClick = [this] { cmdCv計算_Click(); };
   cmdSizing.onClick = [this] { cmdSizing_Click(); };
   cmdCvData消去.onClick = [this] { ClearResults(); };

@@ -332,7 +332,8 @@ void frmPressLoss::DeclareLayout() {
           forms::Stretched(forms::Column({ProcessBlock(), PipeBlock(), forms::Space()}), 6),
           forms::Stretched(forms::Column({ShapeBlock(), FittingBlock(), forms::Space()}), 6),
           forms::Stretched(
-              forms::Column({ResultBlock(), forms::Stretched(forms::Table({{pic圧力}})),
+              forms::Column({ResultBlock(),
+                             forms::Stretched(forms::Group("圧力線図", forms::Table({{pic圧力}}))),
                              forms::Buttons({{}, cmdInitialize, cmd計算})}),
               7),
       })));

@@ -68,6 +68,7 @@ void frm単位換算::BindHandlers() {
   lstCategory.onClick = [this] { Show(lstCategory.Index(), 0); };
   TabStrip1.onClick = [this] { Show(TabStrip1.Index(), 0); };
   lblCategory.onClick = [this] { SwitchMode(!categoryMode_); };
+  lblCategory.SetTabStop();
   lblCategory.onRightClick = [this] { OpenEdit(UnitEdit::kRenameCategory); };
   lstLeft.onRightClick = [this] { OpenEdit(UnitEdit::kChangeUnit); };
   lstLeft.onClick = [this] { Convert(); };

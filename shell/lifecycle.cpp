@@ -119,7 +119,7 @@ std::vector<std::string> WordsOf(const std::string& command) {
 
 /// A house's own help file goes before the guide.
 std::string HelpPath(const Workspace& workspace) {
-  const std::string helpFile = common::JoinPath(workspace.installDir, "Zepha.chm");
+  std::string helpFile = common::JoinPath(workspace.installDir, "Zepha.chm");
   std::error_code error;
   if (std::filesystem::exists(helpFile, error)) return helpFile;
   const SheetEntry* const sheet = FindSheet(workspace.activeSheetKind);

@@ -50,9 +50,16 @@ class MenuBuilder {
 
   void Button(int number, const std::string& toolTip, const std::string& icon,
               std::function<void()> run = {}) {
-    window_.AddButton({number, toolTip, icon, std::move(run), true, false});
+    window_.AddButton({number, toolTip, icon, std::move(run), true, false, {}});
   }
-  void SeparatorButton(int number) { window_.AddButton({number, {}, {}, {}, false, true}); }
+  /// index: of the program, from 0. Its tool tip comes with the user's programs.
+  void UserButton(int index) {
+    window_.AddButton({kFirstUserButton + index, "", "user-program",
+                       Calls([index](Workspace& workspace) { StartUserProgram(workspace, index); }),
+                       true, false,
+                       "ユーザープログラム" + std::to_string(index + 1) + "（未登録）"});
+  }
+  void SeparatorButton(int number) { window_.AddButton({number, {}, {}, {}, false, true, {}}); }
 
   /// Opens a sheet; empty when the program has no form for it.
   std::function<void()> Opener(const std::string& kind, int elementKind = -1) const {
@@ -195,10 +202,7 @@ void AddButtons(MenuBuilder& menu) {
   menu.Button(26, "材料データベース", "material", menu.Opener("Material"));
   menu.SeparatorButton(27);
   menu.SeparatorButton(28);
-  for (int i = 0; i < static_cast<int>(UserPrograms().size()); ++i) {
-    menu.Button(kFirstUserButton + i, "", "user-program",
-                menu.Calls([i](Workspace& workspace) { StartUserProgram(workspace, i); }));
-  }
+  for (int i = 0; i < static_cast<int>(UserPrograms().size()); ++i) menu.UserButton(i);
 }
 
 }  // namespace

@@ -36,6 +36,10 @@ struct ToolButton {
   std::function<void()> run;  // empty: separator, or nothing stands behind it yet
   bool enabled = true;
   bool separator = false;
+  /// What it is called while it has no tool tip.
+  std::string name;
+
+  const std::string& Told() const { return toolTip.empty() ? name : toolTip; }
 };
 
 /// Place of the main window on the screen, in twips, and whether it is maximised or minimised.
