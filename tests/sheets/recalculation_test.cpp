@@ -273,7 +273,8 @@ TEST_F(RecalculationTest, EveryStoredFieldHasANameOfItsOwn) {
     for (int column = 0; column < shell::kKindColumn; ++column) {
       if (Tags().Text(row, column).empty()) continue;
       const std::string name = shell::FieldName(kind, column);
-      EXPECT_EQ(name.find("第"), std::string::npos) << kind << column;
+      EXPECT_EQ(name.find("第"), std::string::npos)
+          << kind << column << " has a name neither in the workbook nor in shell/field_names.cpp.";
       EXPECT_EQ(names[kind].try_emplace(name, column).first->second, column) << kind << name;
     }
   }

@@ -320,7 +320,8 @@ TEST_F(WorkbookTest, EveryColumnOfEveryKindHasItsTitleFormatAndValue) {
       ASSERT_EQ(rows[0][c].is_null() ? json("") : rows[0][c][0], title)
           << "From here on the columns differ.";
       const json& cell = rows[1][c];
-      EXPECT_EQ(cell.is_null() ? cell : cell[0], ValueOf(value));
+      EXPECT_EQ(cell.is_null() ? cell : cell[0], ValueOf(value))
+          << "Expected is " << value << "; ExpectedColumn tells what #, $ and = stand for.";
       if (cell.is_null()) continue;
       EXPECT_EQ(cell[1], format);
       EXPECT_EQ(cell[2] == "n", ValueOf(value).is_number());
