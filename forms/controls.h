@@ -20,8 +20,8 @@ class Label : public Control {
         LabelStyle style = LabelStyle::kCaption);
   const char* Kind() const override { return "label"; }
   LabelStyle Style() const { return style_; }
-  /// Whether Tab comes by, because no key elsewhere does what a click on the label does. Enter still
-  /// walks past it.
+  /// Whether Tab comes by, because no key elsewhere does what a click on the label does. Enter
+  /// still walks past it.
   bool TabStop() const { return tabStop_; }
   void SetTabStop() { tabStop_ = true; }
 
