@@ -37,7 +37,8 @@ TEST(UserPrograms, ReadsWhatIsThere) {
       {"no line ends", "\"電卓\",\"/opt/my tools/calc\",\"電卓\",\"/opt/my tools/calc\"", 2},
   };
   const tests::TemporaryFolder folder;
-  EXPECT_TRUE(ReadUserPrograms(folder.Path()) == UserPrograms()) << "no file";
+  const UserPrograms none;
+  EXPECT_TRUE(ReadUserPrograms(folder.Path()) == none) << "no file";
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     common::WriteFile(folder / "UserProgram.dat", common::ToCp932(row.text));

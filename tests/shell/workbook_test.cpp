@@ -282,6 +282,7 @@ class WorkbookTest : public testing::Test {
     std::map<std::string, json> rows;
     for (const json& sheet : Written()) rows[sheet["name"]] = sheet["rows"];
     std::vector<json> cells;
+    cells.reserve(questions.size());
     std::map<std::string, std::size_t> next;
     for (const Asked& asked : questions) {
       cells.push_back(
