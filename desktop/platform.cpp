@@ -88,7 +88,10 @@ bool OpenedBy(const QString& opener, const QString& path) {
   process->setStandardErrorFile(QProcess::nullDevice());
   process->setChildProcessModifier([] { setsid(); });
   process->start(opener, {path});
-  if (!process->waitForStarted()) return false;
+  if (!process->waitForStarted()) {
+    delete process;
+    return false;
+  }
   if (!process->waitForFinished(kPatience)) return true;
   return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
 }
